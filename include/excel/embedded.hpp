@@ -1,0 +1,12 @@
+#pragma once
+
+#include <excel/application.hpp>
+
+#include <memory>
+
+namespace excel::embedded {
+
+// A new instance of the embedded spreadsheet engine, with no workbook open.
+std::shared_ptr<excel::Application> CreateApplication();
+
+}  // namespace excel::embedded

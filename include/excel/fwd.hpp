@@ -1,0 +1,26 @@
+#pragma once
+
+#include <memory>
+
+namespace excel {
+
+class Application;
+class Workbooks;
+class Workbook;
+class Sheets;
+using Worksheets = Sheets;  // Workbook.Worksheets and Workbook.Sheets answer the same collection
+class Worksheet;
+class Windows;
+class Window;
+class PageSetup;
+class Range;
+class Areas;
+class Font;
+class Interior;
+class Borders;
+class Border;
+class Characters;
+class Names;
+class Name;
+
+}  // namespace excel
