@@ -31,7 +31,8 @@ public:
     virtual std::shared_ptr<excel::Range> Rows(int32_t index) = 0;
     virtual std::shared_ptr<excel::Range> Columns() = 0;
     virtual std::shared_ptr<excel::Range> Columns(int32_t index) = 0;
-    virtual std::shared_ptr<excel::Range> Range(const std::string& address) = 0;  // relative to this range
+    // Range.Range: an address relative to this range (C++ cannot name a member after its class).
+    virtual std::shared_ptr<excel::Range> GetRange(const std::string& address) = 0;
     virtual std::shared_ptr<excel::Areas> Areas() = 0;
     virtual std::shared_ptr<excel::Range> EntireRow() = 0;
     virtual std::shared_ptr<excel::Range> EntireColumn() = 0;
