@@ -13,6 +13,7 @@ namespace excel {
 struct SafeArrayBound {
     int32_t lowerBound = 0;
     uint32_t count = 0;
+    friend bool operator==(const SafeArrayBound&, const SafeArrayBound&) = default;
 };
 
 // An automation SAFEARRAY: an element type, a number of dimensions and each dimension's lower

@@ -20,6 +20,7 @@ enum class VarType : uint16_t {
     Boolean = 11,
     Variant = 12,  // only as an array element type
     Byte = 17,
+    Array = 0x2000,  // or-ed with the element type for an array, as VarType() reports it
 };
 
 }  // namespace excel
