@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ooxml {
+
+class ZipArchiveReader;
+
+struct Relationship {
+    std::string id;
+    std::string type;    // the full relationship type URI
+    std::string target;  // an internal target resolved to a part name without the leading "/"
+    bool external = false;
+};
+
+// "xl/workbook.xml" -> "xl/_rels/workbook.xml.rels"; the package itself ("") -> "_rels/.rels".
+std::string RelationshipsPartName(std::string_view sourcePartName);
+
+// Resolves a relationship target, absolute ("/xl/styles.xml") or relative to the source part's
+// folder ("worksheets/sheet1.xml", "../media/image1.png"), to a part name; "" when it leaves the
+// package.
+std::string ResolveRelationshipTarget(std::string_view sourcePartName, std::string_view target);
+
+// The relationships of a part; none when it has no relationships part. Throws PackageError(Corrupt).
+std::vector<Relationship> ReadRelationships(const ZipArchiveReader& archive, std::string_view sourcePartName);
+
+// Relationship types are compared by their last segment ("worksheet", "officeDocument"), which
+// transitional and strict packages share.
+bool HasRelationshipType(const Relationship& relationship, std::string_view typeName);
+const Relationship* FindRelationshipOfType(const std::vector<Relationship>& relationships, std::string_view typeName);
+const Relationship* FindRelationship(const std::vector<Relationship>& relationships, std::string_view id);
+
+}  // namespace ooxml

@@ -1,0 +1,105 @@
+#include "ooxml/zip_archive_reader.hpp"
+
+#include "ooxml/package_error.hpp"
+
+#include <zip.h>
+
+#include <filesystem>
+#include <fstream>
+#include <system_error>
+
+namespace ooxml {
+
+namespace {
+
+[[noreturn]] void ThrowOpenError(const std::string& path, int zipError) {
+    switch (zipError) {
+    case ZIP_ER_NOENT:
+        throw PackageError(PackageError::Reason::FileNotFound, "File not found: " + path);
+    case ZIP_ER_OPEN:
+    case ZIP_ER_READ:
+        throw PackageError(PackageError::Reason::AccessDenied, "Cannot read: " + path);
+    case ZIP_ER_MEMORY:
+        throw std::bad_alloc();
+    default:
+        throw PackageError(PackageError::Reason::NotAPackage, "Not a zip package: " + path);
+    }
+}
+
+// libzip reports a folder or an unreadable file only as a failed open; tell the caller which.
+void CheckReadable(const std::string& path) {
+    std::error_code error;
+    const auto status = std::filesystem::status(path, error);
+    if (!std::filesystem::exists(status)) {
+        throw PackageError(PackageError::Reason::FileNotFound, "File not found: " + path);
+    }
+    if (std::filesystem::is_directory(status) || !std::ifstream(path, std::ios::binary)) {
+        throw PackageError(PackageError::Reason::AccessDenied, "Cannot read: " + path);
+    }
+}
+
+}  // namespace
+
+void ZipArchiveReader::Closer::operator()(zip* archive) const {
+    zip_discard(archive);
+}
+
+ZipArchiveReader::ZipArchiveReader(const std::string& path) : path_(path) {
+    CheckReadable(path);
+    int zipError = 0;
+    zip* archive = zip_open(path.c_str(), ZIP_RDONLY, &zipError);
+    if (archive == nullptr) {
+        ThrowOpenError(path, zipError);
+    }
+    archive_.reset(archive);
+}
+
+ZipArchiveReader::~ZipArchiveReader() = default;
+
+bool ZipArchiveReader::Contains(std::string_view entryName) const {
+    const std::string name(entryName);
+    return zip_name_locate(archive_.get(), name.c_str(), ZIP_FL_NOCASE) >= 0;
+}
+
+std::optional<std::string> ZipArchiveReader::Read(std::string_view entryName) const {
+    const std::string name(entryName);
+    const zip_int64_t index = zip_name_locate(archive_.get(), name.c_str(), ZIP_FL_NOCASE);
+    if (index < 0) {
+        return std::nullopt;
+    }
+    const auto corrupt = [&](const char* what) {
+        return PackageError(PackageError::Reason::Corrupt, std::string(what) + " " + name + " in " + path_);
+    };
+    zip_stat_t stat;
+    zip_stat_init(&stat);
+    if (zip_stat_index(archive_.get(), static_cast<zip_uint64_t>(index), 0, &stat) != 0) {
+        throw corrupt("Unreadable entry");
+    }
+    std::unique_ptr<zip_file_t, int (*)(zip_file_t*)> file(
+        zip_fopen_index(archive_.get(), static_cast<zip_uint64_t>(index), 0), zip_fclose);
+    if (!file) {
+        throw corrupt("Cannot open entry");
+    }
+    // The size in the directory is only a hint: a hostile file may state anything.
+    std::string bytes;
+    if ((stat.valid & ZIP_STAT_SIZE) != 0 && stat.size <= MaxEntrySize) {
+        bytes.reserve(static_cast<std::size_t>(stat.size));
+    }
+    char buffer[64 * 1024];
+    for (;;) {
+        const zip_int64_t count = zip_fread(file.get(), buffer, sizeof buffer);
+        if (count < 0) {
+            throw corrupt("Damaged entry");
+        }
+        if (count == 0) {
+            break;
+        }
+        if (bytes.size() + static_cast<std::size_t>(count) > MaxEntrySize) {
+            throw corrupt("Oversized entry");
+        }
+        bytes.append(buffer, static_cast<std::size_t>(count));
+    }
+    return bytes;
+}
+
+}  // namespace ooxml
