@@ -1,0 +1,20 @@
+#pragma once
+
+#include "ooxml/workbook_document.hpp"
+#include "ooxml/xml_writer.hpp"
+
+#include <string_view>
+
+namespace ooxml {
+
+inline constexpr std::string_view kWorksheetContentType =
+    "application/vnd.openxmlformats-officedocument.spreadsheetml.worksheet+xml";
+inline constexpr std::string_view kWorksheetRelationshipType =
+    "http://schemas.openxmlformats.org/officeDocument/2006/relationships/worksheet";
+
+// Writes a worksheet part (xl/worksheets/sheetN.xml), streaming its rows. Throws PackageError
+// (WriteFailed) when a cell or row refers to a format, string or formula the document does not
+// have, or rows and cells are out of order: Excel would have to repair such a file.
+void WriteWorksheetPart(XmlWriter& xml, const WorkbookDocument& document, const SheetDocument& sheet);
+
+}  // namespace ooxml
