@@ -47,6 +47,12 @@ std::string FormatBlock(const CellBlock& block, bool rowAbsolute, bool columnAbs
 // The block in absolute R1C1 notation: "R1C1", "R1C1:R2C2", "C1:C2", "R1:R3".
 std::string FormatBlockR1C1(const CellBlock& block);
 
+// Whether text reads as one cell in A1 notation ("A1", "xfd1048576"), which names may not.
+bool LooksLikeA1Cell(std::string_view text);
+
+// Whether text reads as an R1C1 reference: "R", "C", "R1", "C3", "RC", "R1C1" (any case).
+bool LooksLikeR1C1Reference(std::string_view text);
+
 struct ParsedReference {
     std::string sheet;  // empty when unqualified; never quoted
     std::vector<CellBlock> areas;
