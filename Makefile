@@ -1,0 +1,46 @@
+# Entry points. Each target does its own set-up on a fresh Debian 12 machine: it installs the
+# missing packages, configures the build and builds what it runs.
+
+BUILD_DIR := build
+BUILD_TYPE := RelWithDebInfo
+OUT_DIR := out
+JOBS := $(shell nproc 2>/dev/null || echo 2)
+
+EXAMPLES := $(basename $(notdir $(wildcard examples/*.cpp)))
+BENCHMARKS := $(basename $(notdir $(wildcard bench/*.cpp)))
+
+.PHONY: all deps configure build test demo bench sanitize clean
+
+all: build
+
+deps:
+	scripts/install-deps
+
+configure: deps
+	cmake -S . -B $(BUILD_DIR) -DCMAKE_BUILD_TYPE=$(BUILD_TYPE)
+
+build: configure
+	cmake --build $(BUILD_DIR) --parallel $(JOBS)
+
+test: build
+	ctest --test-dir $(BUILD_DIR) --output-on-failure --parallel $(JOBS)
+
+demo: build
+	@mkdir -p $(OUT_DIR)
+	@for example in $(EXAMPLES); do \
+	    $(BUILD_DIR)/examples/$$example $(OUT_DIR)/$$example.xlsx || exit 1; \
+	done
+
+bench: build
+	@for benchmark in $(BENCHMARKS); do \
+	    echo "== $$benchmark"; \
+	    $(BUILD_DIR)/bench/$$benchmark || exit 1; \
+	done
+
+sanitize: deps
+	cmake --preset sanitize
+	cmake --build --preset sanitize --parallel $(JOBS)
+	ctest --preset sanitize --parallel $(JOBS)
+
+clean:
+	rm -rf $(BUILD_DIR) build-sanitize $(OUT_DIR)
