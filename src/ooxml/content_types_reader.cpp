@@ -1,6 +1,7 @@
 #include "ooxml/content_types_reader.hpp"
 
 #include "ooxml/package_error.hpp"
+#include "ooxml/percent_decoder.hpp"
 #include "ooxml/xml_node_access.hpp"
 #include "ooxml/xml_part_parser.hpp"
 #include "ooxml/zip_archive_reader.hpp"
@@ -40,7 +41,7 @@ ContentTypes::ContentTypes(const ZipArchiveReader& archive) {
         if (!partName.empty() && partName.front() == '/') {
             partName.remove_prefix(1);
         }
-        byPartName_.emplace(LowerCase(partName), AttributeText(node, "ContentType"));
+        byPartName_.emplace(LowerCase(PercentDecoded(partName)), AttributeText(node, "ContentType"));
     });
 }
 

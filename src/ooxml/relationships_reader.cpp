@@ -1,5 +1,6 @@
 #include "ooxml/relationships_reader.hpp"
 
+#include "ooxml/percent_decoder.hpp"
 #include "ooxml/xml_node_access.hpp"
 #include "ooxml/xml_part_parser.hpp"
 #include "ooxml/zip_archive_reader.hpp"
@@ -8,42 +9,6 @@
 #include <optional>
 
 namespace ooxml {
-
-namespace {
-
-std::optional<int> HexDigit(char c) {
-    if (c >= '0' && c <= '9') {
-        return c - '0';
-    }
-    if (c >= 'a' && c <= 'f') {
-        return c - 'a' + 10;
-    }
-    if (c >= 'A' && c <= 'F') {
-        return c - 'A' + 10;
-    }
-    return std::nullopt;
-}
-
-// Targets are URIs: "%20" in a target is a space in the part name.
-std::string PercentDecoded(std::string_view text) {
-    std::string out;
-    out.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '%' && i + 2 < text.size()) {
-            const std::optional<int> high = HexDigit(text[i + 1]);
-            const std::optional<int> low = HexDigit(text[i + 2]);
-            if (high && low) {
-                out += static_cast<char>(*high * 16 + *low);
-                i += 2;
-                continue;
-            }
-        }
-        out += text[i];
-    }
-    return out;
-}
-
-}  // namespace
 
 std::string RelationshipsPartName(std::string_view sourcePartName) {
     const std::size_t slash = sourcePartName.rfind('/');

@@ -1,0 +1,89 @@
+#include "reader_test_package.hpp"
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+#include <zip.h>
+
+#include <atomic>
+#include <cstdio>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+
+namespace ooxml_test {
+
+namespace {
+
+std::string FreshPath() {
+    static std::atomic<int> counter{0};
+    return ::testing::TempDir() + "reader_test_" + std::to_string(::getpid()) + "_" + std::to_string(counter++) +
+           ".xlsx";
+}
+
+}  // namespace
+
+PackageParts MinimalPackage(const std::string& sheetContent) {
+    return {
+        {"[Content_Types].xml",
+         R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)"
+         R"(<Types xmlns="http://schemas.openxmlformats.org/package/2006/content-types">)"
+         R"(<Default Extension="rels" ContentType="application/vnd.openxmlformats-package.relationships+xml"/>)"
+         R"(<Default Extension="xml" ContentType="application/xml"/>)"
+         R"(<Override PartName="/xl/workbook.xml" ContentType="application/vnd.openxmlformats-officedocument.spreadsheetml.sheet.main+xml"/>)"
+         R"(<Override PartName="/xl/worksheets/sheet1.xml" ContentType="application/vnd.openxmlformats-officedocument.spreadsheetml.worksheet+xml"/>)"
+         R"(</Types>)"},
+        {"_rels/.rels",
+         R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)"
+         R"(<Relationships xmlns="http://schemas.openxmlformats.org/package/2006/relationships">)"
+         R"(<Relationship Id="rId1" Type="http://schemas.openxmlformats.org/officeDocument/2006/relationships/officeDocument" Target="xl/workbook.xml"/>)"
+         R"(</Relationships>)"},
+        {"xl/workbook.xml",
+         R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)"
+         R"(<workbook xmlns="http://schemas.openxmlformats.org/spreadsheetml/2006/main" xmlns:r="http://schemas.openxmlformats.org/officeDocument/2006/relationships">)"
+         R"(<sheets><sheet name="Sheet1" sheetId="1" r:id="rId1"/></sheets></workbook>)"},
+        {"xl/_rels/workbook.xml.rels",
+         R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)"
+         R"(<Relationships xmlns="http://schemas.openxmlformats.org/package/2006/relationships">)"
+         R"(<Relationship Id="rId1" Type="http://schemas.openxmlformats.org/officeDocument/2006/relationships/worksheet" Target="worksheets/sheet1.xml"/>)"
+         R"(</Relationships>)"},
+        {"xl/worksheets/sheet1.xml",
+         R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)"
+         R"(<worksheet xmlns="http://schemas.openxmlformats.org/spreadsheetml/2006/main" xmlns:r="http://schemas.openxmlformats.org/officeDocument/2006/relationships">)" +
+             sheetContent + "</worksheet>"},
+    };
+}
+
+TemporaryPackage::TemporaryPackage(const PackageParts& parts) : path_(FreshPath()) {
+    int error = 0;
+    zip_t* archive = zip_open(path_.c_str(), ZIP_CREATE | ZIP_TRUNCATE, &error);
+    if (archive == nullptr) {
+        throw std::runtime_error("cannot create " + path_);
+    }
+    for (const auto& [name, bytes] : parts) {
+        zip_source_t* source = zip_source_buffer(archive, bytes.data(), bytes.size(), 0);
+        if (source == nullptr || zip_file_add(archive, name.c_str(), source, ZIP_FL_ENC_UTF_8) < 0) {
+            zip_source_free(source);
+            zip_discard(archive);
+            throw std::runtime_error("cannot add " + name);
+        }
+    }
+    if (zip_close(archive) != 0) {
+        zip_discard(archive);
+        throw std::runtime_error("cannot write " + path_);
+    }
+}
+
+TemporaryPackage::TemporaryPackage(const std::string& bytes) : path_(FreshPath()) {
+    std::ofstream(path_, std::ios::binary) << bytes;
+}
+
+TemporaryPackage::~TemporaryPackage() {
+    std::remove(path_.c_str());
+}
+
+std::string FileBytes(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
+}
+
+}  // namespace ooxml_test
