@@ -106,9 +106,9 @@ std::optional<double> ParseAutomationNumber(std::string_view text) {
     double value = 0;
     const auto [end, error] = std::from_chars(clean.data(), clean.data() + clean.size(), value);
     if (error == std::errc::result_out_of_range) {
-        // Too small rounds to zero; too large is the runtime's overflow.
-        if (std::abs(value) > 1.0) ThrowRuntimeError(OverflowError);
-        return negative ? -0.0 : 0.0;
+        // Too small (a large negative exponent) rounds to zero; too large is the runtime's overflow.
+        if (clean.find("e-") == std::string::npos) ThrowRuntimeError(OverflowError);
+        return 0.0;
     }
     if (error != std::errc() || end != clean.data() + clean.size()) return std::nullopt;
     if (!std::isfinite(value)) ThrowRuntimeError(OverflowError);

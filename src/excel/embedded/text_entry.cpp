@@ -129,7 +129,8 @@ bool ReadNumber(std::string_view text, TextEntry& entry) {
     const auto [end, error] = std::from_chars(plain.data(), plain.data() + plain.size(), value);
     if (end != plain.data() + plain.size()) return false;
     if (error == std::errc::result_out_of_range) {
-        if (std::abs(value) > 1.0) return false;
+        // A large negative exponent rounds to zero; a number too large stays text.
+        if (plain.find("e-") == std::string::npos) return false;
         value = 0.0;
     } else if (error != std::errc() || std::abs(value) > LargestNumber) {
         return false;
