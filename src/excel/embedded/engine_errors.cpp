@@ -1,0 +1,11 @@
+#include "excel/embedded/engine_errors.hpp"
+
+#include <excel/automation_error.hpp>
+
+namespace excel::embedded {
+
+void ThrowRefused(const std::string& text) { throw AutomationError(hresult::Refused, text); }
+
+void ThrowObjectRequired() { throw AutomationError(hresult::ObjectRequired, "Object required"); }
+
+}  // namespace excel::embedded

@@ -1,0 +1,272 @@
+#include "excel/embedded/workbook_document_conversion.hpp"
+
+#include "excel/embedded/color_conversion.hpp"
+#include "excel/embedded/geometry.hpp"
+#include "excel/embedded/palette.hpp"
+#include "excel/embedded/text_entry.hpp"
+
+#include <excel/automation_error.hpp>
+
+#include <ctime>
+#include <unordered_map>
+
+namespace excel::embedded {
+
+namespace {
+
+constexpr uint32_t unmapped = UINT32_MAX;
+
+// The file's palette entries are 0x00RRGGBB; the object model's are 0x00BBGGRR.
+uint32_t SwapRedBlue(uint32_t color) {
+    return ((color & 0xFFu) << 16) | (color & 0xFF00u) | ((color >> 16) & 0xFFu);
+}
+
+// Numbers the strings cells use, in first-use order, so unused pool entries are not saved.
+class StringNumbering {
+public:
+    StringNumbering(const StringPool& pool, std::vector<ooxml::SharedString>& out) : pool_(pool), out_(out) {}
+
+    uint32_t Number(uint32_t poolId) {
+        if (poolId >= numbers_.size()) {
+            numbers_.resize(poolId + 1, unmapped);
+        }
+        if (numbers_[poolId] == unmapped) {
+            numbers_[poolId] = static_cast<uint32_t>(out_.size());
+            out_.push_back(pool_.Get(poolId));
+        }
+        return numbers_[poolId];
+    }
+    uint32_t NumberText(const std::string& text) {
+        auto [it, inserted] = texts_.try_emplace(text, static_cast<uint32_t>(out_.size()));
+        if (inserted) {
+            out_.push_back(ooxml::SharedString{text, {}});
+        }
+        return it->second;
+    }
+
+private:
+    const StringPool& pool_;
+    std::vector<ooxml::SharedString>& out_;
+    std::vector<uint32_t> numbers_;
+    std::unordered_map<std::string, uint32_t> texts_;
+};
+
+void ConvertColumns(const WorksheetModel& sheet, ooxml::SheetDocument& out) {
+    const ColumnStore& columns = sheet.Columns();
+    if (!columns.Allocated()) {
+        return;
+    }
+    const ColumnInfo standard{};
+    for (int32_t column = 1; column <= MaxColumn;) {
+        const ColumnInfo& info = columns.Get(column);
+        int32_t last = column;
+        while (last < MaxColumn && columns.Get(last + 1) == info) {
+            ++last;
+        }
+        if (!(info == standard)) {
+            ooxml::ColumnRange range;
+            range.first = static_cast<uint32_t>(column);
+            range.last = static_cast<uint32_t>(last);
+            if (info.HasCustomWidth()) {
+                range.width = FileColumnWidth(info.width);
+            }
+            if (info.format != 0) {
+                range.format = info.format;
+            }
+            range.hidden = info.hidden || (info.HasCustomWidth() && info.width == 0.0);
+            out.columns.push_back(range);
+        }
+        column = last + 1;
+    }
+}
+
+ooxml::SheetDocument ConvertSheet(const WorksheetModel& sheet, StringNumbering& strings, const StringPool& pool) {
+    const SheetSettings& settings = sheet.Settings();
+    ooxml::SheetDocument out;
+    out.name = settings.name;
+    out.state = settings.visibility == 0 ? "hidden" : settings.visibility == 2 ? "veryHidden" : "visible";
+    out.showGridLines = settings.showGridlines;
+    out.printGridLines = settings.printGridlines;
+    out.showPageBreaks = settings.showPageBreaks;
+    out.defaultRowHeight = settings.defaultRowHeight;
+    out.activeCell = settings.activeCell;
+    ConvertColumns(sheet, out);
+    out.rows.reserve(sheet.Cells().Rows().size());
+    for (const RowData& row : sheet.Cells().Rows()) {
+        if (row.IsBare()) {
+            continue;
+        }
+        ooxml::Row outRow;
+        outRow.index = static_cast<uint32_t>(row.index);
+        if (row.HasCustomHeight()) {
+            outRow.height = row.height;
+        }
+        if (row.hasFormat) {
+            outRow.format = row.format;
+        }
+        outRow.hidden = row.hidden;
+        outRow.cells.reserve(row.cells.size());
+        for (const Cell& cell : row.cells) {
+            ooxml::Cell outCell;
+            outCell.column = cell.column;
+            outCell.format = cell.format;
+            switch (cell.kind) {
+            case CellKind::Blank:
+                break;
+            case CellKind::Number:
+                outCell.type = ooxml::CellType::Number;
+                outCell.number = cell.number;
+                break;
+            case CellKind::Boolean:
+                outCell.type = ooxml::CellType::Boolean;
+                outCell.number = cell.number;
+                break;
+            case CellKind::Text:
+                outCell.type = ooxml::CellType::String;
+                outCell.string = strings.Number(cell.text);
+                break;
+            case CellKind::Error:
+                outCell.type = ooxml::CellType::Error;
+                outCell.string = strings.NumberText(ErrorTextFromNumber(cell.error));
+                break;
+            case CellKind::Formula:
+                outCell.formula = static_cast<uint32_t>(out.formulas.size());
+                out.formulas.push_back(pool.Get(cell.text).text);
+                break;
+            }
+            outRow.cells.push_back(outCell);
+        }
+        out.rows.push_back(std::move(outRow));
+    }
+    for (const CellBlock& merge : sheet.Merges()) {
+        out.merges.push_back(ooxml::CellBlock{static_cast<uint32_t>(merge.top), static_cast<uint32_t>(merge.left),
+                                              static_cast<uint32_t>(merge.bottom), static_cast<uint32_t>(merge.right)});
+    }
+    return out;
+}
+
+void LoadSheet(WorksheetModel& sheet, const ooxml::SheetDocument& in, const std::vector<uint32_t>& formatIds,
+               const std::vector<uint32_t>& stringIds, const std::vector<ooxml::SharedString>& strings,
+               StringPool& pool) {
+    SheetSettings& settings = sheet.Settings();
+    settings.visibility = in.state == "hidden" ? 0 : in.state == "veryHidden" ? 2 : -1;
+    settings.showGridlines = in.showGridLines;
+    settings.printGridlines = in.printGridLines;
+    settings.showPageBreaks = in.showPageBreaks;
+    settings.defaultRowHeight = in.defaultRowHeight;
+    settings.activeCell = in.activeCell;
+    auto formatId = [&](uint32_t index) { return index < formatIds.size() ? formatIds[index] : 0u; };
+    for (const ooxml::ColumnRange& range : in.columns) {
+        for (uint32_t column = range.first; column <= range.last && column <= MaxColumn; ++column) {
+            ColumnInfo& info = sheet.Columns().Edit(static_cast<int32_t>(column));
+            if (range.width) {
+                info.width = ColumnWidthFromFile(*range.width);
+            }
+            info.format = range.format ? formatId(*range.format) : 0;
+            info.hidden = range.hidden;
+        }
+    }
+    auto& rows = sheet.Cells().Rows();
+    rows.reserve(in.rows.size());
+    for (const ooxml::Row& inRow : in.rows) {
+        RowData& row = sheet.Cells().EnsureRow(static_cast<int32_t>(inRow.index));
+        row.height = inRow.height.value_or(-1.0);
+        row.hasFormat = inRow.format.has_value();
+        row.format = inRow.format ? formatId(*inRow.format) : 0;
+        row.hidden = inRow.hidden;
+        row.cells.reserve(inRow.cells.size());
+        for (const ooxml::Cell& inCell : inRow.cells) {
+            Cell cell = Cell::Blank(static_cast<int32_t>(inCell.column), formatId(inCell.format));
+            if (inCell.formula != ooxml::NoFormula && inCell.formula < in.formulas.size()) {
+                cell.kind = CellKind::Formula;
+                cell.text = pool.Intern(in.formulas[inCell.formula]);
+            } else if (inCell.type == ooxml::CellType::Number || inCell.type == ooxml::CellType::Boolean) {
+                cell.kind = inCell.type == ooxml::CellType::Number ? CellKind::Number : CellKind::Boolean;
+                cell.number = inCell.number;
+            } else if (inCell.type == ooxml::CellType::String && inCell.string < stringIds.size()) {
+                cell.kind = CellKind::Text;
+                cell.text = stringIds[inCell.string];
+            } else if (inCell.type == ooxml::CellType::Error && inCell.string < strings.size()) {
+                cell.kind = CellKind::Error;
+                cell.error = ErrorNumberFromText(strings[inCell.string].text).value_or(2042);
+            }
+            row.cells.push_back(cell);
+        }
+    }
+    for (const ooxml::CellBlock& merge : in.merges) {
+        sheet.Merges().push_back(CellBlock{static_cast<int32_t>(merge.firstRow), static_cast<int32_t>(merge.firstColumn),
+                                           static_cast<int32_t>(merge.lastRow), static_cast<int32_t>(merge.lastColumn)});
+    }
+}
+
+}  // namespace
+
+ooxml::WorkbookDocument ToDocument(const WorkbookModel& book, const std::string& author) {
+    ooxml::WorkbookDocument document;
+    document.formats = book.Formats().All();
+    StringNumbering strings(book.Strings(), document.strings);
+    for (const auto& sheet : book.Sheets()) {
+        document.sheets.push_back(ConvertSheet(*sheet, strings, book.Strings()));
+        document.sheets.back().tabSelected = sheet.get() == book.ActiveSheet();
+        if (sheet.get() == book.ActiveSheet()) {
+            document.activeSheet = static_cast<uint32_t>(document.sheets.size() - 1);
+        }
+    }
+    for (const auto& name : book.Names()) {
+        ooxml::DefinedName out{name->name, name->formula, std::nullopt, !name->visible};
+        if (name->localSheet) {
+            out.localSheet = static_cast<uint32_t>(book.SheetPosition(*name->localSheet));
+        }
+        document.names.push_back(out);
+    }
+    if (book.Palette() != DefaultPalette()) {
+        for (uint32_t color : book.Palette()) {
+            document.palette.push_back(SwapRedBlue(color));
+        }
+    }
+    document.lockStructure = book.ProtectStructure();
+    document.lockWindows = book.ProtectWindows();
+    document.properties.creator = author;
+    document.properties.lastModifiedBy = author;
+    document.properties.created = std::time(nullptr);
+    document.properties.modified = document.properties.created;
+    return document;
+}
+
+void LoadDocument(WorkbookModel& book, const ooxml::WorkbookDocument& document) {
+    std::vector<uint32_t> formatIds;
+    formatIds.reserve(document.formats.size());
+    for (const ooxml::CellFormat& format : document.formats) {
+        formatIds.push_back(book.Formats().Intern(format));
+    }
+    std::vector<uint32_t> stringIds;
+    stringIds.reserve(document.strings.size());
+    for (const ooxml::SharedString& text : document.strings) {
+        stringIds.push_back(book.Strings().Add(text));
+    }
+    for (const ooxml::SheetDocument& sheet : document.sheets) {
+        LoadSheet(*book.AppendSheet(sheet.name), sheet, formatIds, stringIds, document.strings, book.Strings());
+    }
+    if (document.activeSheet < book.Sheets().size() && book.Sheets()[document.activeSheet]->Settings().visibility == -1) {
+        book.ActivateSheet(*book.Sheets()[document.activeSheet]);
+    }
+    for (const ooxml::DefinedName& name : document.names) {
+        std::shared_ptr<WorksheetModel> local;
+        if (name.localSheet && *name.localSheet < book.Sheets().size()) {
+            local = book.Sheets()[*name.localSheet];
+        }
+        try {
+            book.AddName(name.name, name.formula, !name.hidden, local);
+        } catch (const AutomationError&) {
+            // A name this engine would refuse (Excel's own built-in names) is left out.
+        }
+    }
+    if (document.palette.size() == 56) {
+        for (size_t i = 0; i < 56; ++i) {
+            book.Palette()[i] = SwapRedBlue(document.palette[i]);
+        }
+    }
+    book.Protect("", document.lockStructure, document.lockWindows);
+}
+
+}  // namespace excel::embedded

@@ -1,0 +1,302 @@
+#include "excel/embedded/worksheet_model.hpp"
+
+#include "excel/embedded/engine_errors.hpp"
+#include "excel/embedded/geometry.hpp"
+
+#include <algorithm>
+#include <map>
+
+namespace excel::embedded {
+
+WorksheetModel::WorksheetModel(WorkbookModel& book, std::string name) : book_(&book) {
+    settings_.name = std::move(name);
+}
+
+WorkbookModel& WorksheetModel::Book() const {
+    if (book_ == nullptr) {
+        ThrowObjectRequired();
+    }
+    return *book_;
+}
+
+uint32_t WorksheetModel::ResolvedFormat(int32_t row, int32_t column) const {
+    if (const RowData* data = cells_.FindRow(row)) {
+        if (const Cell* cell = data->Find(column)) {
+            return cell->format;
+        }
+        if (data->hasFormat) {
+            return data->format;
+        }
+    }
+    return columns_.Get(column).format;
+}
+
+void WorksheetModel::ApplyFormat(const CellBlock& block, FormatChange& change) {
+    const bool allRows = block.top == 1 && block.bottom == MaxRow;
+    const bool allColumns = block.left == 1 && block.right == MaxColumn;
+    if (allRows && allColumns) {
+        applyToWholeSheet(change);
+    } else if (allColumns) {
+        applyToWholeRows(block.top, block.bottom, change);
+    } else if (allRows) {
+        applyToWholeColumns(block.left, block.right, change);
+    } else {
+        const size_t first = cells_.EnsureRows(block.top, block.bottom);
+        auto& rows = cells_.Rows();
+        for (size_t i = first; i < first + static_cast<size_t>(block.Rows()); ++i) {
+            RowData& row = rows[i];
+            row.UpdateRange(block.left, block.right, [&](int32_t column, const Cell* existing, Cell& result) {
+                if (existing) {
+                    result.format = change.Apply(existing->format);
+                    return true;
+                }
+                const uint32_t shown = row.hasFormat ? row.format : columns_.Get(column).format;
+                result.format = change.Apply(shown);
+                return result.format != shown;
+            });
+        }
+    }
+}
+
+void WorksheetModel::applyToWholeSheet(FormatChange& change) {
+    for (int32_t column = 1; column <= MaxColumn; ++column) {
+        ColumnInfo& info = columns_.Edit(column);
+        info.format = change.Apply(info.format);
+    }
+    for (RowData& row : cells_.Rows()) {
+        if (row.hasFormat) {
+            row.format = change.Apply(row.format);
+        }
+        for (Cell& cell : row.cells) {
+            cell.format = change.Apply(cell.format);
+        }
+    }
+}
+
+void WorksheetModel::applyToWholeRows(int32_t top, int32_t bottom, FormatChange& change) {
+    // A row without its own format shows its columns' formats. It takes the change of the most
+    // common column format; positions under columns whose change differs become cells.
+    uint32_t base = 0;
+    std::vector<std::pair<int32_t, uint32_t>> exceptions;
+    if (columns_.Allocated()) {
+        std::map<uint32_t, int32_t> counts;
+        for (int32_t column = 1; column <= MaxColumn; ++column) {
+            ++counts[columns_.Get(column).format];
+        }
+        base = std::max_element(counts.begin(), counts.end(),
+                                [](const auto& a, const auto& b) { return a.second < b.second; })->first;
+        const uint32_t changedBase = change.Apply(base);
+        for (int32_t column = 1; column <= MaxColumn; ++column) {
+            const uint32_t format = columns_.Get(column).format;
+            if (format != base && change.Apply(format) != changedBase) {
+                exceptions.emplace_back(column, change.Apply(format));
+            }
+        }
+    }
+    const uint32_t changedBase = change.Apply(base);
+    const size_t first = cells_.EnsureRows(top, bottom);
+    auto& rows = cells_.Rows();
+    for (size_t i = first; i < first + static_cast<size_t>(bottom - top + 1); ++i) {
+        RowData& row = rows[i];
+        for (Cell& cell : row.cells) {
+            cell.format = change.Apply(cell.format);
+        }
+        if (row.hasFormat) {
+            row.format = change.Apply(row.format);
+            continue;
+        }
+        row.hasFormat = true;
+        row.format = changedBase;
+        for (const auto& [column, format] : exceptions) {
+            auto it = row.LowerBound(column);
+            if (it == row.cells.end() || it->column != column) {
+                row.cells.insert(it, Cell::Blank(column, format));
+            }
+        }
+    }
+}
+
+void WorksheetModel::applyToWholeColumns(int32_t left, int32_t right, FormatChange& change) {
+    for (int32_t column = left; column <= right; ++column) {
+        ColumnInfo& info = columns_.Edit(column);
+        info.format = change.Apply(info.format);
+    }
+    for (RowData& row : cells_.Rows()) {
+        if (!row.hasFormat) {
+            for (Cell& cell : row.CellsIn(left, right)) {
+                cell.format = change.Apply(cell.format);
+            }
+            continue;
+        }
+        // A row format covers these columns in this row: the positions become cells.
+        row.UpdateRange(left, right, [&](int32_t, const Cell* existing, Cell& result) {
+            result.format = change.Apply(existing ? existing->format : row.format);
+            return true;
+        });
+    }
+}
+
+std::vector<uint32_t> WorksheetModel::DistinctFormats(const CellBlock& block) const {
+    std::vector<uint32_t> found;
+    std::vector<char> seen;
+    auto add = [&](uint32_t id) {
+        if (id >= seen.size()) {
+            seen.resize(id + 1, 0);
+        }
+        if (!seen[id]) {
+            seen[id] = 1;
+            found.push_back(id);
+        }
+    };
+    bool columnFormatsAdded = false;
+    auto addColumnFormats = [&] {
+        if (columnFormatsAdded) {
+            return;
+        }
+        columnFormatsAdded = true;
+        if (!columns_.Allocated()) {
+            add(0);
+            return;
+        }
+        for (int32_t column = block.left; column <= block.right; ++column) {
+            add(columns_.Get(column).format);
+        }
+    };
+    const auto [first, last] = cells_.RowSpan(block.top, block.bottom);
+    if (static_cast<int64_t>(last - first) < block.Rows()) {
+        addColumnFormats();
+    }
+    const auto& rows = cells_.Rows();
+    for (size_t i = first; i < last; ++i) {
+        const RowData& row = rows[i];
+        const auto cells = row.CellsIn(block.left, block.right);
+        for (const Cell& cell : cells) {
+            add(cell.format);
+        }
+        if (static_cast<int32_t>(cells.size()) < block.Columns()) {
+            if (row.hasFormat) {
+                add(row.format);
+            } else {
+                addColumnFormats();
+            }
+        }
+    }
+    return found;
+}
+
+void WorksheetModel::WriteCells(const CellBlock& block,
+                                const std::function<void(int32_t row, int32_t column, Cell& cell)>& write) {
+    const size_t first = cells_.EnsureRows(block.top, block.bottom);
+    auto& rows = cells_.Rows();
+    for (size_t i = first; i < first + static_cast<size_t>(block.Rows()); ++i) {
+        RowData& row = rows[i];
+        if (block.left == block.right) {
+            const int32_t column = block.left;
+            auto it = row.LowerBound(column);
+            if (it == row.cells.end() || it->column != column) {
+                it = row.cells.insert(it, Cell::Blank(column, row.hasFormat ? row.format : columns_.Get(column).format));
+            }
+            write(row.index, column, *it);
+            continue;
+        }
+        row.UpdateRange(block.left, block.right, [&](int32_t column, const Cell* existing, Cell& result) {
+            if (!existing) {
+                result.format = row.hasFormat ? row.format : columns_.Get(column).format;
+            }
+            write(row.index, column, result);
+            return true;
+        });
+    }
+}
+
+void WorksheetModel::ForEachStoredCell(const CellBlock& block, const std::function<void(int32_t row, Cell& cell)>& visit) {
+    const auto [first, last] = cells_.RowSpan(block.top, block.bottom);
+    auto& rows = cells_.Rows();
+    for (size_t i = first; i < last; ++i) {
+        for (Cell& cell : rows[i].CellsIn(block.left, block.right)) {
+            visit(rows[i].index, cell);
+        }
+    }
+}
+
+std::optional<CellBlock> WorksheetModel::MergeAt(int32_t row, int32_t column) const {
+    for (const CellBlock& merge : merges_) {
+        if (merge.Contains(row, column)) {
+            return merge;
+        }
+    }
+    return std::nullopt;
+}
+
+void WorksheetModel::Merge(const CellBlock& block) {
+    CellBlock merged = block;
+    for (bool grown = true; grown;) {
+        grown = false;
+        for (const CellBlock& merge : merges_) {
+            if (merge.Intersects(merged) && !merged.Contains(merge)) {
+                merged = CellBlock{std::min(merged.top, merge.top), std::min(merged.left, merge.left),
+                                   std::max(merged.bottom, merge.bottom), std::max(merged.right, merge.right)};
+                grown = true;
+            }
+        }
+    }
+    std::erase_if(merges_, [&](const CellBlock& merge) { return merged.Contains(merge); });
+    if (merged.CellCount() > 1) {
+        merges_.push_back(merged);
+    }
+    ForEachStoredCell(merged, [&](int32_t row, Cell& cell) {
+        if (row != merged.top || cell.column != merged.left) {
+            cell.ClearValue();
+        }
+    });
+}
+
+void WorksheetModel::Unmerge(const CellBlock& block) {
+    std::erase_if(merges_, [&](const CellBlock& merge) { return merge.Intersects(block); });
+}
+
+double WorksheetModel::ColumnWidthChars(int32_t column) const {
+    const ColumnInfo& info = columns_.Get(column);
+    return info.HasCustomWidth() ? info.width : settings_.standardWidth;
+}
+
+double WorksheetModel::ColumnPoints(int32_t column) const {
+    const ColumnInfo& info = columns_.Get(column);
+    return info.hidden ? 0.0 : ColumnWidthToPoints(ColumnWidthChars(column));
+}
+
+double WorksheetModel::RowPoints(int32_t row) const {
+    return RowsPoints(row, row);
+}
+
+double WorksheetModel::ColumnsPoints(int32_t left, int32_t right) const {
+    if (!columns_.Allocated()) {
+        return (right - left + 1) * ColumnWidthToPoints(settings_.standardWidth);
+    }
+    double points = 0.0;
+    for (int32_t column = left; column <= right; ++column) {
+        points += ColumnPoints(column);
+    }
+    return points;
+}
+
+double WorksheetModel::RowsPoints(int32_t top, int32_t bottom) const {
+    if (bottom < top) {
+        return 0.0;
+    }
+    // Rows that are not stored, or stored without a height, have the default height.
+    double points = (bottom - top + 1) * settings_.defaultRowHeight;
+    const auto [first, last] = cells_.RowSpan(top, bottom);
+    const auto& rows = cells_.Rows();
+    for (size_t i = first; i < last; ++i) {
+        const RowData& row = rows[i];
+        if (row.hidden) {
+            points -= settings_.defaultRowHeight;
+        } else if (row.HasCustomHeight()) {
+            points += row.height - settings_.defaultRowHeight;
+        }
+    }
+    return points;
+}
+
+}  // namespace excel::embedded
