@@ -23,6 +23,7 @@ namespace {
 struct Package {
     Relationships relationships;      // of the package itself: _rels/.rels
     std::vector<PackagePart> parts;   // in the order they are stored
+    SharedStringTable sharedStrings;  // shared by the worksheets and the shared strings part
 };
 
 void CheckDocument(const WorkbookDocument& document) {
@@ -46,8 +47,9 @@ void CheckDocument(const WorkbookDocument& document) {
 }
 
 // The parts in the order Excel stores them, each relationship added by the part that uses it.
-Package PlanPackage(const WorkbookDocument& document) {
-    Package package;
+void PlanPackage(const WorkbookDocument& document, Package& package) {
+    package.sharedStrings = BuildSharedStringTable(document);
+    const SharedStringTable& sharedStrings = package.sharedStrings;
     PackagePart workbook{"xl/workbook.xml", kWorkbookContentType, {}, {}};
     std::vector<PackagePart> sheetParts;
     std::vector<std::string> sheetRelationshipIds;
@@ -56,11 +58,13 @@ Package PlanPackage(const WorkbookDocument& document) {
         sheetRelationshipIds.push_back(workbook.relationships.Add(kWorksheetRelationshipType, name));
         const SheetDocument& sheet = document.sheets[i];
         sheetParts.push_back({"xl/" + name, kWorksheetContentType,
-                              [&document, &sheet](XmlWriter& xml) { WriteWorksheetPart(xml, document, sheet); }, {}});
+                              [&document, &sheet, &sharedStrings](XmlWriter& xml) {
+                                  WriteWorksheetPart(xml, document, sheet, sharedStrings);
+                              }, {}});
     }
     workbook.relationships.Add(kThemeRelationshipType, "theme/theme1.xml");
     workbook.relationships.Add(kStylesRelationshipType, "styles.xml");
-    if (!document.strings.empty()) {
+    if (!sharedStrings.strings.empty()) {
         workbook.relationships.Add(kSharedStringsRelationshipType, "sharedStrings.xml");
     }
     workbook.write = [&document, sheetRelationshipIds](XmlWriter& xml) {
@@ -78,15 +82,17 @@ Package PlanPackage(const WorkbookDocument& document) {
     package.parts.push_back({"xl/theme/theme1.xml", kThemeContentType, WriteThemePart, {}});
     package.parts.push_back({"xl/styles.xml", kStylesContentType,
                              [&document](XmlWriter& xml) { WriteStylesPart(xml, document); }, {}});
-    if (!document.strings.empty()) {
+    if (!sharedStrings.strings.empty()) {
         package.parts.push_back({"xl/sharedStrings.xml", kSharedStringsContentType,
-                                 [&document](XmlWriter& xml) { WriteSharedStringsPart(xml, document); }, {}});
+                                 [&document, &sharedStrings](XmlWriter& xml) {
+                                     WriteSharedStringsPart(xml, document, sharedStrings);
+                                 },
+                                 {}});
     }
     package.parts.push_back({"docProps/core.xml", kCorePropertiesContentType,
                              [&document](XmlWriter& xml) { WriteCorePropertiesPart(xml, document.properties); }, {}});
     package.parts.push_back({"docProps/app.xml", kAppPropertiesContentType,
                              [&document](XmlWriter& xml) { WriteAppPropertiesPart(xml, document); }, {}});
-    return package;
 }
 
 void WriteEntry(ZipWriter& zip, const std::string& path, const std::function<void(XmlWriter&)>& write) {
@@ -126,8 +132,10 @@ void WritePackage(const WorkbookDocument& document, const std::string& path) {
     try {
         AtomicFile file(path);
         {
+            Package package;
+            PlanPackage(document, package);
             ZipWriter zip(file.Descriptor());
-            WriteArchive(zip, PlanPackage(document));
+            WriteArchive(zip, package);
         }
         file.Commit();
     } catch (const PackageError&) {

@@ -17,21 +17,31 @@ bool NeedsPreservedSpace(std::string_view text) {
                              text.find_first_of("\t\n") != std::string_view::npos);
 }
 
-// How many cells refer to a shared string: the table's count attribute. Formula results are
-// written in their cells, not as references.
-uint64_t CountReferences(const WorkbookDocument& document) {
-    uint64_t references = 0;
+}  // namespace
+
+SharedStringTable BuildSharedStringTable(const WorkbookDocument& document) {
+    SharedStringTable table;
+    table.positions.assign(document.strings.size(), SharedStringTable::kNotShared);
+    // Formula results are written in their cells, not as references. Indices out of range are
+    // skipped here and refused by the worksheet writer.
     for (const SheetDocument& sheet : document.sheets) {
         for (const Row& row : sheet.rows) {
             for (const Cell& cell : row.cells) {
-                references += cell.type == CellType::String && cell.formula == NoFormula ? 1 : 0;
+                if (cell.type == CellType::String && cell.formula == NoFormula && cell.string < table.positions.size()) {
+                    table.positions[cell.string] = 0;
+                    ++table.references;
+                }
             }
         }
     }
-    return references;
+    for (uint32_t index = 0; index < table.positions.size(); ++index) {
+        if (table.positions[index] != SharedStringTable::kNotShared) {
+            table.positions[index] = static_cast<uint32_t>(table.strings.size());
+            table.strings.push_back(index);
+        }
+    }
+    return table;
 }
-
-}  // namespace
 
 void WriteTextElement(XmlWriter& xml, std::string_view text) {
     xml.StartElement("t");
@@ -42,13 +52,14 @@ void WriteTextElement(XmlWriter& xml, std::string_view text) {
     xml.EndElement();
 }
 
-void WriteSharedStringsPart(XmlWriter& xml, const WorkbookDocument& document) {
+void WriteSharedStringsPart(XmlWriter& xml, const WorkbookDocument& document, const SharedStringTable& table) {
     xml.Declaration();
     xml.StartElement("sst");
     xml.Attribute("xmlns", "http://schemas.openxmlformats.org/spreadsheetml/2006/main");
-    xml.Attribute("count", CountReferences(document));
-    xml.Attribute("uniqueCount", document.strings.size());
-    for (const SharedString& string : document.strings) {
+    xml.Attribute("count", table.references);
+    xml.Attribute("uniqueCount", table.strings.size());
+    for (uint32_t index : table.strings) {
+        const SharedString& string = document.strings[index];
         xml.StartElement("si");
         if (string.runs.empty()) {
             WriteTextElement(xml, string.text);

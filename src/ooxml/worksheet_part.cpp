@@ -60,8 +60,9 @@ private:
 
 class WorksheetWriter {
 public:
-    WorksheetWriter(XmlWriter& xml, const WorkbookDocument& document, const SheetDocument& sheet)
-        : xml_(xml), document_(document), sheet_(sheet) {}
+    WorksheetWriter(XmlWriter& xml, const WorkbookDocument& document, const SheetDocument& sheet,
+                    const SharedStringTable& sharedStrings)
+        : xml_(xml), document_(document), sheet_(sheet), sharedStrings_(sharedStrings) {}
 
     // The elements in the order the worksheet schema requires. Parts a sheet refers to (drawings,
     // comments) follow pageMargins.
@@ -269,7 +270,7 @@ private:
             } else {
                 CheckString(cell, reference);
                 xml_.StartElement("v");
-                xml_.Number(cell.string);
+                xml_.Number(sharedStrings_.positions[cell.string]);
                 xml_.EndElement();
             }
             break;
@@ -332,14 +333,16 @@ private:
     XmlWriter& xml_;
     const WorkbookDocument& document_;
     const SheetDocument& sheet_;
+    const SharedStringTable& sharedStrings_;
     ColumnNames columnNames_;
     CellReference reference_;
 };
 
 }  // namespace
 
-void WriteWorksheetPart(XmlWriter& xml, const WorkbookDocument& document, const SheetDocument& sheet) {
-    WorksheetWriter(xml, document, sheet).Write();
+void WriteWorksheetPart(XmlWriter& xml, const WorkbookDocument& document, const SheetDocument& sheet,
+                        const SharedStringTable& sharedStrings) {
+    WorksheetWriter(xml, document, sheet, sharedStrings).Write();
 }
 
 }  // namespace ooxml

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ooxml/shared_strings_part.hpp"
 #include "ooxml/workbook_document.hpp"
 #include "ooxml/xml_writer.hpp"
 
@@ -12,9 +13,11 @@ inline constexpr std::string_view kWorksheetContentType =
 inline constexpr std::string_view kWorksheetRelationshipType =
     "http://schemas.openxmlformats.org/officeDocument/2006/relationships/worksheet";
 
-// Writes a worksheet part (xl/worksheets/sheetN.xml), streaming its rows. Throws PackageError
+// Writes a worksheet part (xl/worksheets/sheetN.xml), streaming its rows; string cells refer to
+// their positions in the shared string table. Throws PackageError
 // (WriteFailed) when a cell or row refers to a format, string or formula the document does not
 // have, or rows and cells are out of order: Excel would have to repair such a file.
-void WriteWorksheetPart(XmlWriter& xml, const WorkbookDocument& document, const SheetDocument& sheet);
+void WriteWorksheetPart(XmlWriter& xml, const WorkbookDocument& document, const SheetDocument& sheet,
+                        const SharedStringTable& sharedStrings);
 
 }  // namespace ooxml
