@@ -108,3 +108,7 @@ private:
 };
 
 }  // namespace excel
+
+// Variant holds SafeArray by unique_ptr; the definition must be complete in every translation unit
+// that uses Variant, so the header brings it along.
+#include <excel/safe_array.hpp>
