@@ -32,6 +32,7 @@ demo: build
 	done
 
 bench: build
+	@$(if $(BENCHMARKS),,echo "no benchmark programs in bench/ yet")
 	@for benchmark in $(BENCHMARKS); do \
 	    echo "== $$benchmark"; \
 	    $(BUILD_DIR)/bench/$$benchmark || exit 1; \
