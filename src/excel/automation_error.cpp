@@ -10,19 +10,32 @@ namespace {
 // runtime's catch-all text.
 std::string_view RuntimeErrorText(int32_t number) {
     switch (number) {
-    case 5: return "Invalid procedure call or argument";
-    case 6: return "Overflow";
-    case 7: return "Out of memory";
-    case 9: return "Subscript out of range";
-    case 11: return "Division by zero";
-    case 13: return "Type mismatch";
-    case 53: return "File not found";
-    case 76: return "Path not found";
-    case 91: return "Object variable or With block variable not set";
-    case 94: return "Invalid use of Null";
-    case 326: return "Resource not found";
-    case 424: return "Object required";
-    default: return "Application-defined or object-defined error";
+        case 5:
+            return "Invalid procedure call or argument";
+        case 6:
+            return "Overflow";
+        case 7:
+            return "Out of memory";
+        case 9:
+            return "Subscript out of range";
+        case 11:
+            return "Division by zero";
+        case 13:
+            return "Type mismatch";
+        case 53:
+            return "File not found";
+        case 76:
+            return "Path not found";
+        case 91:
+            return "Object variable or With block variable not set";
+        case 94:
+            return "Invalid use of Null";
+        case 326:
+            return "Resource not found";
+        case 424:
+            return "Object required";
+        default:
+            return "Application-defined or object-defined error";
     }
 }
 

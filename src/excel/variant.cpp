@@ -20,16 +20,20 @@ constexpr int32_t InvalidUseOfNullError = 94;
 
 std::string_view TrimBlanks(std::string_view text) {
     const auto isBlank = [](char c) { return c == ' ' || c == '\t'; };
-    while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
-    while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
+    while (!text.empty() && isBlank(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && isBlank(text.back()))
+        text.remove_suffix(1);
     return text;
 }
 
 bool EqualsIgnoringAsciiCase(std::string_view a, std::string_view b) {
-    if (a.size() != b.size()) return false;
+    if (a.size() != b.size())
+        return false;
     for (size_t i = 0; i < a.size(); ++i) {
         const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; };
-        if (lower(a[i]) != lower(b[i])) return false;
+        if (lower(a[i]) != lower(b[i]))
+            return false;
     }
     return true;
 }
@@ -37,16 +41,22 @@ bool EqualsIgnoringAsciiCase(std::string_view a, std::string_view b) {
 // "&H1F" / "&O17": values up to &HFFFF read as a 16-bit Integer (so "&HFFFF" is -1), larger ones
 // as a 32-bit Long, as the runtime reads such literals.
 std::optional<double> ParseRadixNumber(std::string_view digits, int radix) {
-    if (digits.empty()) return std::nullopt;
+    if (digits.empty())
+        return std::nullopt;
     uint64_t value = 0;
     for (char c : digits) {
         int digit = -1;
-        if (c >= '0' && c <= '9') digit = c - '0';
-        else if (c >= 'a' && c <= 'f') digit = c - 'a' + 10;
-        else if (c >= 'A' && c <= 'F') digit = c - 'A' + 10;
-        if (digit < 0 || digit >= radix) return std::nullopt;
+        if (c >= '0' && c <= '9')
+            digit = c - '0';
+        else if (c >= 'a' && c <= 'f')
+            digit = c - 'a' + 10;
+        else if (c >= 'A' && c <= 'F')
+            digit = c - 'A' + 10;
+        if (digit < 0 || digit >= radix)
+            return std::nullopt;
         value = value * static_cast<uint64_t>(radix) + static_cast<uint64_t>(digit);
-        if (value > 0xFFFFFFFFu) ThrowRuntimeError(OverflowError);
+        if (value > 0xFFFFFFFFu)
+            ThrowRuntimeError(OverflowError);
     }
     if (value <= 0xFFFF) {
         return static_cast<double>(static_cast<int16_t>(static_cast<uint16_t>(value)));
@@ -61,8 +71,10 @@ std::optional<double> ParseAutomationNumber(std::string_view text) {
     text = TrimBlanks(text);
     if (text.size() > 2 && text[0] == '&') {
         const char radix = text[1];
-        if (radix == 'H' || radix == 'h') return ParseRadixNumber(text.substr(2), 16);
-        if (radix == 'O' || radix == 'o') return ParseRadixNumber(text.substr(2), 8);
+        if (radix == 'H' || radix == 'h')
+            return ParseRadixNumber(text.substr(2), 16);
+        if (radix == 'O' || radix == 'o')
+            return ParseRadixNumber(text.substr(2), 8);
         return std::nullopt;
     }
     bool negative = false;
@@ -71,13 +83,15 @@ std::optional<double> ParseAutomationNumber(std::string_view text) {
         text = TrimBlanks(text.substr(1, text.size() - 2));
     }
     if (!text.empty() && (text[0] == '-' || text[0] == '+')) {
-        if (negative && text[0] == '-') return std::nullopt;
+        if (negative && text[0] == '-')
+            return std::nullopt;
         negative = negative || text[0] == '-';
         text.remove_prefix(1);
     }
     std::string clean;
     clean.reserve(text.size() + 1);
-    if (negative) clean.push_back('-');
+    if (negative)
+        clean.push_back('-');
     size_t i = 0;
     size_t digits = 0;
     for (; i < text.size(); ++i) {
@@ -91,34 +105,44 @@ std::optional<double> ParseAutomationNumber(std::string_view text) {
     }
     if (i < text.size() && text[i] == '.') {
         clean.push_back('.');
-        for (++i; i < text.size() && text[i] >= '0' && text[i] <= '9'; ++i, ++digits) clean.push_back(text[i]);
+        for (++i; i < text.size() && text[i] >= '0' && text[i] <= '9'; ++i, ++digits)
+            clean.push_back(text[i]);
     }
-    if (digits == 0) return std::nullopt;
+    if (digits == 0)
+        return std::nullopt;
     if (i < text.size() && (text[i] == 'e' || text[i] == 'E' || text[i] == 'd' || text[i] == 'D')) {
         clean.push_back('e');
         ++i;
-        if (i < text.size() && (text[i] == '+' || text[i] == '-')) clean.push_back(text[i++]);
+        if (i < text.size() && (text[i] == '+' || text[i] == '-'))
+            clean.push_back(text[i++]);
         const size_t exponentStart = i;
-        for (; i < text.size() && text[i] >= '0' && text[i] <= '9'; ++i) clean.push_back(text[i]);
-        if (i == exponentStart) return std::nullopt;
+        for (; i < text.size() && text[i] >= '0' && text[i] <= '9'; ++i)
+            clean.push_back(text[i]);
+        if (i == exponentStart)
+            return std::nullopt;
     }
-    if (i != text.size()) return std::nullopt;
+    if (i != text.size())
+        return std::nullopt;
     double value = 0;
     const auto [end, error] = std::from_chars(clean.data(), clean.data() + clean.size(), value);
     if (error == std::errc::result_out_of_range) {
         // Too small (a large negative exponent) rounds to zero; too large is the runtime's overflow.
-        if (clean.find("e-") == std::string::npos) ThrowRuntimeError(OverflowError);
+        if (clean.find("e-") == std::string::npos)
+            ThrowRuntimeError(OverflowError);
         return 0.0;
     }
-    if (error != std::errc() || end != clean.data() + clean.size()) return std::nullopt;
-    if (!std::isfinite(value)) ThrowRuntimeError(OverflowError);
+    if (error != std::errc() || end != clean.data() + clean.size())
+        return std::nullopt;
+    if (!std::isfinite(value))
+        ThrowRuntimeError(OverflowError);
     return value;
 }
 
 // A number as CStr prints it: at most `significantDigits` significant digits, no trailing zeros,
 // and the exponent form ("1.23456789012346E+15", "1E-05") outside 1E-4 .. 10^significantDigits.
 std::string FormatAutomationNumber(double value, int significantDigits) {
-    if (value == 0) return "0";
+    if (value == 0)
+        return "0";
     std::array<char, 64> buffer{};
     const int length = std::snprintf(buffer.data(), buffer.size(), "%.*e", significantDigits - 1, value);
     const std::string_view printed(buffer.data(), static_cast<size_t>(length));
@@ -128,16 +152,19 @@ std::string FormatAutomationNumber(double value, int significantDigits) {
     std::string digits;
     digits.reserve(static_cast<size_t>(significantDigits));
     for (size_t i = mantissaStart; i < exponentMark; ++i) {
-        if (printed[i] != '.') digits.push_back(printed[i]);
+        if (printed[i] != '.')
+            digits.push_back(printed[i]);
     }
-    while (digits.size() > 1 && digits.back() == '0') digits.pop_back();
+    while (digits.size() > 1 && digits.back() == '0')
+        digits.pop_back();
     int exponent = 0;
     std::from_chars(printed.data() + exponentMark + (printed[exponentMark + 1] == '+' ? 2 : 1),
                     printed.data() + printed.size(), exponent);
 
     std::string text;
     text.reserve(static_cast<size_t>(significantDigits) + 8);
-    if (negative) text.push_back('-');
+    if (negative)
+        text.push_back('-');
     const auto digitCount = static_cast<int>(digits.size());
     if (exponent >= significantDigits || exponent < -4) {
         text.push_back(digits[0]);
@@ -147,7 +174,8 @@ std::string FormatAutomationNumber(double value, int significantDigits) {
         }
         text.append(exponent < 0 ? "E-" : "E+");
         const int magnitude = std::abs(exponent);
-        if (magnitude < 10) text.push_back('0');
+        if (magnitude < 10)
+            text.push_back('0');
         text.append(std::to_string(magnitude));
     } else if (exponent < 0) {
         text.append("0.");
@@ -156,7 +184,8 @@ std::string FormatAutomationNumber(double value, int significantDigits) {
     } else {
         const int integerDigits = exponent + 1;
         text.append(digits, 0, static_cast<size_t>(std::min(integerDigits, digitCount)));
-        if (digitCount < integerDigits) text.append(static_cast<size_t>(integerDigits - digitCount), '0');
+        if (digitCount < integerDigits)
+            text.append(static_cast<size_t>(integerDigits - digitCount), '0');
         if (digitCount > integerDigits) {
             text.push_back('.');
             text.append(digits, static_cast<size_t>(integerDigits));
@@ -173,7 +202,8 @@ std::string FormatCurrency(int64_t scaled) {
     uint64_t fraction = magnitude % 10000;
     if (fraction != 0) {
         std::string decimals = std::to_string(fraction + 10000).substr(1);
-        while (decimals.back() == '0') decimals.pop_back();
+        while (decimals.back() == '0')
+            decimals.pop_back();
         text.push_back('.');
         text.append(decimals);
     }
@@ -214,9 +244,12 @@ std::string FormatAutomationDate(double serial) {
     if (days != 0 || seconds == 0) {
         const CivilDate date = CivilFromDays(days - SerialOfUnixEpoch);
         text = std::to_string(date.month) + '/' + std::to_string(date.day) + '/' + std::to_string(date.year);
-        if (days != 0 && seconds == 0) return text;
-        if (days != 0) text.push_back(' ');
-        else text.clear();
+        if (days != 0 && seconds == 0)
+            return text;
+        if (days != 0)
+            text.push_back(' ');
+        else
+            text.clear();
     }
     const int64_t hour = seconds / 3600;
     std::array<char, 32> buffer{};
@@ -242,7 +275,8 @@ Integer RoundCurrencyToInteger(Currency amount) {
     int64_t whole = amount.scaled / 10000;
     const int64_t remainder = amount.scaled % 10000;
     const int64_t step = remainder < 0 ? -1 : 1;
-    if (std::abs(remainder) > 5000 || (std::abs(remainder) == 5000 && whole % 2 != 0)) whole += step;
+    if (std::abs(remainder) > 5000 || (std::abs(remainder) == 5000 && whole % 2 != 0))
+        whole += step;
     if (whole < std::numeric_limits<Integer>::min() || whole > std::numeric_limits<Integer>::max()) {
         ThrowRuntimeError(OverflowError);
     }
@@ -258,7 +292,8 @@ namespace {
 template <class Element, class Source>
 SafeArray OneDimensionalArray(VarType elementType, const std::vector<Source>& values) {
     SafeArray array(elementType, {SafeArrayBound{0, static_cast<uint32_t>(values.size())}});
-    for (size_t i = 0; i < values.size(); ++i) array.Put(static_cast<uint32_t>(i), 0, Variant(Element(values[i])));
+    for (size_t i = 0; i < values.size(); ++i)
+        array.Put(static_cast<uint32_t>(i), 0, Variant(Element(values[i])));
     return array;
 }
 
@@ -311,14 +346,16 @@ VarType Variant::Type() const {
 
 bool Variant::IsNumeric() const {
     switch (Type()) {
-    case VarType::Integer:
-    case VarType::Long:
-    case VarType::Single:
-    case VarType::Double:
-    case VarType::Currency:
-    case VarType::Date:
-    case VarType::Boolean: return true;
-    default: return false;
+        case VarType::Integer:
+        case VarType::Long:
+        case VarType::Single:
+        case VarType::Double:
+        case VarType::Currency:
+        case VarType::Date:
+        case VarType::Boolean:
+            return true;
+        default:
+            return false;
     }
 }
 
@@ -339,7 +376,8 @@ double Variant::ToDouble() const {
             } else if constexpr (std::is_same_v<Held, Date>) {
                 return held.serial;
             } else if constexpr (std::is_same_v<Held, std::string>) {
-                if (const auto number = ParseAutomationNumber(held)) return *number;
+                if (const auto number = ParseAutomationNumber(held))
+                    return *number;
                 ThrowRuntimeError(TypeMismatchError);
             } else {
                 ThrowRuntimeError(TypeMismatchError);
@@ -349,23 +387,29 @@ double Variant::ToDouble() const {
 }
 
 int32_t Variant::ToInt() const {
-    if (const auto* amount = std::get_if<Currency>(&value_)) return RoundCurrencyToInteger<int32_t>(*amount);
+    if (const auto* amount = std::get_if<Currency>(&value_))
+        return RoundCurrencyToInteger<int32_t>(*amount);
     return RoundToInteger<int32_t>(ToDouble());
 }
 
 int16_t Variant::ToShort() const {
-    if (const auto* amount = std::get_if<Currency>(&value_)) return RoundCurrencyToInteger<int16_t>(*amount);
+    if (const auto* amount = std::get_if<Currency>(&value_))
+        return RoundCurrencyToInteger<int16_t>(*amount);
     return RoundToInteger<int16_t>(ToDouble());
 }
 
 bool Variant::ToBool() const {
     if (const auto* text = std::get_if<std::string>(&value_)) {
         const std::string_view trimmed = TrimBlanks(*text);
-        if (EqualsIgnoringAsciiCase(trimmed, "True")) return true;
-        if (EqualsIgnoringAsciiCase(trimmed, "False")) return false;
+        if (EqualsIgnoringAsciiCase(trimmed, "True"))
+            return true;
+        if (EqualsIgnoringAsciiCase(trimmed, "False"))
+            return false;
     }
-    if (const auto* flag = std::get_if<bool>(&value_)) return *flag;
-    if (const auto* amount = std::get_if<Currency>(&value_)) return amount->scaled != 0;
+    if (const auto* flag = std::get_if<bool>(&value_))
+        return *flag;
+    if (const auto* amount = std::get_if<Currency>(&value_))
+        return amount->scaled != 0;
     return ToDouble() != 0.0;
 }
 
@@ -404,18 +448,21 @@ std::string Variant::ToString() const {
 }
 
 int32_t Variant::ErrorCode() const {
-    if (const auto* error = std::get_if<ErrorValue>(&value_)) return error->code;
+    if (const auto* error = std::get_if<ErrorValue>(&value_))
+        return error->code;
     ThrowRuntimeError(TypeMismatchError);
 }
 
 std::shared_ptr<Object> Variant::ToObject() const {
-    if (const auto* object = std::get_if<std::shared_ptr<Object>>(&value_)) return *object;
+    if (const auto* object = std::get_if<std::shared_ptr<Object>>(&value_))
+        return *object;
     ThrowRuntimeError(TypeMismatchError);
 }
 
 const SafeArray& Variant::Array() const {
     const auto* array = std::get_if<std::unique_ptr<SafeArray>>(&value_);
-    if (array == nullptr || !*array) ThrowRuntimeError(TypeMismatchError);
+    if (array == nullptr || !*array)
+        ThrowRuntimeError(TypeMismatchError);
     return **array;
 }
 
@@ -424,8 +471,10 @@ SafeArray& Variant::Array() {
 }
 
 bool operator==(const Variant& a, const Variant& b) {
-    if (a.value_.index() != b.value_.index()) return false;
-    if (a.IsArray()) return a.Array() == b.Array();
+    if (a.value_.index() != b.value_.index())
+        return false;
+    if (a.IsArray())
+        return a.Array() == b.Array();
     return a.value_ == b.value_;
 }
 

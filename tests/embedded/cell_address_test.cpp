@@ -102,7 +102,8 @@ TEST(FormatBlockR1C1Test, CellsBlocksColumnsAndRows) {
 CellBlock OnlyArea(std::string_view text) {
     const auto parsed = ParseA1Reference(text);
     EXPECT_TRUE(parsed.has_value()) << text;
-    if (!parsed) return {};
+    if (!parsed)
+        return {};
     EXPECT_EQ(parsed->areas.size(), 1u) << text;
     EXPECT_EQ(parsed->sheet, "") << text;
     return parsed->areas.front();
@@ -169,9 +170,10 @@ TEST(ParseA1ReferenceTest, SheetRepeatedOnEveryArea) {
 }
 
 TEST(ParseA1ReferenceTest, MalformedTextIsRefused) {
-    for (const char* text : {"", "A", "1", "A0", "0:1", "A1:", ":A1", "A1:B", "A:1", "1:A1", "A1,", ",A1", "A1,,B2",
-                             "$$A1", "A$", "A1$", "A 1", " A1", "A1 ", "A1B2", "1A", "Sheet1!", "!A1", "'Sheet1!A1",
-                             "'Sheet1'A1", "''!A1", "My Sheet!A1", "A1!B2", "R1C1", "A1:B2:C3"}) {
+    for (const char* text : {"",           "A",     "1",           "A0",    "0:1",    "A1:",     ":A1", "A1:B",
+                             "A:1",        "1:A1",  "A1,",         ",A1",   "A1,,B2", "$$A1",    "A$",  "A1$",
+                             "A 1",        " A1",   "A1 ",         "A1B2",  "1A",     "Sheet1!", "!A1", "'Sheet1!A1",
+                             "'Sheet1'A1", "''!A1", "My Sheet!A1", "A1!B2", "R1C1",   "A1:B2:C3"}) {
         EXPECT_FALSE(ParseA1Reference(text)) << text;
     }
 }

@@ -33,7 +33,7 @@ TEST(PaletteTest, StandardColours) {
 
 TEST(PaletteTest, ExactColoursFindTheirLowestIndex) {
     EXPECT_EQ(NearestColorIndex(DefaultPalette(), Rgb(255, 0, 0)), 3);
-    EXPECT_EQ(NearestColorIndex(DefaultPalette(), Rgb(0, 0, 128)), 11);  // 25 is the same colour
+    EXPECT_EQ(NearestColorIndex(DefaultPalette(), Rgb(0, 0, 128)), 11);   // 25 is the same colour
     EXPECT_EQ(NearestColorIndex(DefaultPalette(), Rgb(255, 255, 0)), 6);  // 27 is the same colour
     EXPECT_EQ(NearestColorIndex(DefaultPalette(), Rgb(51, 51, 51)), 56);
     for (int32_t index = 1; index <= 56; ++index) {

@@ -12,8 +12,8 @@ using excel::embedded::SameSheetName;
 using excel::embedded::SheetNameNeedsQuotes;
 
 TEST(SheetNameRulesTest, ValidNames) {
-    for (const char* name : {"Sheet1", "My Sheet", "It's", "Q1 (draft)", "a", "Données", "Отчёт", "データ", "#1",
-                             "Historyx", "2024"}) {
+    for (const char* name :
+         {"Sheet1", "My Sheet", "It's", "Q1 (draft)", "a", "Données", "Отчёт", "データ", "#1", "Historyx", "2024"}) {
         EXPECT_TRUE(IsValidSheetName(name)) << name;
     }
 }
@@ -29,7 +29,8 @@ TEST(SheetNameRulesTest, LengthCountsCharactersNotBytes) {
     EXPECT_TRUE(IsValidSheetName(std::string(31, 'x')));
     EXPECT_FALSE(IsValidSheetName(std::string(32, 'x')));
     std::string accented;
-    for (int i = 0; i < 31; ++i) accented += "é";  // 62 bytes, 31 characters
+    for (int i = 0; i < 31; ++i)
+        accented += "é";  // 62 bytes, 31 characters
     EXPECT_TRUE(IsValidSheetName(accented));
     EXPECT_FALSE(IsValidSheetName(accented + "é"));
 }

@@ -51,7 +51,8 @@ TEST(ThemeColorsTest, ThemeColorConstantsMapToStyleIndices) {
 }
 
 TEST(ThemeColorsTest, NoTintLeavesTheColour) {
-    for (uint32_t color : OfficeThemeColors()) EXPECT_EQ(ApplyTintAndShade(color, 0), color);
+    for (uint32_t color : OfficeThemeColors())
+        EXPECT_EQ(ApplyTintAndShade(color, 0), color);
 }
 
 TEST(ThemeColorsTest, FullTintAndShadeReachWhiteAndBlack) {

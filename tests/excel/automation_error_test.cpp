@@ -32,16 +32,14 @@ TEST_P(RuntimeErrorTextTest, CarriesTheRuntimeCodeAndText) {
     ExpectRuntimeError([] { ThrowRuntimeError(GetParam().number); }, GetParam().number, GetParam().text);
 }
 
-INSTANTIATE_TEST_SUITE_P(KnownNumbers, RuntimeErrorTextTest,
-                         ::testing::Values(RuntimeErrorCase{5, "Invalid procedure call or argument"},
-                                           RuntimeErrorCase{6, "Overflow"}, RuntimeErrorCase{7, "Out of memory"},
-                                           RuntimeErrorCase{9, "Subscript out of range"},
-                                           RuntimeErrorCase{11, "Division by zero"},
-                                           RuntimeErrorCase{13, "Type mismatch"},
-                                           RuntimeErrorCase{94, "Invalid use of Null"},
-                                           RuntimeErrorCase{326, "Resource not found"},
-                                           RuntimeErrorCase{424, "Object required"},
-                                           RuntimeErrorCase{4242, "Application-defined or object-defined error"}));
+INSTANTIATE_TEST_SUITE_P(
+    KnownNumbers, RuntimeErrorTextTest,
+    ::testing::Values(RuntimeErrorCase{5, "Invalid procedure call or argument"}, RuntimeErrorCase{6, "Overflow"},
+                      RuntimeErrorCase{7, "Out of memory"}, RuntimeErrorCase{9, "Subscript out of range"},
+                      RuntimeErrorCase{11, "Division by zero"}, RuntimeErrorCase{13, "Type mismatch"},
+                      RuntimeErrorCase{94, "Invalid use of Null"}, RuntimeErrorCase{326, "Resource not found"},
+                      RuntimeErrorCase{424, "Object required"},
+                      RuntimeErrorCase{4242, "Application-defined or object-defined error"}));
 
 TEST(AutomationErrorTest, SharedCodesMatchTheRuntimeNumbers) {
     ExpectRuntimeError([] { ThrowRuntimeError(6); }, 6, "Overflow");

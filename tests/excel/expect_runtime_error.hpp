@@ -20,7 +20,15 @@ void ExpectRuntimeError(Call&& call, int32_t number, const std::string& text) {
     }
 }
 
-inline void ExpectTypeMismatch(auto&& call) { ExpectRuntimeError(call, 13, "Type mismatch"); }
-inline void ExpectOverflow(auto&& call) { ExpectRuntimeError(call, 6, "Overflow"); }
-inline void ExpectInvalidUseOfNull(auto&& call) { ExpectRuntimeError(call, 94, "Invalid use of Null"); }
-inline void ExpectSubscriptOutOfRange(auto&& call) { ExpectRuntimeError(call, 9, "Subscript out of range"); }
+inline void ExpectTypeMismatch(auto&& call) {
+    ExpectRuntimeError(call, 13, "Type mismatch");
+}
+inline void ExpectOverflow(auto&& call) {
+    ExpectRuntimeError(call, 6, "Overflow");
+}
+inline void ExpectInvalidUseOfNull(auto&& call) {
+    ExpectRuntimeError(call, 94, "Invalid use of Null");
+}
+inline void ExpectSubscriptOutOfRange(auto&& call) {
+    ExpectRuntimeError(call, 9, "Subscript out of range");
+}

@@ -76,10 +76,16 @@ TEST(SafeArrayShapeTest, ElementsStartAtTheTypesDefault) {
 }
 
 TEST(SafeArrayShapeTest, ElementTypesWithoutValuesAreRefused) {
-    ExpectRuntimeError([] { (void)SafeArray(VarType::Empty, {SafeArrayBound{0, 1}}); }, 5,
-                       "Invalid procedure call or argument");
-    ExpectRuntimeError([] { (void)SafeArray(VarType::Null, {SafeArrayBound{0, 1}}); }, 5,
-                       "Invalid procedure call or argument");
+    ExpectRuntimeError(
+        [] {
+            (void)SafeArray(VarType::Empty, {SafeArrayBound{0, 1}});
+        },
+        5, "Invalid procedure call or argument");
+    ExpectRuntimeError(
+        [] {
+            (void)SafeArray(VarType::Null, {SafeArrayBound{0, 1}});
+        },
+        5, "Invalid procedure call or argument");
 }
 
 TEST(SafeArrayIndexTest, GetAndSetWithinTheBounds) {
@@ -109,7 +115,8 @@ TEST(SafeArrayIndexTest, StorageOrderHasTheFirstIndexFastest) {
     SafeArray matrix = SafeArray::Matrix(VarType::Long, 2, 3);
     int32_t value = 0;
     for (int32_t column = 1; column <= 3; ++column) {
-        for (int32_t row = 1; row <= 2; ++row) matrix.Set({row, column}, Variant(++value));
+        for (int32_t row = 1; row <= 2; ++row)
+            matrix.Set({row, column}, Variant(++value));
     }
     const std::vector<Variant> expected{Variant(1), Variant(2), Variant(3), Variant(4), Variant(5), Variant(6)};
     EXPECT_EQ(matrix.Elements(), expected);

@@ -9,8 +9,12 @@ namespace excel::embedded {
 
 namespace {
 
-bool IsAsciiLetter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsAsciiLetter(char c) {
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
 
 // Reads a run of letters at `position` as a column number; nullopt past XFD. Moves `position`
 // past the letters; 0 when there were none.
@@ -18,10 +22,12 @@ std::optional<int32_t> ReadColumn(std::string_view text, size_t& position) {
     int32_t column = 0;
     const size_t start = position;
     for (; position < text.size() && IsAsciiLetter(text[position]); ++position) {
-        if (position - start == 3) return std::nullopt;
+        if (position - start == 3)
+            return std::nullopt;
         column = column * 26 + ((text[position] | 0x20) - 'a' + 1);
     }
-    if (column > MaxColumn) return std::nullopt;
+    if (column > MaxColumn)
+        return std::nullopt;
     return column;
 }
 
@@ -31,7 +37,8 @@ std::optional<int32_t> ReadNumber(std::string_view text, size_t& position, int32
     int32_t number = 0;
     for (; position < text.size() && IsDigit(text[position]); ++position) {
         number = number * 10 + (text[position] - '0');
-        if (number > limit) return std::nullopt;
+        if (number > limit)
+            return std::nullopt;
     }
     return number;
 }
@@ -59,41 +66,53 @@ struct ReferencePart {
 };
 
 std::optional<ReferencePart> ReadPart(std::string_view text, size_t& position) {
-    if (position < text.size() && text[position] == '$') ++position;
+    if (position < text.size() && text[position] == '$')
+        ++position;
     const auto column = ReadColumn(text, position);
-    if (!column) return std::nullopt;
+    if (!column)
+        return std::nullopt;
     const bool rowMarked = position < text.size() && text[position] == '$';
-    if (rowMarked && *column == 0) return std::nullopt;
-    if (rowMarked) ++position;
+    if (rowMarked && *column == 0)
+        return std::nullopt;
+    if (rowMarked)
+        ++position;
     const size_t rowStart = position;
     const auto row = ReadNumber(text, position, MaxRow);
-    if (!row) return std::nullopt;
+    if (!row)
+        return std::nullopt;
     const bool hasRow = position != rowStart;
-    if (hasRow && *row == 0) return std::nullopt;
-    if (*column != 0 && hasRow) return ReferencePart{ReferencePart::Kind::Cell, *row, *column};
-    if (*column != 0 && !rowMarked) return ReferencePart{ReferencePart::Kind::Column, 0, *column};
-    if (hasRow && *column == 0) return ReferencePart{ReferencePart::Kind::Row, *row, 0};
+    if (hasRow && *row == 0)
+        return std::nullopt;
+    if (*column != 0 && hasRow)
+        return ReferencePart{ReferencePart::Kind::Cell, *row, *column};
+    if (*column != 0 && !rowMarked)
+        return ReferencePart{ReferencePart::Kind::Column, 0, *column};
+    if (hasRow && *column == 0)
+        return ReferencePart{ReferencePart::Kind::Row, *row, 0};
     return std::nullopt;
 }
 
 std::optional<CellBlock> ReadArea(std::string_view text, size_t& position) {
     const auto first = ReadPart(text, position);
-    if (!first) return std::nullopt;
+    if (!first)
+        return std::nullopt;
     ReferencePart last = *first;
     if (position < text.size() && text[position] == ':') {
         ++position;
         const auto second = ReadPart(text, position);
-        if (!second || second->kind != first->kind) return std::nullopt;
+        if (!second || second->kind != first->kind)
+            return std::nullopt;
         last = *second;
     } else if (first->kind != ReferencePart::Kind::Cell) {
         return std::nullopt;
     }
     switch (first->kind) {
-    case ReferencePart::Kind::Column:
-        return CellBlock{1, std::min(first->column, last.column), MaxRow, std::max(first->column, last.column)};
-    case ReferencePart::Kind::Row:
-        return CellBlock{std::min(first->row, last.row), 1, std::max(first->row, last.row), MaxColumn};
-    case ReferencePart::Kind::Cell: break;
+        case ReferencePart::Kind::Column:
+            return CellBlock{1, std::min(first->column, last.column), MaxRow, std::max(first->column, last.column)};
+        case ReferencePart::Kind::Row:
+            return CellBlock{std::min(first->row, last.row), 1, std::max(first->row, last.row), MaxColumn};
+        case ReferencePart::Kind::Cell:
+            break;
     }
     return CellBlock{std::min(first->row, last.row), std::min(first->column, last.column),
                      std::max(first->row, last.row), std::max(first->column, last.column)};
@@ -111,7 +130,8 @@ bool ReadSheetPrefix(std::string_view text, size_t& position, std::string& sheet
                 sheet.push_back('\'');
                 ++i;
             } else {
-                if (sheet.empty() || i + 1 >= text.size() || text[i + 1] != '!') return false;
+                if (sheet.empty() || i + 1 >= text.size() || text[i + 1] != '!')
+                    return false;
                 position = i + 2;
                 return true;
             }
@@ -120,9 +140,11 @@ bool ReadSheetPrefix(std::string_view text, size_t& position, std::string& sheet
     }
     const size_t bang = text.find('!', position);
     const size_t areaEnd = text.find(',', position);
-    if (bang == std::string_view::npos || (areaEnd != std::string_view::npos && areaEnd < bang)) return true;
+    if (bang == std::string_view::npos || (areaEnd != std::string_view::npos && areaEnd < bang))
+        return true;
     const std::string_view name = text.substr(position, bang - position);
-    if (name.empty() || SheetNameNeedsQuotes(name)) return false;
+    if (name.empty() || SheetNameNeedsQuotes(name))
+        return false;
     sheet.assign(name);
     position = bang + 1;
     return true;
@@ -139,7 +161,8 @@ std::string ColumnLetters(int32_t column) {
 std::optional<int32_t> ParseColumnLetters(std::string_view letters) {
     size_t position = 0;
     const auto column = ReadColumn(letters, position);
-    if (!column || *column == 0 || position != letters.size()) return std::nullopt;
+    if (!column || *column == 0 || position != letters.size())
+        return std::nullopt;
     return column;
 }
 
@@ -147,11 +170,13 @@ std::string FormatBlock(const CellBlock& block, bool rowAbsolute, bool columnAbs
     std::string text;
     text.reserve(24);
     const auto appendRow = [&](int32_t row) {
-        if (rowAbsolute) text.push_back('$');
+        if (rowAbsolute)
+            text.push_back('$');
         AppendNumber(text, row);
     };
     const auto appendColumn = [&](int32_t column) {
-        if (columnAbsolute) text.push_back('$');
+        if (columnAbsolute)
+            text.push_back('$');
         AppendColumnLetters(text, column);
     };
     if (block.left == 1 && block.right == MaxColumn) {
@@ -216,14 +241,16 @@ bool LooksLikeA1Cell(std::string_view text) {
 bool LooksLikeR1C1Reference(std::string_view text) {
     size_t position = 0;
     const auto readAxis = [&](char axis, int32_t limit) {
-        if (position >= text.size() || (text[position] | 0x20) != axis) return false;
+        if (position >= text.size() || (text[position] | 0x20) != axis)
+            return false;
         ++position;
         const size_t start = position;
         const auto number = ReadNumber(text, position, limit);
         return number && (position == start || *number > 0);
     };
     if (readAxis('r', MaxRow)) {
-        if (position == text.size()) return true;
+        if (position == text.size())
+            return true;
         return readAxis('c', MaxColumn) && position == text.size();
     }
     return readAxis('c', MaxColumn) && position == text.size();
@@ -235,19 +262,23 @@ std::optional<ParsedReference> ParseA1Reference(std::string_view text) {
     std::string areaSheet;
     size_t position = 0;
     do {
-        if (!reference.areas.empty()) ++position;  // past the ","
+        if (!reference.areas.empty())
+            ++position;  // past the ","
         const bool first = reference.areas.empty();
-        if (!ReadSheetPrefix(text, position, areaSheet)) return std::nullopt;
+        if (!ReadSheetPrefix(text, position, areaSheet))
+            return std::nullopt;
         if (first) {
             reference.sheet = areaSheet;
         } else if (!areaSheet.empty() && !SameSheetName(areaSheet, reference.sheet)) {
             return std::nullopt;
         }
         const auto area = ReadArea(text, position);
-        if (!area) return std::nullopt;
+        if (!area)
+            return std::nullopt;
         reference.areas.push_back(*area);
     } while (position < text.size() && text[position] == ',');
-    if (position != text.size()) return std::nullopt;
+    if (position != text.size())
+        return std::nullopt;
     return reference;
 }
 

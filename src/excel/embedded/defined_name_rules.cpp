@@ -9,7 +9,9 @@ namespace {
 
 constexpr size_t MaxDefinedNameLength = 255;
 
-bool CanStartName(char32_t c) { return IsNameLetter(c) || c == '_' || c == '\\'; }
+bool CanStartName(char32_t c) {
+    return IsNameLetter(c) || c == '_' || c == '\\';
+}
 
 bool CanContinueName(char32_t c) {
     return CanStartName(c) || (c >= '0' && c <= '9') || c == '.' || c == '?';
@@ -18,12 +20,14 @@ bool CanContinueName(char32_t c) {
 }  // namespace
 
 bool IsValidDefinedName(std::string_view name) {
-    if (name.empty()) return false;
+    if (name.empty())
+        return false;
     size_t position = 0;
     size_t length = 0;
     for (; position < name.size(); ++length) {
         const char32_t c = NextCodePoint(name, position);
-        if (!(length == 0 ? CanStartName(c) : CanContinueName(c))) return false;
+        if (!(length == 0 ? CanStartName(c) : CanContinueName(c)))
+            return false;
     }
     return length <= MaxDefinedNameLength && !LooksLikeA1Cell(name) && !LooksLikeR1C1Reference(name);
 }

@@ -17,8 +17,10 @@ constexpr double FileWidthSteps = 256.0;
 }  // namespace
 
 int32_t ColumnWidthToPixels(double characters) {
-    if (!(characters > 0)) return 0;
-    if (characters < 1) return static_cast<int32_t>(std::lround(characters * PixelsOfOneCharacter));
+    if (!(characters > 0))
+        return 0;
+    if (characters < 1)
+        return static_cast<int32_t>(std::lround(characters * PixelsOfOneCharacter));
     return static_cast<int32_t>(std::lround(characters * MaxDigitWidth) + static_cast<long>(ColumnPadding));
 }
 
@@ -34,7 +36,8 @@ double FileColumnWidth(double characters) {
 }
 
 double ColumnWidthFromFile(double fileWidth) {
-    if (!(fileWidth > 0)) return 0;
+    if (!(fileWidth > 0))
+        return 0;
     // How Excel turns a stored width into pixels: half a pixel's worth of 1/256 steps is added
     // before truncating.
     const double steps = std::trunc(fileWidth * FileWidthSteps);
@@ -45,7 +48,8 @@ double ColumnWidthFromFile(double fileWidth) {
 }
 
 double RowHeightToPoints(double points) {
-    if (!(points > 0)) return 0;
+    if (!(points > 0))
+        return 0;
     return std::round(points / PointsPerPixel) * PointsPerPixel;
 }
 

@@ -16,8 +16,10 @@ bool IsUnquotedCharacter(char32_t c) {
 }  // namespace
 
 bool IsValidSheetName(std::string_view name) {
-    if (name.empty() || name.front() == '\'' || name.back() == '\'') return false;
-    if (name.find_first_of(":\\/?*[]") != std::string_view::npos) return false;
+    if (name.empty() || name.front() == '\'' || name.back() == '\'')
+        return false;
+    if (name.find_first_of(":\\/?*[]") != std::string_view::npos)
+        return false;
     const size_t length = CodePointCount(name);
     return length <= MaxSheetNameLength && !EqualsIgnoringCase(name, "History");
 }
@@ -27,20 +29,24 @@ bool SameSheetName(std::string_view a, std::string_view b) {
 }
 
 bool SheetNameNeedsQuotes(std::string_view name) {
-    if (name.empty() || (name[0] >= '0' && name[0] <= '9')) return true;
+    if (name.empty() || (name[0] >= '0' && name[0] <= '9'))
+        return true;
     for (size_t position = 0; position < name.size();) {
-        if (!IsUnquotedCharacter(NextCodePoint(name, position))) return true;
+        if (!IsUnquotedCharacter(NextCodePoint(name, position)))
+            return true;
     }
     return LooksLikeA1Cell(name) || LooksLikeR1C1Reference(name);
 }
 
 std::string QualifiedSheetName(std::string_view name) {
-    if (!SheetNameNeedsQuotes(name)) return std::string(name);
+    if (!SheetNameNeedsQuotes(name))
+        return std::string(name);
     std::string quoted;
     quoted.reserve(name.size() + 4);
     quoted.push_back('\'');
     for (char c : name) {
-        if (c == '\'') quoted.push_back('\'');
+        if (c == '\'')
+            quoted.push_back('\'');
         quoted.push_back(c);
     }
     quoted.push_back('\'');

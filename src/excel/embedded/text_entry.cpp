@@ -29,22 +29,28 @@ constexpr std::array<CellError, 7> CellErrors{{
 constexpr int SignificantDigits = 15;
 constexpr double LargestNumber = 9.99999999999999e307;
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
 
 std::string_view TrimSpaces(std::string_view text) {
-    while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
-    while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
+    while (!text.empty() && text.front() == ' ')
+        text.remove_prefix(1);
+    while (!text.empty() && text.back() == ' ')
+        text.remove_suffix(1);
     return text;
 }
 
 bool ConsumePrefix(std::string_view& text, char c) {
-    if (text.empty() || text.front() != c) return false;
+    if (text.empty() || text.front() != c)
+        return false;
     text.remove_prefix(1);
     return true;
 }
 
 bool ConsumeSuffix(std::string_view& text, char c) {
-    if (text.empty() || text.back() != c) return false;
+    if (text.empty() || text.back() != c)
+        return false;
     text.remove_suffix(1);
     return true;
 }
@@ -66,9 +72,12 @@ std::optional<DigitsShape> ReadDigits(std::string_view text, bool allowExponent,
     size_t groupLength = 0;
     const auto appendDigit = [&](char digit, bool integerPart) {
         ++digitsSeen;
-        if (significant > 0 || digit != '0') ++significant;
-        if (significant <= SignificantDigits) plain.push_back(digit);
-        else if (integerPart) plain.push_back('0');
+        if (significant > 0 || digit != '0')
+            ++significant;
+        if (significant <= SignificantDigits)
+            plain.push_back(digit);
+        else if (integerPart)
+            plain.push_back('0');
     };
     for (; i < text.size(); ++i) {
         if (IsDigit(text[i])) {
@@ -81,23 +90,30 @@ std::optional<DigitsShape> ReadDigits(std::string_view text, bool allowExponent,
             break;
         }
     }
-    if (shape.grouped && groupLength != 3) return std::nullopt;
+    if (shape.grouped && groupLength != 3)
+        return std::nullopt;
     if (i < text.size() && text[i] == '.') {
         shape.fraction = true;
         plain.push_back('.');
-        for (++i; i < text.size() && IsDigit(text[i]); ++i) appendDigit(text[i], false);
+        for (++i; i < text.size() && IsDigit(text[i]); ++i)
+            appendDigit(text[i], false);
     }
-    if (digitsSeen == 0) return std::nullopt;
+    if (digitsSeen == 0)
+        return std::nullopt;
     if (allowExponent && !shape.grouped && i < text.size() && (text[i] == 'e' || text[i] == 'E')) {
         shape.exponent = true;
         plain.push_back('e');
         ++i;
-        if (i < text.size() && (text[i] == '+' || text[i] == '-')) plain.push_back(text[i++]);
+        if (i < text.size() && (text[i] == '+' || text[i] == '-'))
+            plain.push_back(text[i++]);
         const size_t exponentStart = i;
-        for (; i < text.size() && IsDigit(text[i]); ++i) plain.push_back(text[i]);
-        if (i == exponentStart) return std::nullopt;
+        for (; i < text.size() && IsDigit(text[i]); ++i)
+            plain.push_back(text[i]);
+        if (i == exponentStart)
+            return std::nullopt;
     }
-    if (i != text.size()) return std::nullopt;
+    if (i != text.size())
+        return std::nullopt;
     return shape;
 }
 
@@ -112,25 +128,31 @@ bool ReadNumber(std::string_view text, TextEntry& entry) {
     }
     bool currency = ConsumePrefix(text, '$');
     if (ConsumePrefix(text, '-')) {
-        if (negative) return false;
+        if (negative)
+            return false;
         negative = true;
     } else if (ConsumePrefix(text, '+') && negative) {
         return false;
     }
-    if (!currency) currency = ConsumePrefix(text, '$');
+    if (!currency)
+        currency = ConsumePrefix(text, '$');
     const bool percent = !currency && ConsumeSuffix(text, '%');
 
     std::string plain;
     plain.reserve(text.size() + 2);
-    if (negative) plain.push_back('-');
+    if (negative)
+        plain.push_back('-');
     const auto shape = ReadDigits(text, !currency && !percent, plain);
-    if (!shape) return false;
+    if (!shape)
+        return false;
     double value = 0;
     const auto [end, error] = std::from_chars(plain.data(), plain.data() + plain.size(), value);
-    if (end != plain.data() + plain.size()) return false;
+    if (end != plain.data() + plain.size())
+        return false;
     if (error == std::errc::result_out_of_range) {
         // A large negative exponent rounds to zero; a number too large stays text.
-        if (plain.find("e-") == std::string::npos) return false;
+        if (plain.find("e-") == std::string::npos)
+            return false;
         value = 0.0;
     } else if (error != std::errc() || std::abs(value) > LargestNumber) {
         return false;
@@ -138,10 +160,14 @@ bool ReadNumber(std::string_view text, TextEntry& entry) {
 
     entry.kind = TextEntry::Kind::Number;
     entry.number = percent ? value / 100.0 : value;
-    if (percent) entry.impliedNumberFormat = shape->fraction ? "0.00%" : "0%";
-    else if (currency) entry.impliedNumberFormat = shape->fraction ? "$#,##0.00" : "$#,##0";
-    else if (shape->grouped) entry.impliedNumberFormat = shape->fraction ? "#,##0.00" : "#,##0";
-    else if (shape->exponent) entry.impliedNumberFormat = "0.00E+00";
+    if (percent)
+        entry.impliedNumberFormat = shape->fraction ? "0.00%" : "0%";
+    else if (currency)
+        entry.impliedNumberFormat = shape->fraction ? "$#,##0.00" : "$#,##0";
+    else if (shape->grouped)
+        entry.impliedNumberFormat = shape->fraction ? "#,##0.00" : "#,##0";
+    else if (shape->exponent)
+        entry.impliedNumberFormat = "0.00E+00";
     return true;
 }
 
@@ -149,7 +175,8 @@ bool ReadNumber(std::string_view text, TextEntry& entry) {
 
 TextEntry ParseTextEntry(std::string_view input) {
     TextEntry entry;
-    if (input.empty()) return entry;
+    if (input.empty())
+        return entry;
     if (input.front() == '\'') {
         entry.kind = TextEntry::Kind::Text;
         entry.text.assign(input.substr(1));
@@ -171,7 +198,8 @@ TextEntry ParseTextEntry(std::string_view input) {
         entry.text = ErrorTextFromNumber(*errorNumber);
         return entry;
     }
-    if (ReadNumber(input, entry)) return entry;
+    if (ReadNumber(input, entry))
+        return entry;
     entry.kind = TextEntry::Kind::Text;
     entry.text.assign(input);
     return entry;
@@ -179,14 +207,16 @@ TextEntry ParseTextEntry(std::string_view input) {
 
 std::optional<int32_t> ErrorNumberFromText(std::string_view text) {
     for (const CellError& error : CellErrors) {
-        if (EqualsIgnoringCase(text, error.text)) return error.number;
+        if (EqualsIgnoringCase(text, error.text))
+            return error.number;
     }
     return std::nullopt;
 }
 
 std::string ErrorTextFromNumber(int32_t number) {
     for (const CellError& error : CellErrors) {
-        if (error.number == number) return std::string(error.text);
+        if (error.number == number)
+            return std::string(error.text);
     }
     return {};
 }
