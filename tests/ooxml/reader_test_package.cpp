@@ -81,6 +81,31 @@ TemporaryPackage::~TemporaryPackage() {
     std::remove(path_.c_str());
 }
 
+PackageParts ReadPackageParts(const std::string& path) {
+    int error = 0;
+    zip_t* archive = zip_open(path.c_str(), ZIP_RDONLY, &error);
+    if (archive == nullptr) {
+        throw std::runtime_error("cannot open " + path);
+    }
+    PackageParts parts;
+    const zip_int64_t count = zip_get_num_entries(archive, 0);
+    for (zip_int64_t i = 0; i < count; ++i) {
+        zip_stat_t stat;
+        zip_file_t* file = zip_fopen_index(archive, static_cast<zip_uint64_t>(i), 0);
+        if (file == nullptr || zip_stat_index(archive, static_cast<zip_uint64_t>(i), 0, &stat) != 0) {
+            zip_discard(archive);
+            throw std::runtime_error("cannot read entry of " + path);
+        }
+        std::string bytes(static_cast<std::size_t>(stat.size), '\0');
+        const zip_int64_t read = zip_fread(file, bytes.data(), bytes.size());
+        zip_fclose(file);
+        bytes.resize(read < 0 ? 0 : static_cast<std::size_t>(read));
+        parts[stat.name] = std::move(bytes);
+    }
+    zip_discard(archive);
+    return parts;
+}
+
 std::string FileBytes(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
     return std::string(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());

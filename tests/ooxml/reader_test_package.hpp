@@ -27,6 +27,9 @@ private:
     std::string path_;
 };
 
+// The entries of a zip file, as they are stored.
+PackageParts ReadPackageParts(const std::string& path);
+
 // The bytes of a file.
 std::string FileBytes(const std::string& path);
 
