@@ -31,7 +31,8 @@ ooxml::WorkbookDocument NumericSheet() {
         ooxml::Row& row = sheet.rows.emplace_back();
         row.index = r;
         for (uint32_t c = 1; c <= Columns; ++c) {
-            row.cells.push_back(ooxml::Cell{c, c % 2, 0, ooxml::NoFormula, r * 1.37 + c / 7.0, ooxml::CellType::Number});
+            row.cells.push_back(
+                ooxml::Cell{c, c % 2, 0, ooxml::NoFormula, r * 1.37 + c / 7.0, ooxml::CellType::Number});
         }
     }
     return document;
@@ -69,8 +70,7 @@ int main(int argc, char** argv) {
         std::printf("read %d: %.3f s\n", i + 1, elapsed.count());
     }
     std::printf("cells: %zu, best wall time: %.3f s (%.1f M cells/s), file: %.1f MB\n", cells, best,
-                static_cast<double>(cells) / best / 1e6,
-                static_cast<double>(std::filesystem::file_size(path)) / 1e6);
+                static_cast<double>(cells) / best / 1e6, static_cast<double>(std::filesystem::file_size(path)) / 1e6);
     std::printf("peak RSS: %.1f MB (%.1f MB before reading)\n", PeakResidentKilobytes() / 1024.0,
                 beforeKilobytes / 1024.0);
     return 0;

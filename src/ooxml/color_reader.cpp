@@ -38,8 +38,8 @@ Color ReadColor(pugi::xml_node node) {
     } else if (const std::optional<uint32_t> theme = AttributeUnsigned(node, "theme")) {
         color = Color{Color::Kind::Theme, 0, static_cast<int32_t>(std::min<uint32_t>(*theme, MaxThemeColor)), tint};
     } else if (const std::optional<uint32_t> indexed = AttributeUnsigned(node, "indexed")) {
-        color = Color{Color::Kind::Indexed, 0, static_cast<int32_t>(std::min<uint32_t>(*indexed, MaxIndexedColor)),
-                      tint};
+        color =
+            Color{Color::Kind::Indexed, 0, static_cast<int32_t>(std::min<uint32_t>(*indexed, MaxIndexedColor)), tint};
     } else if (AttributeBool(node, "auto", false)) {
         color.kind = Color::Kind::Auto;
     }

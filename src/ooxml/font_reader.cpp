@@ -52,7 +52,8 @@ Font ReadFont(pugi::xml_node node) {
         } else if (name == "color") {
             font.color = ReadColor(child);
         } else if (name == "family") {
-            font.family = static_cast<int32_t>(std::min<uint32_t>(AttributeUnsigned(child, "val").value_or(0), MaxFontFamily));
+            font.family =
+                static_cast<int32_t>(std::min<uint32_t>(AttributeUnsigned(child, "val").value_or(0), MaxFontFamily));
         } else if (name == "scheme") {
             const std::string_view value = AttributeText(child, "val");
             font.scheme = value == "none" ? std::string_view() : value;

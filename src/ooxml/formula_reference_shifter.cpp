@@ -145,9 +145,7 @@ private:
         return formula_.substr(start, at_ - start);
     }
 
-    char Peek() const {
-        return at_ < formula_.size() ? formula_[at_] : '\0';
-    }
+    char Peek() const { return at_ < formula_.size() ? formula_[at_] : '\0'; }
 
     void ShiftToken() {
         const std::string_view token = NextToken();

@@ -72,7 +72,8 @@ Alignment ReadAlignment(pugi::xml_node node) {
     alignment.vertical = vertical == "bottom" ? std::string_view() : vertical;
     alignment.wrapText = AttributeBool(node, "wrapText", false);
     alignment.shrinkToFit = AttributeBool(node, "shrinkToFit", false);
-    alignment.indent = static_cast<int32_t>(std::min<uint32_t>(AttributeUnsigned(node, "indent").value_or(0), MaxIndent));
+    alignment.indent =
+        static_cast<int32_t>(std::min<uint32_t>(AttributeUnsigned(node, "indent").value_or(0), MaxIndent));
     const uint32_t rotation = AttributeUnsigned(node, "textRotation").value_or(0);
     alignment.textRotation = rotation <= 180 ? static_cast<int32_t>(rotation) : VerticalTextRotation;
     return alignment;

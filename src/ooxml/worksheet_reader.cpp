@@ -164,7 +164,8 @@ private:
         bool customFormat = false;
         std::optional<double> height;
         std::optional<uint32_t> format;
-        for (pugi::xml_attribute attribute = rowNode.first_attribute(); attribute; attribute = attribute.next_attribute()) {
+        for (pugi::xml_attribute attribute = rowNode.first_attribute(); attribute;
+             attribute = attribute.next_attribute()) {
             const std::string_view name = LocalName(attribute.name());
             if (name == "r") {
                 const std::optional<uint32_t> index = ParseUnsigned(attribute.value());
@@ -278,8 +279,9 @@ private:
             SetString(cell, CellType::Error, context_.strings.AddPlain(text));
         } else if (type == "d") {
             const std::optional<std::time_t> time = ParseIsoDateTime(text);
-            SetNumber(cell, CellType::Number,
-                      time ? std::optional(static_cast<double>(*time) / SecondsPerDay + UnixEpochSerial) : std::nullopt);
+            SetNumber(
+                cell, CellType::Number,
+                time ? std::optional(static_cast<double>(*time) / SecondsPerDay + UnixEpochSerial) : std::nullopt);
         }
     }
 
@@ -337,8 +339,7 @@ private:
 
 }  // namespace
 
-void ReadWorksheet(std::string& xml, std::string_view partName, const WorksheetContext& context,
-                   SheetDocument& sheet) {
+void ReadWorksheet(std::string& xml, std::string_view partName, const WorksheetContext& context, SheetDocument& sheet) {
     pugi::xml_document document;
     ParseXmlPart(document, xml, partName);
     WorksheetReader(partName, context, sheet).Read(document.document_element());

@@ -20,7 +20,6 @@ struct WorksheetContext {
 // Reads a worksheet part into sheet (whose name and state the workbook gives): cells, rows,
 // columns, merges, the first sheet view, print grid lines and the default sizes. Throws
 // PackageError(Corrupt).
-void ReadWorksheet(std::string& xml, std::string_view partName, const WorksheetContext& context,
-                   SheetDocument& sheet);
+void ReadWorksheet(std::string& xml, std::string_view partName, const WorksheetContext& context, SheetDocument& sheet);
 
 }  // namespace ooxml

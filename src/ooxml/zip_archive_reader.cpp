@@ -14,15 +14,15 @@ namespace {
 
 [[noreturn]] void ThrowOpenError(const std::string& path, int zipError) {
     switch (zipError) {
-    case ZIP_ER_NOENT:
-        throw PackageError(PackageError::Reason::FileNotFound, "File not found: " + path);
-    case ZIP_ER_OPEN:
-    case ZIP_ER_READ:
-        throw PackageError(PackageError::Reason::AccessDenied, "Cannot read: " + path);
-    case ZIP_ER_MEMORY:
-        throw std::bad_alloc();
-    default:
-        throw PackageError(PackageError::Reason::NotAPackage, "Not a zip package: " + path);
+        case ZIP_ER_NOENT:
+            throw PackageError(PackageError::Reason::FileNotFound, "File not found: " + path);
+        case ZIP_ER_OPEN:
+        case ZIP_ER_READ:
+            throw PackageError(PackageError::Reason::AccessDenied, "Cannot read: " + path);
+        case ZIP_ER_MEMORY:
+            throw std::bad_alloc();
+        default:
+            throw PackageError(PackageError::Reason::NotAPackage, "Not a zip package: " + path);
     }
 }
 

@@ -65,8 +65,8 @@ TEST(ExcelCorpusReaderTest, RichStringRunsWithTheirFonts) {
 TEST(ExcelCorpusReaderTest, ThemeFillsWithTints) {
     const auto document = ReadCorpus("cells-drawings-xlsxwriter/xw__theme_color02.xlsx");
     const ooxml::SheetDocument& sheet = document.sheets.at(0);
-    const std::vector<double> tints{0.0, 0.499984740745262, 0.3499862666707358, 0.249977111117893, 0.1499984740745262,
-                                    0.0499893185216834};
+    const std::vector<double> tints{
+        0.0, 0.499984740745262, 0.3499862666707358, 0.249977111117893, 0.1499984740745262, 0.0499893185216834};
     for (uint32_t row = 1; row <= tints.size(); ++row) {
         const ooxml::Fill& fill = document.formats.at(CellAt(sheet, row, 1).format).fill;
         EXPECT_EQ(fill.patternType, "solid") << "row " << row;

@@ -108,11 +108,12 @@ TEST(PackageReaderTest, SharedStringIndexBeyondTheTableIsCorrupt) {
 }
 
 TEST(PackageReaderTest, CellsAndRowsWithoutReferencesFollowTheirPredecessors) {
-    const auto document = Read(MinimalPackage(R"(<sheetData>)"
-                                              R"(<row><c><v>1</v></c><c><v>2</v></c><c r="E1"><v>5</v></c><c><v>6</v></c></row>)"
-                                              R"(<row r="4"><c r="B4"><v>7</v></c></row>)"
-                                              R"(<row><c><v>8</v></c></row>)"
-                                              R"(</sheetData>)"));
+    const auto document =
+        Read(MinimalPackage(R"(<sheetData>)"
+                            R"(<row><c><v>1</v></c><c><v>2</v></c><c r="E1"><v>5</v></c><c><v>6</v></c></row>)"
+                            R"(<row r="4"><c r="B4"><v>7</v></c></row>)"
+                            R"(<row><c><v>8</v></c></row>)"
+                            R"(</sheetData>)"));
     const ooxml::SheetDocument& sheet = document.sheets.at(0);
     ASSERT_EQ(sheet.rows.size(), 3u);
     EXPECT_EQ(sheet.rows[0].index, 1u);
@@ -128,18 +129,18 @@ TEST(PackageReaderTest, CellsAndRowsWithoutReferencesFollowTheirPredecessors) {
 }
 
 TEST(PackageReaderTest, ReadsEveryKindOfCellValue) {
-    const auto document = Read(MinimalPackage(
-        R"(<sheetData><row r="1">)"
-        R"(<c r="A1"><v>-1.25E-3</v></c>)"
-        R"(<c r="B1" t="inlineStr"><is><t xml:space="preserve"> inline &amp; text </t></is></c>)"
-        R"(<c r="C1" t="b"><v>1</v></c>)"
-        R"(<c r="D1" t="b"><v>0</v></c>)"
-        R"(<c r="E1" t="e"><v>#DIV/0!</v></c>)"
-        R"(<c r="F1" t="str"><f>"a"&amp;"b"</f><v>ab</v></c>)"
-        R"(<c r="G1"><f>SUM(A1,1)</f><v>0.99875</v></c>)"
-        R"(<c r="H1" s="0"/>)"
-        R"(<c r="I1" t="d"><v>2024-03-05T12:00:00</v></c>)"
-        R"(</row></sheetData>)"));
+    const auto document =
+        Read(MinimalPackage(R"(<sheetData><row r="1">)"
+                            R"(<c r="A1"><v>-1.25E-3</v></c>)"
+                            R"(<c r="B1" t="inlineStr"><is><t xml:space="preserve"> inline &amp; text </t></is></c>)"
+                            R"(<c r="C1" t="b"><v>1</v></c>)"
+                            R"(<c r="D1" t="b"><v>0</v></c>)"
+                            R"(<c r="E1" t="e"><v>#DIV/0!</v></c>)"
+                            R"(<c r="F1" t="str"><f>"a"&amp;"b"</f><v>ab</v></c>)"
+                            R"(<c r="G1"><f>SUM(A1,1)</f><v>0.99875</v></c>)"
+                            R"(<c r="H1" s="0"/>)"
+                            R"(<c r="I1" t="d"><v>2024-03-05T12:00:00</v></c>)"
+                            R"(</row></sheetData>)"));
     const ooxml::SheetDocument& sheet = document.sheets.at(0);
     EXPECT_EQ(CellAt(sheet, 1, 1).type, CellType::Number);
     EXPECT_DOUBLE_EQ(CellAt(sheet, 1, 1).number, -0.00125);
@@ -183,10 +184,11 @@ TEST(PackageReaderTest, InlineAndFormulaStringsReuseEqualEntriesOfTheStringTable
 }
 
 TEST(PackageReaderTest, DecodesEscapedCharactersInText) {
-    const auto document = Read(MinimalPackage(R"(<sheetData><row r="1">)"
-                                              R"(<c r="A1" t="inlineStr"><is><t>a_x000D__x000A_b_x005F_x0041_</t></is></c>)"
-                                              R"(<c r="B1" t="inlineStr"><is><t>_xD83D__xDE00_ and _x12G4_</t></is></c>)"
-                                              R"(</row></sheetData>)"));
+    const auto document =
+        Read(MinimalPackage(R"(<sheetData><row r="1">)"
+                            R"(<c r="A1" t="inlineStr"><is><t>a_x000D__x000A_b_x005F_x0041_</t></is></c>)"
+                            R"(<c r="B1" t="inlineStr"><is><t>_xD83D__xDE00_ and _x12G4_</t></is></c>)"
+                            R"(</row></sheetData>)"));
     EXPECT_EQ(Text(document, 1, 1), "a\r\nb_x0041_");
     EXPECT_EQ(Text(document, 1, 2), "\xF0\x9F\x98\x80 and _x12G4_");
 }
@@ -210,9 +212,9 @@ TEST(PackageReaderTest, SharedFormulasAreExpandedIntoEveryCell) {
 }
 
 TEST(PackageReaderTest, SharedFormulaMovedOffTheSheetBecomesRefError) {
-    const auto document = Read(MinimalPackage(
-        R"(<sheetData><row r="2"><c r="B2"><f t="shared" ref="A2:B2" si="0">A1+1</f><v>1</v></c></row>)"
-        R"(<row r="3"><c r="A3"><f t="shared" si="0"/><v>2</v></c></row></sheetData>)"));
+    const auto document = Read(
+        MinimalPackage(R"(<sheetData><row r="2"><c r="B2"><f t="shared" ref="A2:B2" si="0">A1+1</f><v>1</v></c></row>)"
+                       R"(<row r="3"><c r="A3"><f t="shared" si="0"/><v>2</v></c></row></sheetData>)"));
     EXPECT_EQ(Formula(document.sheets.at(0), 3, 1), "#REF!+1");
 }
 
@@ -313,8 +315,8 @@ TEST(PackageReaderTest, ReadsTheWorkbookPartSheetsNamesAndProtection) {
              {"rId2", "chartsheet", "chartsheets/sheet1.xml"},
              {"rId3", "worksheet", "/xl/worksheets/sheet1.xml"},
              {"rId4", "worksheet", "worksheets/sheet1.xml"}}) {
-        relationships += "<Relationship Id=\"" + id + "\" Type=\"" + RelationshipType + type + "\" Target=\"" + target +
-                         "\"/>";
+        relationships +=
+            "<Relationship Id=\"" + id + "\" Type=\"" + RelationshipType + type + "\" Target=\"" + target + "\"/>";
     }
     parts["xl/_rels/workbook.xml.rels"] = relationships + "</Relationships>";
     const auto document = Read(parts);
@@ -339,10 +341,11 @@ TEST(PackageReaderTest, ReadsCoreDocumentProperties) {
         R"(<cp:lastModifiedBy>Bob Editor</cp:lastModifiedBy>)"
         R"(<dcterms:created xsi:type="dcterms:W3CDTF">2006-09-16T00:00:00Z</dcterms:created>)"
         R"(<dcterms:modified xsi:type="dcterms:W3CDTF">2024-02-29T23:30:15.5+01:30</dcterms:modified></cp:coreProperties>)";
-    parts["_rels/.rels"] = std::string(RelationshipsStart) + R"(<Relationship Id="rId1" Type=")" + RelationshipType +
-                           R"(officeDocument" Target="xl/workbook.xml"/><Relationship Id="rId2" )"
-                           R"(Type="http://schemas.openxmlformats.org/package/2006/relationships/metadata/core-properties" )"
-                           R"(Target="docProps/core.xml"/></Relationships>)";
+    parts["_rels/.rels"] =
+        std::string(RelationshipsStart) + R"(<Relationship Id="rId1" Type=")" + RelationshipType +
+        R"(officeDocument" Target="xl/workbook.xml"/><Relationship Id="rId2" )"
+        R"(Type="http://schemas.openxmlformats.org/package/2006/relationships/metadata/core-properties" )"
+        R"(Target="docProps/core.xml"/></Relationships>)";
     const auto document = Read(parts);
     EXPECT_EQ(document.properties.creator, "Ann Author");
     EXPECT_EQ(document.properties.lastModifiedBy, "Bob Editor");

@@ -28,7 +28,8 @@ ooxml::CellFormat FullFormat() {
     format.font.color = Color{Color::Kind::Rgb, 0xFF336699, 0, 0.0};
     format.font.family = 0;
     format.font.scheme = "";
-    format.fill = ooxml::Fill{"solid", Color{Color::Kind::Theme, 0, 4, 0.3999755851924192}, Color{Color::Kind::Indexed, 0, 64, 0.0}};
+    format.fill = ooxml::Fill{"solid", Color{Color::Kind::Theme, 0, 4, 0.3999755851924192},
+                              Color{Color::Kind::Indexed, 0, 64, 0.0}};
     format.border.left = {"thin", Color{Color::Kind::Auto, 0, 0, 0.0}};
     format.border.right = {"medium", Color{Color::Kind::Indexed, 0, 10, 0.0}};
     format.border.top = {"dashed", Color{Color::Kind::Theme, 0, 1, -0.25}};
@@ -74,20 +75,31 @@ ooxml::WorkbookDocument RichDocument() {
     data.defaultColumnWidth = 12.5;
     data.defaultRowHeight = 18.0;
     data.activeCell = "C4";
-    data.columns = {{1, 1, 30.7109375, std::nullopt, false}, {2, 4, std::nullopt, 2u, false},
-                    {5, 5, 0.0, std::nullopt, true}, {7, 16384, 4.5, 4u, false}};
+    data.columns = {{1, 1, 30.7109375, std::nullopt, false},
+                    {2, 4, std::nullopt, 2u, false},
+                    {5, 5, 0.0, std::nullopt, true},
+                    {7, 16384, 4.5, 4u, false}};
     data.formulas = {"SUM(B2:B3)", "\"a\"&\"b\"", "B2>0", "1/0", "A1:A2 A2"};
-    data.rows.push_back({1, std::nullopt, std::nullopt, false,
+    data.rows.push_back({1,
+                         std::nullopt,
+                         std::nullopt,
+                         false,
                          {{1, 0, 0, ooxml::NoFormula, 0.0, CellType::String},
                           {2, 1, 1, ooxml::NoFormula, 0.0, CellType::String},
                           {3, 0, 2, ooxml::NoFormula, 0.0, CellType::String}}});
-    data.rows.push_back({2, 30.25, 4u, false,
+    data.rows.push_back({2,
+                         30.25,
+                         4u,
+                         false,
                          {{1, 2, 0, ooxml::NoFormula, 45356.5, CellType::Number},
                           {2, 3, 0, ooxml::NoFormula, -1.25e-7, CellType::Number},
                           {3, 0, 0, ooxml::NoFormula, 1.0, CellType::Boolean},
                           {4, 0, 3, ooxml::NoFormula, 0.0, CellType::Error},
                           {16384, 1, 0, ooxml::NoFormula, 0.0, CellType::Blank}}});
-    data.rows.push_back({3, std::nullopt, std::nullopt, true,
+    data.rows.push_back({3,
+                         std::nullopt,
+                         std::nullopt,
+                         true,
                          {{1, 0, 0, 0, 6.5, CellType::Number},
                           {2, 0, 0, 1, 0.0, CellType::String},
                           {3, 0, 0, 2, 0.0, CellType::Boolean},

@@ -93,7 +93,7 @@ TEST(StylesReaderTest, BuiltinNumberFormatsAndMissingPiecesFallBackToDefaults) {
     const auto document = ReadStyled();
     const ooxml::CellFormat& accounting = document.formats.at(2);
     EXPECT_EQ(accounting.numberFormat, R"(_("$"* #,##0.00_);_("$"* \(#,##0.00\);_("$"* "-"??_);_(@_))");
-    EXPECT_EQ(accounting.font, ooxml::Font{});  // font 7 does not exist
+    EXPECT_EQ(accounting.font, ooxml::Font{});       // font 7 does not exist
     EXPECT_EQ(accounting.fill.patternType, "none");  // a gradient is not kept
     const ooxml::CellFormat& date = document.formats.at(3);
     EXPECT_EQ(date.numberFormat, "m/d/yyyy");
