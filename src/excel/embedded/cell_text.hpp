@@ -1,0 +1,19 @@
+#pragma once
+
+#include "excel/embedded/cell.hpp"
+#include "excel/embedded/string_pool.hpp"
+
+#include <string>
+#include <string_view>
+
+namespace excel::embedded {
+
+// The text a cell shows (Range.Text) under its number format. General, "@", fixed decimals,
+// thousands separators, percentages, literal prefixes and suffixes and simple date codes are
+// rendered; a format beyond that shows the General text.
+std::string DisplayText(const Cell* cell, std::string_view numberFormat, const StringPool& strings);
+
+// A number under a format (the numeric part of DisplayText).
+std::string FormatNumber(double value, std::string_view numberFormat);
+
+}  // namespace excel::embedded

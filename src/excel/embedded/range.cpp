@@ -1,0 +1,332 @@
+#include "excel/embedded/range.hpp"
+
+#include "excel/embedded/application.hpp"
+#include "excel/embedded/areas.hpp"
+#include "excel/embedded/borders.hpp"
+#include "excel/embedded/characters.hpp"
+#include "excel/embedded/engine_errors.hpp"
+#include "excel/embedded/font.hpp"
+#include "excel/embedded/interior.hpp"
+#include "excel/embedded/sheet_name_rules.hpp"
+#include "excel/embedded/worksheet.hpp"
+
+#include <excel/automation_error.hpp>
+#include <excel/constants.hpp>
+
+#include <limits>
+
+namespace excel::embedded {
+
+namespace {
+
+bool InSheet(const CellBlock& block) {
+    return block.top >= 1 && block.left >= 1 && block.bottom <= MaxRow && block.right <= MaxColumn &&
+           block.top <= block.bottom && block.left <= block.right;
+}
+
+class RangeFontTarget final : public FontTarget {
+public:
+    explicit RangeFontTarget(RangeCells cells) : cells_(std::move(cells)) {}
+
+    std::vector<ooxml::Font> Fonts() override {
+        const WorkbookModel& book = cells_.Book();
+        std::vector<ooxml::Font> fonts;
+        for (uint32_t id : cells_.DistinctFormats()) {
+            fonts.push_back(book.Formats().Get(id).font);
+        }
+        return fonts;
+    }
+    void EditFonts(const std::function<void(ooxml::Font&)>& edit) override {
+        cells_.EditFormats([&](ooxml::CellFormat& format) { edit(format.font); });
+    }
+    const Palette& Colors() override { return cells_.Book().Palette(); }
+
+private:
+    RangeCells cells_;
+};
+
+}  // namespace
+
+std::shared_ptr<RangeView> RangeView::Make(const std::shared_ptr<WorksheetModel>& sheet, std::vector<CellBlock> areas,
+                                           Listing listing) {
+    for (const CellBlock& area : areas) {
+        if (!InSheet(area)) {
+            ThrowRefused();
+        }
+    }
+    return std::make_shared<RangeView>(RangeCells{sheet, std::move(areas)}, listing);
+}
+
+std::shared_ptr<RangeView> RangeView::relative(int32_t top, int32_t left, int32_t bottom, int32_t right) const {
+    book();
+    return Make(cells_.sheet, {CellBlock{top, left, bottom, right}});
+}
+
+std::shared_ptr<excel::Application> RangeView::Application() {
+    return std::make_shared<ApplicationView>(book().App().shared_from_this());
+}
+
+std::shared_ptr<excel::Worksheet> RangeView::Parent() { return Worksheet(); }
+
+std::shared_ptr<excel::Worksheet> RangeView::Worksheet() {
+    book();
+    return std::make_shared<WorksheetView>(cells_.sheet);
+}
+
+std::shared_ptr<excel::Range> RangeView::Cells() {
+    book();
+    return std::make_shared<RangeView>(cells_);
+}
+
+std::shared_ptr<excel::Range> RangeView::Cells(int32_t row, int32_t column) {
+    const int32_t top = first().top + row - 1;
+    const int32_t left = first().left + column - 1;
+    return relative(top, left, top, left);
+}
+
+std::shared_ptr<excel::Range> RangeView::Cells(int32_t index) {
+    if (index < 1) {
+        book();
+        ThrowRefused();
+    }
+    const int32_t columns = listing_ == Listing::Rows ? MaxColumn : first().Columns();
+    const int32_t offset = index - 1;
+    return Cells(offset / columns + 1, offset % columns + 1);
+}
+
+std::shared_ptr<excel::Range> RangeView::Item(int32_t row, int32_t column) { return Cells(row, column); }
+
+std::shared_ptr<excel::Range> RangeView::Rows() {
+    book();
+    return std::make_shared<RangeView>(cells_, Listing::Rows);
+}
+
+std::shared_ptr<excel::Range> RangeView::Rows(int32_t index) {
+    const int32_t row = first().top + index - 1;
+    return relative(row, first().left, row, first().right);
+}
+
+std::shared_ptr<excel::Range> RangeView::Columns() {
+    book();
+    return std::make_shared<RangeView>(cells_, Listing::Columns);
+}
+
+std::shared_ptr<excel::Range> RangeView::Columns(int32_t index) {
+    const int32_t column = first().left + index - 1;
+    return relative(first().top, column, first().bottom, column);
+}
+
+std::shared_ptr<excel::Range> RangeView::GetRange(const std::string& address) {
+    book();
+    const auto parsed = ParseA1Reference(address);
+    if (!parsed || !parsed->sheet.empty()) {
+        ThrowRefused("Method 'Range' of object 'Range' failed");
+    }
+    std::vector<CellBlock> areas;
+    for (const CellBlock& area : parsed->areas) {
+        areas.push_back(CellBlock{area.top + first().top - 1, area.left + first().left - 1,
+                                  area.bottom + first().top - 1, area.right + first().left - 1});
+    }
+    return Make(cells_.sheet, std::move(areas));
+}
+
+std::shared_ptr<excel::Areas> RangeView::Areas() {
+    book();
+    return std::make_shared<AreasView>(cells_);
+}
+
+std::shared_ptr<excel::Range> RangeView::EntireRow() {
+    book();
+    std::vector<CellBlock> areas;
+    for (const CellBlock& area : cells_.areas) {
+        areas.push_back(CellBlock{area.top, 1, area.bottom, MaxColumn});
+    }
+    return Make(cells_.sheet, std::move(areas), Listing::Rows);
+}
+
+std::shared_ptr<excel::Range> RangeView::EntireColumn() {
+    book();
+    std::vector<CellBlock> areas;
+    for (const CellBlock& area : cells_.areas) {
+        areas.push_back(CellBlock{1, area.left, MaxRow, area.right});
+    }
+    return Make(cells_.sheet, std::move(areas), Listing::Columns);
+}
+
+std::shared_ptr<excel::Range> RangeView::Resize(const Variant& rowSize, const Variant& columnSize) {
+    book();
+    const int32_t rows = rowSize.IsEmpty() ? first().Rows() : rowSize.ToInt();
+    const int32_t columns = columnSize.IsEmpty() ? first().Columns() : columnSize.ToInt();
+    if (rows < 1 || columns < 1) {
+        ThrowRefused();
+    }
+    return relative(first().top, first().left, first().top + rows - 1, first().left + columns - 1);
+}
+
+std::shared_ptr<excel::Range> RangeView::Offset(int32_t rowOffset, int32_t columnOffset) {
+    book();
+    std::vector<CellBlock> areas;
+    for (const CellBlock& area : cells_.areas) {
+        areas.push_back(CellBlock{area.top + rowOffset, area.left + columnOffset, area.bottom + rowOffset,
+                                  area.right + columnOffset});
+    }
+    return Make(cells_.sheet, std::move(areas));
+}
+
+std::shared_ptr<excel::Range> RangeView::MergeArea() {
+    book();
+    const auto merge = cells_.sheet->MergeAt(first().top, first().left);
+    return Make(cells_.sheet, {merge.value_or(CellBlock{first().top, first().left, first().top, first().left})});
+}
+
+int64_t RangeView::CountLarge() {
+    book();
+    if (listing_ == Listing::Rows) {
+        return first().Rows();
+    }
+    if (listing_ == Listing::Columns) {
+        return first().Columns();
+    }
+    int64_t count = 0;
+    for (const CellBlock& area : cells_.areas) {
+        count += area.CellCount();
+    }
+    return count;
+}
+
+int32_t RangeView::Count() {
+    const int64_t count = CountLarge();
+    if (count > std::numeric_limits<int32_t>::max()) {
+        ThrowRuntimeError(6);
+    }
+    return static_cast<int32_t>(count);
+}
+
+int32_t RangeView::Row() {
+    book();
+    return first().top;
+}
+
+int32_t RangeView::Column() {
+    book();
+    return first().left;
+}
+
+std::string RangeView::Address(bool rowAbsolute, bool columnAbsolute, int32_t referenceStyle, bool external) {
+    WorkbookModel& owner = book();
+    std::string prefix;
+    if (external) {
+        const std::string qualified = "[" + owner.Name() + "]" + cells_.sheet->Name();
+        prefix = (SheetNameNeedsQuotes(cells_.sheet->Name()) || owner.Name().find(' ') != std::string::npos
+                      ? QualifiedSheetName(qualified)
+                      : qualified) +
+                 "!";
+    }
+    std::string address;
+    for (const CellBlock& area : cells_.areas) {
+        if (!address.empty()) {
+            address += ',';
+        }
+        address += prefix + (referenceStyle == xlR1C1 ? FormatBlockR1C1(area)
+                                                      : FormatBlock(area, rowAbsolute, columnAbsolute));
+    }
+    return address;
+}
+
+double RangeView::Left() {
+    book();
+    return cells_.sheet->ColumnsPoints(1, first().left - 1);
+}
+
+double RangeView::Top() {
+    book();
+    return cells_.sheet->RowsPoints(1, first().top - 1);
+}
+
+double RangeView::Width() {
+    book();
+    return cells_.sheet->ColumnsPoints(first().left, first().right);
+}
+
+double RangeView::Height() {
+    book();
+    return cells_.sheet->RowsPoints(first().top, first().bottom);
+}
+
+std::shared_ptr<excel::Interior> RangeView::Interior() {
+    book();
+    return std::make_shared<InteriorView>(cells_);
+}
+
+std::shared_ptr<excel::Font> RangeView::Font() {
+    book();
+    return std::make_shared<FontView>(std::make_shared<RangeFontTarget>(cells_));
+}
+
+std::shared_ptr<excel::Borders> RangeView::Borders() {
+    book();
+    return BordersView::Collection(cells_);
+}
+
+std::shared_ptr<excel::Border> RangeView::Borders(int32_t index) {
+    book();
+    return BordersView::Single(cells_, index);
+}
+
+void RangeView::BorderAround(const Variant& lineStyle, int32_t weight, int32_t colorIndex, const Variant& color,
+                             const Variant& themeColor) {
+    book();
+    const int32_t style = lineStyle.IsEmpty() ? xlContinuous : lineStyle.ToInt();
+    std::optional<ooxml::Color> lineColor;
+    if (!color.IsEmpty()) {
+        lineColor = ColorFromRgb(color.ToInt());
+    } else if (!themeColor.IsEmpty()) {
+        lineColor = ColorFromTheme(themeColor.ToInt());
+    } else if (colorIndex != xlColorIndexAutomatic) {
+        lineColor = ColorFromIndex(colorIndex);
+    }
+    BordersView edges(cells_, {xlEdgeLeft, xlEdgeTop, xlEdgeBottom, xlEdgeRight});
+    edges.SetLine(style, weight, lineColor ? &*lineColor : nullptr);
+}
+
+std::shared_ptr<excel::Characters> RangeView::Characters(const Variant& start, const Variant& length) {
+    book();
+    const int32_t from = start.IsEmpty() ? 1 : start.ToInt();
+    const int32_t count = length.IsEmpty() ? -1 : length.ToInt();
+    if (from < 1 || (!length.IsEmpty() && count < 0)) {
+        ThrowRefused("Unable to get the Characters property of the Range class");
+    }
+    return std::make_shared<CharactersView>(cells_.sheet, first().top, first().left, from, count);
+}
+
+void RangeView::shift(const Variant& direction, bool insert) {
+    WorkbookModel& owner = book();
+    if (cells_.areas.size() != 1) {
+        ThrowRefused("This action won't work on multiple selections.");
+    }
+    bool vertical = first().Rows() <= first().Columns();
+    if (!direction.IsEmpty()) {
+        const int32_t value = direction.ToInt();
+        const int32_t down = insert ? xlShiftDown : xlShiftUp;
+        const int32_t across = insert ? xlShiftToRight : xlShiftToLeft;
+        if (value != down && value != across) {
+            ThrowRefused(insert ? "Insert method of Range class failed" : "Delete method of Range class failed");
+        }
+        vertical = value == down;
+    }
+    owner.ShiftCells(*cells_.sheet, WorksheetModel::ShiftFor(first(), vertical, insert));
+}
+
+void RangeView::Insert(const Variant& shiftDirection, const Variant&) { shift(shiftDirection, true); }
+
+void RangeView::Delete(const Variant& shiftDirection) { shift(shiftDirection, false); }
+
+void RangeView::Select() {
+    WorkbookModel& owner = book();
+    owner.ActivateSheet(*cells_.sheet);
+    cells_.sheet->Settings().activeCell = FormatBlock({first().top, first().left, first().top, first().left}, false, false);
+}
+
+void RangeView::Activate() { Select(); }
+
+}  // namespace excel::embedded

@@ -1,0 +1,177 @@
+#include "excel/embedded/range.hpp"
+
+#include "excel/embedded/cell_text.hpp"
+#include "excel/embedded/cell_value.hpp"
+#include "excel/embedded/engine_errors.hpp"
+
+#include <excel/constants.hpp>
+#include <excel/safe_array.hpp>
+
+namespace excel::embedded {
+
+namespace {
+
+// An array's elements as rows x columns: a 1-D array is one row. A single row or column is
+// repeated over a larger block, as Excel does; positions beyond the array get #N/A.
+class ArrayShape {
+public:
+    explicit ArrayShape(const SafeArray& array) : array_(array) {
+        if (array.Dimensions() == 2) {
+            rows_ = array.Count(1);
+            columns_ = array.Count(2);
+        } else {
+            rows_ = 1;
+            columns_ = array.Count(1);
+        }
+    }
+
+    const Variant* At(uint32_t row, uint32_t column) const {
+        row = rows_ == 1 ? 0 : row;
+        column = columns_ == 1 ? 0 : column;
+        if (row >= rows_ || column >= columns_) {
+            return nullptr;
+        }
+        return array_.Dimensions() == 2 ? &array_.At(row, column) : &array_.Elements()[column];
+    }
+
+private:
+    const SafeArray& array_;
+    uint32_t rows_ = 0;
+    uint32_t columns_ = 0;
+};
+
+void RefuseUnstorable() { ThrowRefused("Application-defined or object-defined error"); }
+
+}  // namespace
+
+Variant RangeView::readValues(bool convertDates) {
+    const WorkbookModel& owner = book();
+    CellValueReader reader(owner, convertDates);
+    const CellBlock& block = first();
+    const CellStore& store = cells_.sheet->Cells();
+    if (block.CellCount() == 1) {
+        return reader.Read(store.Find(block.top, block.left));
+    }
+    SafeArray values = SafeArray::Matrix(VarType::Variant, static_cast<uint32_t>(block.Rows()),
+                                         static_cast<uint32_t>(block.Columns()));
+    const auto [firstRow, lastRow] = store.RowSpan(block.top, block.bottom);
+    for (size_t i = firstRow; i < lastRow; ++i) {
+        const RowData& row = store.Rows()[i];
+        for (const Cell& cell : row.CellsIn(block.left, block.right)) {
+            if (cell.HasValue()) {
+                values.Put(static_cast<uint32_t>(row.index - block.top), static_cast<uint32_t>(cell.column - block.left),
+                           reader.Read(&cell));
+            }
+        }
+    }
+    return Variant(std::move(values));
+}
+
+void RangeView::writeValues(const Variant& value, bool plain) {
+    WorkbookModel& owner = book();
+    if (value.IsArray()) {
+        const SafeArray& array = value.Array();
+        if (array.Dimensions() != 1 && array.Dimensions() != 2) {
+            RefuseUnstorable();
+        }
+        for (const Variant& element : array.Elements()) {
+            if (!IsStorableValue(element)) {
+                RefuseUnstorable();
+            }
+        }
+    } else if (!IsStorableValue(value)) {
+        RefuseUnstorable();
+    }
+    CellValueWriter writer(owner);
+    const Variant notAvailable(ErrorValue{ErrorValueCode(xlErrNA)});
+    for (const CellBlock& area : cells_.areas) {
+        if (!value.IsArray()) {
+            cells_.sheet->WriteCells(area, [&](int32_t, int32_t, Cell& cell) {
+                plain ? writer.StorePlain(cell, value) : writer.Store(cell, value);
+            });
+            continue;
+        }
+        const ArrayShape shape(value.Array());
+        cells_.sheet->WriteCells(area, [&](int32_t row, int32_t column, Cell& cell) {
+            const Variant* element = shape.At(static_cast<uint32_t>(row - area.top), static_cast<uint32_t>(column - area.left));
+            const Variant& stored = element ? *element : notAvailable;
+            plain ? writer.StorePlain(cell, stored) : writer.Store(cell, stored);
+        });
+    }
+    owner.SetSaved(false);
+}
+
+Variant RangeView::Value() { return readValues(true); }
+
+void RangeView::SetValue(const Variant& value) { writeValues(value, false); }
+
+Variant RangeView::Value2() { return readValues(false); }
+
+void RangeView::SetValue2(const Variant& value) { writeValues(value, true); }
+
+Variant RangeView::Formula() {
+    const WorkbookModel& owner = book();
+    CellValueReader reader(owner, false);
+    const CellBlock& block = first();
+    const CellStore& store = cells_.sheet->Cells();
+    if (block.CellCount() == 1) {
+        return reader.ReadFormula(store.Find(block.top, block.left));
+    }
+    SafeArray formulas = SafeArray::Matrix(VarType::Variant, static_cast<uint32_t>(block.Rows()),
+                                           static_cast<uint32_t>(block.Columns()));
+    for (int32_t row = block.top; row <= block.bottom; ++row) {
+        const RowData* data = store.FindRow(row);
+        for (int32_t column = block.left; column <= block.right; ++column) {
+            formulas.Put(static_cast<uint32_t>(row - block.top), static_cast<uint32_t>(column - block.left),
+                         reader.ReadFormula(data ? data->Find(column) : nullptr));
+        }
+    }
+    return Variant(std::move(formulas));
+}
+
+void RangeView::SetFormula(const Variant& formula) { writeValues(formula, false); }
+
+Variant RangeView::Text() {
+    const WorkbookModel& owner = book();
+    const CellStore& store = cells_.sheet->Cells();
+    std::optional<std::string> common;
+    for (const CellBlock& area : cells_.areas) {
+        for (int32_t row = area.top; row <= area.bottom; ++row) {
+            const RowData* data = store.FindRow(row);
+            for (int32_t column = area.left; column <= area.right; ++column) {
+                const Cell* cell = data ? data->Find(column) : nullptr;
+                const uint32_t format = cells_.sheet->ResolvedFormat(row, column);
+                std::string text = DisplayText(cell, owner.Formats().Get(format).numberFormat, owner.Strings());
+                if (!common) {
+                    common = std::move(text);
+                } else if (*common != text) {
+                    return Variant::Null();
+                }
+            }
+        }
+    }
+    return Variant(common.value_or(std::string()));
+}
+
+void RangeView::ClearContents() {
+    WorkbookModel& owner = book();
+    for (const CellBlock& area : cells_.areas) {
+        cells_.sheet->ForEachStoredCell(area, [](int32_t, Cell& cell) { cell.ClearValue(); });
+    }
+    owner.SetSaved(false);
+}
+
+void RangeView::ClearFormats() {
+    book();
+    for (const CellBlock& area : cells_.areas) {
+        cells_.sheet->Unmerge(area);
+    }
+    cells_.EditFormats([](ooxml::CellFormat& format) { format = ooxml::CellFormat{}; });
+}
+
+void RangeView::Clear() {
+    ClearContents();
+    ClearFormats();
+}
+
+}  // namespace excel::embedded
