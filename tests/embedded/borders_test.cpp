@@ -1,0 +1,87 @@
+#include "engine_fixture.hpp"
+
+using namespace excel;
+
+TEST_F(EngineTest, EdgeBordersActOnTheOuterEdgesOnly) {
+    auto block = At("B2:D4");
+    block->Borders(xlEdgeTop)->SetLineStyle(xlContinuous);
+    EXPECT_EQ(At("C2")->Borders(xlEdgeTop)->LineStyle(), Variant(xlContinuous));
+    EXPECT_EQ(At("C3")->Borders(xlEdgeTop)->LineStyle(), Variant(xlLineStyleNone));
+    EXPECT_EQ(block->Borders(xlEdgeTop)->LineStyle(), Variant(xlContinuous));
+    EXPECT_EQ(block->Borders(xlEdgeBottom)->LineStyle(), Variant(xlLineStyleNone));
+}
+
+TEST_F(EngineTest, EdgeAlsoSetsTheNeighboursTouchingSide) {
+    At("B2:D4")->Borders(xlEdgeBottom)->SetWeight(xlMedium);
+    EXPECT_EQ(At("C5")->Borders(xlEdgeTop)->Weight(), Variant(xlMedium));
+    EXPECT_EQ(At("C5")->Borders(xlEdgeTop)->LineStyle(), Variant(xlContinuous));
+    At("B2:D4")->Borders(xlEdgeBottom)->SetLineStyle(xlLineStyleNone);
+    EXPECT_EQ(At("C5")->Borders(xlEdgeTop)->LineStyle(), Variant(xlLineStyleNone));
+}
+
+TEST_F(EngineTest, InsideLinesAreBetweenTheCells) {
+    auto block = At("B2:D4");
+    block->Borders(xlInsideHorizontal)->SetLineStyle(xlDash);
+    EXPECT_EQ(At("C2")->Borders(xlEdgeBottom)->LineStyle(), Variant(xlDash));
+    EXPECT_EQ(At("C3")->Borders(xlEdgeTop)->LineStyle(), Variant(xlDash));
+    EXPECT_EQ(At("C4")->Borders(xlEdgeBottom)->LineStyle(), Variant(xlLineStyleNone));
+    EXPECT_EQ(At("C2")->Borders(xlEdgeTop)->LineStyle(), Variant(xlLineStyleNone));
+    EXPECT_EQ(block->Borders(xlInsideHorizontal)->LineStyle(), Variant(xlDash));
+    EXPECT_EQ(block->Borders(xlInsideVertical)->LineStyle(), Variant(xlLineStyleNone));
+}
+
+TEST_F(EngineTest, InsideLineOfASingleRowIsANoOp) {
+    At("A1:C1")->Borders(xlInsideHorizontal)->SetLineStyle(xlContinuous);
+    EXPECT_EQ(At("A1:C1")->Borders(xlEdgeBottom)->LineStyle(), Variant(xlLineStyleNone));
+    EXPECT_EQ(At("A1:C1")->Borders(xlEdgeTop)->LineStyle(), Variant(xlLineStyleNone));
+}
+
+TEST_F(EngineTest, MixedInsideBorderReadsNull) {
+    At("A1:A3")->Borders(xlInsideHorizontal)->SetLineStyle(xlContinuous);
+    At("A1")->Borders(xlEdgeBottom)->SetLineStyle(xlDouble);
+    EXPECT_TRUE(At("A1:A3")->Borders(xlInsideHorizontal)->LineStyle().IsNull());
+}
+
+TEST_F(EngineTest, BordersCollectionActsOnEdgesAndInsideLines) {
+    auto block = At("B2:C3");
+    block->Borders()->SetLineStyle(xlContinuous);
+    EXPECT_EQ(block->Borders()->LineStyle(), Variant(xlContinuous));
+    EXPECT_EQ(At("B2")->Borders(xlEdgeRight)->LineStyle(), Variant(xlContinuous));
+    EXPECT_EQ(block->Borders()->Count(), 6);
+    block->Borders()->SetColor(0x0000FF);
+    EXPECT_EQ(block->Borders(xlEdgeLeft)->Color(), Variant(static_cast<double>(0x0000FF)));
+    EXPECT_EQ(block->Borders(xlEdgeLeft)->ColorIndex(), Variant(3));
+}
+
+TEST_F(EngineTest, LineStylesAndWeightsReadBack) {
+    struct Case {
+        int32_t style;
+        int32_t weight;
+    };
+    for (Case c : {Case{xlContinuous, xlHairline}, Case{xlContinuous, xlThick}, Case{xlDash, xlMedium},
+                   Case{xlDashDot, xlThin}, Case{xlDashDotDot, xlMedium}, Case{xlDot, xlThin}}) {
+        auto border = At("E5")->Borders(xlEdgeLeft);
+        border->SetLineStyle(c.style);
+        border->SetWeight(c.weight);
+        EXPECT_EQ(border->LineStyle(), Variant(c.style));
+        EXPECT_EQ(border->Weight(), Variant(c.weight));
+    }
+    EXPECT_EQ(ErrorCodeOf([&] { At("E5")->Borders(xlEdgeLeft)->SetWeight(3); }), kRefused);
+    EXPECT_EQ(ErrorCodeOf([&] { At("E5")->Borders(42); }), kRefused);
+}
+
+TEST_F(EngineTest, BorderAroundDrawsTheFourEdges) {
+    At("B2:D4")->BorderAround(xlContinuous, xlMedium, xlColorIndexAutomatic, static_cast<int32_t>(0xFF0000));
+    for (int32_t edge : {xlEdgeLeft, xlEdgeTop, xlEdgeBottom, xlEdgeRight}) {
+        EXPECT_EQ(At("B2:D4")->Borders(edge)->Weight(), Variant(xlMedium));
+        EXPECT_EQ(At("B2:D4")->Borders(edge)->Color(), Variant(static_cast<double>(0xFF0000)));
+    }
+    EXPECT_EQ(At("B2:D4")->Borders(xlInsideVertical)->LineStyle(), Variant(xlLineStyleNone));
+}
+
+TEST_F(EngineTest, WholeColumnBorderDoesNotMaterialiseCells) {
+    sheet->Columns(2)->Borders(xlEdgeLeft)->SetLineStyle(xlContinuous);
+    EXPECT_EQ(At("B1000000")->Borders(xlEdgeLeft)->LineStyle(), Variant(xlContinuous));
+    EXPECT_EQ(At("A1000000")->Borders(xlEdgeRight)->LineStyle(), Variant(xlContinuous));
+    EXPECT_EQ(sheet->UsedRange()->Address(), "$A$1");
+}
