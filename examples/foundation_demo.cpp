@@ -55,7 +55,7 @@ void HideGridlines(excel::Workbook& book, excel::Worksheet& sheet) {
 void WriteTitle(excel::Worksheet& sheet) {
     auto title = sheet.Range("A1:F1");
     title->SetMergeCells(true);
-    title->SetValue("Quarterly Sales Summary");
+    title->Cells(1, 1)->SetValue("Quarterly Sales Summary");
     title->Font()->SetSize(16);
     title->Font()->SetBold(true);
     title->Font()->SetColor(Rgb(0xFF, 0xFF, 0xFF));
@@ -66,7 +66,7 @@ void WriteTitle(excel::Worksheet& sheet) {
 
     auto note = sheet.Range("A2:F2");
     note->SetMergeCells(true);
-    note->SetValue("Fiscal year 2024, in thousands");
+    note->Cells(1, 1)->SetValue("Fiscal year 2024, in thousands");
     note->Font()->SetItalic(true);
     note->Font()->SetColor(kNoteGrey);
     note->SetHorizontalAlignment(excel::xlCenter);
@@ -82,11 +82,14 @@ void WriteHeader(excel::Worksheet& sheet) {
     header->SetValue(excel::Variant(std::move(labels)));
     header->Font()->SetBold(true);
     header->Interior()->SetColor(kHeaderBlue);
-    header->SetHorizontalAlignment(excel::xlCenter);
+    // Labels line up with the column below them: region names left, figures right.
+    header->SetHorizontalAlignment(excel::xlRight);
+    header->Cells(1, 1)->SetHorizontalAlignment(excel::xlLeft);
+    header->Cells(1, 1)->SetIndentLevel(1);
     header->SetRowHeight(20);
     header->SetVerticalAlignment(excel::xlCenter);
-    header->Borders()->SetLineStyle(excel::xlContinuous);
-    header->Borders()->SetColor(kLineGrey);
+    header->Borders(excel::xlEdgeTop)->SetLineStyle(excel::xlContinuous);
+    header->Borders(excel::xlEdgeTop)->SetColor(kLineGrey);
     header->Borders(excel::xlEdgeBottom)->SetWeight(excel::xlMedium);
     header->Borders(excel::xlEdgeBottom)->SetColor(kTitleBlue);
 }
@@ -108,10 +111,6 @@ void WriteFigures(excel::Worksheet& sheet) {
     auto table = sheet.Range(Block('A', kFirstDataRow, 'F', kLastDataRow));
     table->Borders(excel::xlInsideHorizontal)->SetLineStyle(excel::xlContinuous);
     table->Borders(excel::xlInsideHorizontal)->SetColor(kLineGrey);
-    table->Borders(excel::xlEdgeLeft)->SetLineStyle(excel::xlContinuous);
-    table->Borders(excel::xlEdgeLeft)->SetColor(kLineGrey);
-    table->Borders(excel::xlEdgeRight)->SetLineStyle(excel::xlContinuous);
-    table->Borders(excel::xlEdgeRight)->SetColor(kLineGrey);
     sheet.Range(Block('B', kFirstDataRow, 'F', kTotalRow))->SetNumberFormat("#,##0.0");
     sheet.Range(Block('A', kFirstDataRow, 'A', kLastDataRow))->SetIndentLevel(1);
 }
@@ -125,15 +124,16 @@ void WriteTotals(excel::Worksheet& sheet) {
     }
     totals->Font()->SetBold(true);
     totals->Interior()->SetColor(kTotalGrey);
-    totals->BorderAround(excel::xlContinuous, excel::xlThin, excel::xlColorIndexAutomatic, kLineGrey);
+    totals->Borders(excel::xlEdgeBottom)->SetLineStyle(excel::xlContinuous);
+    totals->Borders(excel::xlEdgeBottom)->SetColor(kLineGrey);
     totals->Borders(excel::xlEdgeTop)->SetLineStyle(excel::xlDouble);
     totals->Borders(excel::xlEdgeTop)->SetColor(kTitleBlue);
 }
 
 void WriteSalesSheet(excel::Workbook& book, excel::Worksheet& sheet) {
     sheet.SetName("Sales");
-    sheet.Columns(1)->SetColumnWidth(18);
-    sheet.Range("B1:F1")->EntireColumn()->SetColumnWidth(12);
+    sheet.Columns(1)->SetColumnWidth(14);
+    sheet.Range("B1:F1")->EntireColumn()->SetColumnWidth(10);
     WriteTitle(sheet);
     WriteHeader(sheet);
     WriteFigures(sheet);
