@@ -5,8 +5,6 @@
 #include "excel/embedded/palette.hpp"
 #include "excel/embedded/text_entry.hpp"
 
-#include <excel/automation_error.hpp>
-
 #include <ctime>
 #include <unordered_map>
 
@@ -250,17 +248,15 @@ void LoadDocument(WorkbookModel& book, const ooxml::WorkbookDocument& document) 
     if (document.activeSheet < book.Sheets().size() && book.Sheets()[document.activeSheet]->Settings().visibility == -1) {
         book.ActivateSheet(*book.Sheets()[document.activeSheet]);
     }
+    std::vector<std::shared_ptr<DefinedNameModel>> names;
     for (const ooxml::DefinedName& name : document.names) {
         std::shared_ptr<WorksheetModel> local;
         if (name.localSheet && *name.localSheet < book.Sheets().size()) {
             local = book.Sheets()[*name.localSheet];
         }
-        try {
-            book.AddName(name.name, name.formula, !name.hidden, local);
-        } catch (const AutomationError&) {
-            // A name this engine would refuse (Excel's own built-in names) is left out.
-        }
+        names.push_back(std::make_shared<DefinedNameModel>(DefinedNameModel{name.name, name.formula, local, !name.hidden, false}));
     }
+    book.AddOpenedNames(std::move(names));
     if (document.palette.size() == 56) {
         for (size_t i = 0; i < 56; ++i) {
             book.Palette()[i] = SwapRedBlue(document.palette[i]);

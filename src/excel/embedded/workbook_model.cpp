@@ -248,6 +248,11 @@ std::shared_ptr<DefinedNameModel> WorkbookModel::AddName(const std::string& name
     return added;
 }
 
+void WorkbookModel::AddOpenedNames(std::vector<std::shared_ptr<DefinedNameModel>> names) {
+    names_.insert(names_.end(), names.begin(), names.end());
+    sortNames();
+}
+
 void WorkbookModel::DeleteName(DefinedNameModel& name) {
     std::erase_if(names_, [&](const auto& candidate) { return candidate.get() == &name; });
     name.deleted = true;

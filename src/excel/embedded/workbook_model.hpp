@@ -58,6 +58,8 @@ public:
     // Adds or replaces a name; "Sheet1!Total" or a localSheet makes it local.
     std::shared_ptr<DefinedNameModel> AddName(const std::string& name, const std::string& formula, bool visible,
                                               const std::shared_ptr<WorksheetModel>& localSheet);
+    // Takes the names of an opened file as they are, unchecked, so they are saved again unchanged.
+    void AddOpenedNames(std::vector<std::shared_ptr<DefinedNameModel>> names);
     void DeleteName(DefinedNameModel& name);
     void RenameName(DefinedNameModel& name, const std::string& newName);
     // The name as Name.Name reads it: "Total" or "Sheet1!Total".
