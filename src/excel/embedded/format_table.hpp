@@ -22,7 +22,6 @@ public:
     uint32_t Intern(const ooxml::CellFormat& format);
     const ooxml::CellFormat& Get(uint32_t id) const { return formats_[id]; }
     const std::vector<ooxml::CellFormat>& All() const { return formats_; }
-    size_t Size() const { return formats_.size(); }
 
 private:
     std::vector<ooxml::CellFormat> formats_;

@@ -89,7 +89,7 @@ std::shared_ptr<excel::Range> RangeView::Cells(int32_t index) {
         book();
         ThrowRefused();
     }
-    const int32_t columns = listing_ == Listing::Rows ? MaxColumn : first().Columns();
+    const int32_t columns = first().Columns();
     const int32_t offset = index - 1;
     return Cells(offset / columns + 1, offset % columns + 1);
 }

@@ -85,10 +85,9 @@ void WorksheetModel::applyToWholeRows(int32_t top, int32_t bottom, FormatChange&
         }
         base = std::max_element(counts.begin(), counts.end(),
                                 [](const auto& a, const auto& b) { return a.second < b.second; })->first;
-        const uint32_t changedBase = change.Apply(base);
         for (int32_t column = 1; column <= MaxColumn; ++column) {
             const uint32_t format = columns_.Get(column).format;
-            if (format != base && change.Apply(format) != changedBase) {
+            if (format != base && change.Apply(format) != change.Apply(base)) {
                 exceptions.emplace_back(column, change.Apply(format));
             }
         }
@@ -263,10 +262,6 @@ double WorksheetModel::ColumnWidthChars(int32_t column) const {
 double WorksheetModel::ColumnPoints(int32_t column) const {
     const ColumnInfo& info = columns_.Get(column);
     return info.hidden ? 0.0 : ColumnWidthToPoints(ColumnWidthChars(column));
-}
-
-double WorksheetModel::RowPoints(int32_t row) const {
-    return RowsPoints(row, row);
 }
 
 double WorksheetModel::ColumnsPoints(int32_t left, int32_t right) const {

@@ -74,7 +74,6 @@ public:
     // Geometry in points.
     double ColumnWidthChars(int32_t column) const;
     double ColumnPoints(int32_t column) const;
-    double RowPoints(int32_t row) const;
     double ColumnsPoints(int32_t left, int32_t right) const;
     double RowsPoints(int32_t top, int32_t bottom) const;
 
