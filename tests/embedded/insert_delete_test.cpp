@@ -85,3 +85,12 @@ TEST_F(EngineTest, ShiftingPartOfAMergeIsRefused) {
     EXPECT_EQ(ErrorCodeOf([&] { At("B1")->Insert(xlShiftDown); }), kRefused);
     EXPECT_EQ(At("B2")->MergeArea()->Address(), "$B$2:$C$3");
 }
+
+TEST_F(EngineTest, InsertCanTakeFormatsFromTheRight) {
+    sheet->Columns(2)->SetColumnWidth(30);
+    At("B4")->Font()->SetBold(true);
+    sheet->Columns(2)->Insert(xlShiftToRight, xlFormatFromRightOrBelow);
+    EXPECT_EQ(At("B1")->ColumnWidth(), Variant(30.0));
+    EXPECT_EQ(At("B4")->Font()->Bold(), Variant(true));
+    EXPECT_EQ(At("C4")->Font()->Bold(), Variant(true));
+}

@@ -17,6 +17,8 @@ struct BlockShift {
     int32_t at = 1;         // first inserted or deleted row (vertical) or column
     int32_t count = 1;
     bool insert = true;
+    // Inserted cells take the formats of the cells after them (right or below), not before.
+    bool formatFromAfter = false;
 };
 
 // Where a block ends up: moved, grown, shrunk, or nullopt when all of it was deleted. A block not

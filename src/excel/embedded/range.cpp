@@ -299,7 +299,7 @@ std::shared_ptr<excel::Characters> RangeView::Characters(const Variant& start, c
     return std::make_shared<CharactersView>(cells_.sheet, first().top, first().left, from, count);
 }
 
-void RangeView::shift(const Variant& direction, bool insert) {
+void RangeView::shift(const Variant& direction, bool insert, bool formatFromAfter) {
     WorkbookModel& owner = book();
     if (cells_.areas.size() != 1) {
         ThrowRefused("This action won't work on multiple selections.");
@@ -314,12 +314,17 @@ void RangeView::shift(const Variant& direction, bool insert) {
         }
         vertical = value == down;
     }
-    owner.ShiftCells(*cells_.sheet, WorksheetModel::ShiftFor(first(), vertical, insert));
+    BlockShift blockShift = WorksheetModel::ShiftFor(first(), vertical, insert);
+    blockShift.formatFromAfter = formatFromAfter;
+    owner.ShiftCells(*cells_.sheet, blockShift);
 }
 
-void RangeView::Insert(const Variant& shiftDirection, const Variant&) { shift(shiftDirection, true); }
+void RangeView::Insert(const Variant& shiftDirection, const Variant& copyOrigin) {
+    const bool fromAfter = !copyOrigin.IsEmpty() && copyOrigin.ToInt() == xlFormatFromRightOrBelow;
+    shift(shiftDirection, true, fromAfter);
+}
 
-void RangeView::Delete(const Variant& shiftDirection) { shift(shiftDirection, false); }
+void RangeView::Delete(const Variant& shiftDirection) { shift(shiftDirection, false, false); }
 
 void RangeView::Select() {
     WorkbookModel& owner = book();

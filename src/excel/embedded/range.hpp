@@ -111,7 +111,7 @@ private:
     void writeValues(const Variant& value, bool plain);
     template <class Project>
     Variant readFormat(Project&& project);
-    void shift(const Variant& direction, bool insert);
+    void shift(const Variant& direction, bool insert, bool formatFromAfter);
 
     RangeCells cells_;
     Listing listing_;

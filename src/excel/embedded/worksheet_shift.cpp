@@ -108,7 +108,7 @@ void WorksheetModel::moveCellsAcross(const BlockShift& shift) {
     }
     if (WholeBand(shift)) {
         if (shift.insert) {
-            columns_.Insert(shift.at, shift.count, shift.at - 1);
+            columns_.Insert(shift.at, shift.count, shift.formatFromAfter ? shift.at : shift.at - 1);
         } else {
             columns_.Remove(shift.at, shift.count);
         }
@@ -155,9 +155,10 @@ void WorksheetModel::shiftMerges(const BlockShift& shift) {
 }
 
 void WorksheetModel::copyFormatsIntoInserted(const BlockShift& shift) {
-    // Inserted cells take the formats of the row above or the column to the left.
-    const int32_t source = shift.at - 1;
-    if (source < 1) {
+    // Inserted cells take the formats of the row above or the column to the left, or of the
+    // cells that moved out of the way.
+    const int32_t source = shift.formatFromAfter ? shift.at + shift.count : shift.at - 1;
+    if (source < 1 || source > (shift.vertical ? MaxRow : MaxColumn)) {
         return;
     }
     const int32_t lastInserted = std::min(shift.at + shift.count - 1, shift.vertical ? MaxRow : MaxColumn);
