@@ -24,6 +24,12 @@ inline constexpr int32_t xlDistributed = -4117;
 inline constexpr int32_t xlTop = -4160;
 inline constexpr int32_t xlBottom = -4107;
 
+// XlOrientation
+inline constexpr int32_t xlHorizontal = -4128;
+inline constexpr int32_t xlVertical = -4166;
+inline constexpr int32_t xlUpward = -4171;
+inline constexpr int32_t xlDownward = -4170;
+
 // XlBordersIndex
 inline constexpr int32_t xlDiagonalDown = 5;
 inline constexpr int32_t xlDiagonalUp = 6;

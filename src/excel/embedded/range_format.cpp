@@ -14,10 +14,6 @@ namespace excel::embedded {
 
 namespace {
 
-constexpr int32_t xlHorizontalOrientation = -4128;
-constexpr int32_t xlVerticalOrientation = -4166;
-constexpr int32_t xlUpward = -4171;
-constexpr int32_t xlDownward = -4170;
 constexpr int32_t verticalTextRotation = 255;
 
 constexpr std::array<std::pair<int32_t, std::string_view>, 8> horizontalAlignments{{
@@ -147,10 +143,10 @@ Variant RangeView::Orientation() {
     return readFormat([](const ooxml::CellFormat& format) {
         const int32_t rotation = format.alignment.textRotation;
         if (rotation == 0) {
-            return Variant(xlHorizontalOrientation);
+            return Variant(xlHorizontal);
         }
         if (rotation == verticalTextRotation) {
-            return Variant(xlVerticalOrientation);
+            return Variant(xlVertical);
         }
         return Variant(rotation <= 90 ? rotation : 90 - rotation);
     });
@@ -159,9 +155,9 @@ Variant RangeView::Orientation() {
 void RangeView::SetOrientation(int32_t degrees) {
     book();
     int32_t rotation = 0;
-    if (degrees == xlHorizontalOrientation) {
+    if (degrees == xlHorizontal) {
         rotation = 0;
-    } else if (degrees == xlVerticalOrientation) {
+    } else if (degrees == xlVertical) {
         rotation = verticalTextRotation;
     } else if (degrees == xlUpward) {
         rotation = 90;
