@@ -47,6 +47,7 @@ int main(int argc, char** argv) {
         sheet->Range(sheet->Cells(3, column), sheet->Cells(2 + rowCount, column))->SetValue(Variant(std::move(values)));
     }
     const double writeSeconds = Seconds(writing);
+    const double peakAfterValues = PeakMebibytes();
 
     const auto formatting = std::chrono::steady_clock::now();
     auto title = sheet->Range(sheet->Cells(1, 1), sheet->Cells(1, columnCount));
@@ -79,7 +80,7 @@ int main(int argc, char** argv) {
     std::printf("format:       %.3f s\n", formatSeconds);
     std::printf("save:         %.3f s\n", saveSeconds);
     std::printf("total:        %.3f s\n", Seconds(start));
-    std::printf("peak RSS:     %.1f MiB\n", PeakMebibytes());
+    std::printf("peak RSS:     %.1f MiB (%.1f MiB once the values were written)\n", PeakMebibytes(), peakAfterValues);
     std::printf("file:         %s (%.1f MiB)\n", path.c_str(),
                 static_cast<double>(std::filesystem::file_size(path)) / (1024.0 * 1024.0));
     return 0;

@@ -4,7 +4,6 @@
 #include "excel/embedded/geometry.hpp"
 
 #include <algorithm>
-#include <map>
 
 namespace excel::embedded {
 
@@ -79,9 +78,16 @@ void WorksheetModel::applyToWholeRows(int32_t top, int32_t bottom, FormatChange&
     uint32_t base = 0;
     std::vector<std::pair<int32_t, uint32_t>> exceptions;
     if (columns_.Allocated()) {
-        std::map<uint32_t, int32_t> counts;
+        // Few distinct column formats in practice: count them in a small list.
+        std::vector<std::pair<uint32_t, int32_t>> counts;
         for (int32_t column = 1; column <= MaxColumn; ++column) {
-            ++counts[columns_.Get(column).format];
+            const uint32_t format = columns_.Get(column).format;
+            auto it = std::find_if(counts.begin(), counts.end(), [&](const auto& entry) { return entry.first == format; });
+            if (it == counts.end()) {
+                counts.emplace_back(format, 1);
+            } else {
+                ++it->second;
+            }
         }
         base = std::max_element(counts.begin(), counts.end(),
                                 [](const auto& a, const auto& b) { return a.second < b.second; })->first;
