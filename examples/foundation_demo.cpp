@@ -14,7 +14,9 @@
 
 namespace {
 
-constexpr int32_t Rgb(int32_t red, int32_t green, int32_t blue) { return red | (green << 8) | (blue << 16); }
+constexpr int32_t Rgb(int32_t red, int32_t green, int32_t blue) {
+    return red | (green << 8) | (blue << 16);
+}
 
 constexpr int32_t kTitleBlue = Rgb(0x1F, 0x4E, 0x79);
 constexpr int32_t kHeaderBlue = Rgb(0xDD, 0xEB, 0xF7);

@@ -8,7 +8,9 @@ namespace {
 
 constexpr int32_t kCellErrorBase = static_cast<int32_t>(0x800A0000);
 
-excel::Variant CellError(int32_t xlError) { return excel::ErrorValue{kCellErrorBase + xlError}; }
+excel::Variant CellError(int32_t xlError) {
+    return excel::ErrorValue{kCellErrorBase + xlError};
+}
 
 // One value of each kind down column A; the texts follow Excel's entry rules.
 void WriteScalars(excel::Worksheet& sheet) {
