@@ -165,3 +165,16 @@ TEST_F(EngineTest, HiddenRowsAndColumns) {
     EXPECT_EQ(sheet->Columns(1)->Hidden(), Variant(false));
     EXPECT_EQ(ErrorCodeOf([&] { At("A1")->SetHidden(true); }), kRefused);
 }
+
+TEST_F(EngineTest, PatternedFillKeepsCellColourAndPatternColourApart) {
+    auto interior = At("A1")->Interior();
+    interior->SetColor(0xFFEEDD);
+    interior->SetPattern(xlPatternGray50);
+    EXPECT_EQ(interior->Color(), Variant(static_cast<double>(0xFFEEDD)));
+    EXPECT_EQ(interior->PatternColorIndex(), Variant(xlColorIndexAutomatic));
+    interior->SetPatternColor(0x800000);
+    EXPECT_EQ(interior->PatternColor(), Variant(static_cast<double>(0x800000)));
+    EXPECT_EQ(interior->Color(), Variant(static_cast<double>(0xFFEEDD)));
+    interior->SetPattern(xlPatternSolid);
+    EXPECT_EQ(interior->Color(), Variant(static_cast<double>(0xFFEEDD)));
+}

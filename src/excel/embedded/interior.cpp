@@ -40,8 +40,17 @@ constexpr std::array<std::pair<int32_t, std::string_view>, 18> patterns{{
 
 bool HasFill(const ooxml::Fill& fill) { return !fill.patternType.empty() && fill.patternType != "none"; }
 
-// A solid fill's background is the automatic colour, as Excel writes it.
-const ooxml::Color automaticBackground{ooxml::Color::Kind::Indexed, 0, 64, 0.0};
+// A solid fill shows its foreground; a patterned one draws the foreground's lines over the
+// background. Interior.Color is the cell's colour, PatternColor the lines', as Excel files them.
+bool IsSolid(const ooxml::Fill& fill) { return fill.patternType == "solid"; }
+ooxml::Color& CellColor(ooxml::Fill& fill) { return IsSolid(fill) ? fill.foreground : fill.background; }
+const ooxml::Color& CellColor(const ooxml::Fill& fill) { return IsSolid(fill) ? fill.foreground : fill.background; }
+ooxml::Color& LineColor(ooxml::Fill& fill) { return IsSolid(fill) ? fill.background : fill.foreground; }
+const ooxml::Color& LineColor(const ooxml::Fill& fill) { return IsSolid(fill) ? fill.background : fill.foreground; }
+
+// The automatic pattern colour (system foreground), as Excel writes it for a solid fill.
+const ooxml::Color automaticLines{ooxml::Color::Kind::Indexed, 0, 64, 0.0};
+const ooxml::Color windowBackground{ooxml::Color::Kind::Indexed, 0, 65, 0.0};
 
 }  // namespace
 
@@ -52,36 +61,37 @@ Variant InteriorView::read(Project&& project) {
     return CommonValue(ids, [&](uint32_t id) { return project(book.Formats().Get(id).fill, book.Palette()); });
 }
 
-void InteriorView::setForeground(const ooxml::Color& color) {
+void InteriorView::setCellColor(const ooxml::Color& color) {
     cells_.EditFormats([&](ooxml::CellFormat& format) {
         if (!HasFill(format.fill)) {
             format.fill.patternType = "solid";
-            format.fill.background = automaticBackground;
+            format.fill.background = automaticLines;
         }
-        format.fill.foreground = color;
+        CellColor(format.fill) = color;
     });
 }
 
-void InteriorView::setBackground(const ooxml::Color& color) {
+void InteriorView::setLineColor(const ooxml::Color& color) {
     cells_.EditFormats([&](ooxml::CellFormat& format) {
         if (!HasFill(format.fill)) {
             format.fill.patternType = "solid";
+            CellColor(format.fill) = windowBackground;
         }
-        format.fill.background = color;
+        LineColor(format.fill) = color;
     });
 }
 
 Variant InteriorView::Color() {
     return read([](const ooxml::Fill& fill, const Palette& palette) {
-        return Variant(static_cast<double>(HasFill(fill) ? RgbOf(fill.foreground, palette, white) : white));
+        return Variant(static_cast<double>(HasFill(fill) ? RgbOf(CellColor(fill), palette, white) : white));
     });
 }
 
-void InteriorView::SetColor(int32_t rgb) { setForeground(ColorFromRgb(rgb)); }
+void InteriorView::SetColor(int32_t rgb) { setCellColor(ColorFromRgb(rgb)); }
 
 Variant InteriorView::ColorIndex() {
     return read([](const ooxml::Fill& fill, const Palette& palette) {
-        return Variant(HasFill(fill) ? ColorIndexOf(fill.foreground, palette, xlColorIndexAutomatic) : xlColorIndexNone);
+        return Variant(HasFill(fill) ? ColorIndexOf(CellColor(fill), palette, xlColorIndexAutomatic) : xlColorIndexNone);
     });
 }
 
@@ -91,23 +101,23 @@ void InteriorView::SetColorIndex(int32_t index) {
         return;
     }
     if (index == xlColorIndexAutomatic) {
-        setForeground(ooxml::Color{ooxml::Color::Kind::Indexed, 0, 64, 0.0});
+        setCellColor(automaticLines);
         return;
     }
-    setForeground(ColorFromIndex(index));
+    setCellColor(ColorFromIndex(index));
 }
 
 Variant InteriorView::ThemeColor() {
     return read([](const ooxml::Fill& fill, const Palette&) {
-        return HasFill(fill) ? Variant(ThemeColorOf(fill.foreground)) : Variant(xlColorIndexNone);
+        return HasFill(fill) ? Variant(ThemeColorOf(CellColor(fill))) : Variant(xlColorIndexNone);
     });
 }
 
-void InteriorView::SetThemeColor(int32_t themeColor) { setForeground(ColorFromTheme(themeColor)); }
+void InteriorView::SetThemeColor(int32_t themeColor) { setCellColor(ColorFromTheme(themeColor)); }
 
 Variant InteriorView::TintAndShade() {
     return read([](const ooxml::Fill& fill, const Palette&) {
-        return Variant(HasFill(fill) ? TintOf(fill.foreground) : 0.0);
+        return Variant(HasFill(fill) ? TintOf(CellColor(fill)) : 0.0);
     });
 }
 
@@ -115,7 +125,7 @@ void InteriorView::SetTintAndShade(double tint) {
     WithTint({}, tint);
     cells_.EditFormats([&](ooxml::CellFormat& format) {
         if (HasFill(format.fill)) {
-            format.fill.foreground = WithTint(format.fill.foreground, tint);
+            CellColor(format.fill) = WithTint(CellColor(format.fill), tint);
         }
     });
 }
@@ -152,29 +162,36 @@ void InteriorView::SetPattern(int32_t pattern) {
             return;
         }
         if (!HasFill(format.fill)) {
-            format.fill.foreground = ooxml::Color{ooxml::Color::Kind::Indexed, 0, 64, 0.0};
-            format.fill.background = automaticBackground;
+            // No fill yet: automatic lines on the window's background colour.
+            format.fill.patternType = "solid";
+            CellColor(format.fill) = windowBackground;
+            LineColor(format.fill) = automaticLines;
         }
+        const bool wasSolid = IsSolid(format.fill);
         format.fill.patternType = std::string(type);
+        if (wasSolid != IsSolid(format.fill)) {
+            // The cell keeps its colour and the lines theirs, whichever slot now holds them.
+            std::swap(format.fill.foreground, format.fill.background);
+        }
     });
 }
 
 Variant InteriorView::PatternColor() {
     return read([](const ooxml::Fill& fill, const Palette& palette) {
-        return Variant(static_cast<double>(RgbOf(fill.background, palette, 0)));
+        return Variant(static_cast<double>(RgbOf(LineColor(fill), palette, 0)));
     });
 }
 
-void InteriorView::SetPatternColor(int32_t rgb) { setBackground(ColorFromRgb(rgb)); }
+void InteriorView::SetPatternColor(int32_t rgb) { setLineColor(ColorFromRgb(rgb)); }
 
 Variant InteriorView::PatternColorIndex() {
     return read([](const ooxml::Fill& fill, const Palette& palette) {
-        return Variant(ColorIndexOf(fill.background, palette, xlColorIndexAutomatic));
+        return Variant(ColorIndexOf(LineColor(fill), palette, xlColorIndexAutomatic));
     });
 }
 
 void InteriorView::SetPatternColorIndex(int32_t index) {
-    setBackground(index == xlColorIndexAutomatic ? automaticBackground : ColorFromIndex(index));
+    setLineColor(index == xlColorIndexAutomatic ? automaticLines : ColorFromIndex(index));
 }
 
 }  // namespace excel::embedded

@@ -28,8 +28,8 @@ public:
 private:
     template <class Project>
     Variant read(Project&& project);
-    void setForeground(const ooxml::Color& color);
-    void setBackground(const ooxml::Color& color);
+    void setCellColor(const ooxml::Color& color);
+    void setLineColor(const ooxml::Color& color);
 
     RangeCells cells_;
 };
