@@ -15,7 +15,8 @@ protected:
     void SetUp() override {
         EngineTest::SetUp();
         const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
-        folder = std::filesystem::temp_directory_path() / ("engine_save_open_" + std::to_string(::getpid()) + "_" + info->name());
+        folder = std::filesystem::temp_directory_path() /
+                 ("engine_save_open_" + std::to_string(::getpid()) + "_" + info->name());
         std::filesystem::remove_all(folder);
         std::filesystem::create_directories(folder);
     }

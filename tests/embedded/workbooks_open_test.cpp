@@ -10,7 +10,8 @@ namespace {
 
 std::vector<std::filesystem::path> ExcelMadeWorkbooks() {
     std::vector<std::filesystem::path> files;
-    for (const auto& entry : std::filesystem::directory_iterator(std::string(VOS_SHARED_DIR) + "/excel-corpus/realworld-excel")) {
+    for (const auto& entry :
+         std::filesystem::directory_iterator(std::string(VOS_SHARED_DIR) + "/excel-corpus/realworld-excel")) {
         const std::string extension = entry.path().extension().string();
         if (extension == ".xlsx" || extension == ".xlsm") {
             files.push_back(entry.path());

@@ -15,9 +15,13 @@ std::shared_ptr<excel::Application> CreateApplication() {
     return std::make_shared<ApplicationView>(std::make_shared<ApplicationModel>());
 }
 
-std::shared_ptr<excel::Workbooks> ApplicationView::Workbooks() { return std::make_shared<WorkbooksView>(model_); }
+std::shared_ptr<excel::Workbooks> ApplicationView::Workbooks() {
+    return std::make_shared<WorkbooksView>(model_);
+}
 
-std::shared_ptr<excel::Workbook> ApplicationView::Workbooks(const Variant& index) { return Workbooks()->Item(index); }
+std::shared_ptr<excel::Workbook> ApplicationView::Workbooks(const Variant& index) {
+    return Workbooks()->Item(index);
+}
 
 std::shared_ptr<excel::Workbook> ApplicationView::ActiveWorkbook() {
     WorkbookModel* book = model_->ActiveWorkbook();
@@ -35,19 +39,33 @@ std::shared_ptr<excel::Window> ApplicationView::ActiveWindow() {
     return book ? std::make_shared<WindowView>(book->shared_from_this()) : nullptr;
 }
 
-int32_t ApplicationView::SheetsInNewWorkbook() { return model_->SheetsInNewWorkbook(); }
+int32_t ApplicationView::SheetsInNewWorkbook() {
+    return model_->SheetsInNewWorkbook();
+}
 
-void ApplicationView::SetSheetsInNewWorkbook(int32_t count) { model_->SetSheetsInNewWorkbook(count); }
+void ApplicationView::SetSheetsInNewWorkbook(int32_t count) {
+    model_->SetSheetsInNewWorkbook(count);
+}
 
-std::string ApplicationView::UserName() { return model_->userName; }
+std::string ApplicationView::UserName() {
+    return model_->userName;
+}
 
-void ApplicationView::SetUserName(const std::string& name) { model_->userName = name; }
+void ApplicationView::SetUserName(const std::string& name) {
+    model_->userName = name;
+}
 
-bool ApplicationView::DisplayAlerts() { return model_->displayAlerts; }
+bool ApplicationView::DisplayAlerts() {
+    return model_->displayAlerts;
+}
 
-void ApplicationView::SetDisplayAlerts(bool display) { model_->displayAlerts = display; }
+void ApplicationView::SetDisplayAlerts(bool display) {
+    model_->displayAlerts = display;
+}
 
-std::string ApplicationView::Version() { return "16.0"; }
+std::string ApplicationView::Version() {
+    return "16.0";
+}
 
 std::shared_ptr<excel::Range> ApplicationView::Union(const std::shared_ptr<excel::Range>& arg1,
                                                      const std::shared_ptr<excel::Range>& arg2,

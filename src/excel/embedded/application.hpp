@@ -24,7 +24,8 @@ public:
     void SetDisplayAlerts(bool display) override;
     std::string Version() override;
 
-    std::shared_ptr<excel::Range> Union(const std::shared_ptr<excel::Range>& arg1, const std::shared_ptr<excel::Range>& arg2,
+    std::shared_ptr<excel::Range> Union(const std::shared_ptr<excel::Range>& arg1,
+                                        const std::shared_ptr<excel::Range>& arg2,
                                         const std::vector<std::shared_ptr<excel::Range>>& more) override;
 
 private:

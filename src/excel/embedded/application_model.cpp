@@ -60,8 +60,7 @@ std::shared_ptr<WorkbookModel> ApplicationModel::OpenWorkbook(const std::string&
     } catch (const ooxml::PackageError& failure) {
         if (failure.reason() == ooxml::PackageError::Reason::FileNotFound ||
             failure.reason() == ooxml::PackageError::Reason::PathNotFound) {
-            ThrowRefused("Sorry, we couldn't find " + fullName +
-                         ". Is it possible it was moved, renamed or deleted?");
+            ThrowRefused("Sorry, we couldn't find " + fullName + ". Is it possible it was moved, renamed or deleted?");
         }
         ThrowRefused("Excel cannot open the file '" + fileName +
                      "' because the file format or file extension is not valid. Verify that the file has not been "

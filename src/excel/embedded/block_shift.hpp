@@ -14,7 +14,7 @@ struct BlockShift {
     bool vertical = true;   // rows move (down on insert, up on delete)
     int32_t bandFirst = 1;  // columns (vertical) or rows (horizontal) that move
     int32_t bandLast = MaxColumn;
-    int32_t at = 1;         // first inserted or deleted row (vertical) or column
+    int32_t at = 1;  // first inserted or deleted row (vertical) or column
     int32_t count = 1;
     bool insert = true;
     // Inserted cells take the formats of the cells after them (right or below), not before.

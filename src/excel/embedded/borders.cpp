@@ -16,16 +16,16 @@ enum class Side { Left, Right, Top, Bottom, Diagonal };
 
 ooxml::BorderLine& LineOf(ooxml::Border& border, Side side) {
     switch (side) {
-    case Side::Left:
-        return border.left;
-    case Side::Right:
-        return border.right;
-    case Side::Top:
-        return border.top;
-    case Side::Bottom:
-        return border.bottom;
-    case Side::Diagonal:
-        break;
+        case Side::Left:
+            return border.left;
+        case Side::Right:
+            return border.right;
+        case Side::Top:
+            return border.top;
+        case Side::Bottom:
+            return border.bottom;
+        case Side::Diagonal:
+            break;
     }
     return border.diagonal;
 }
@@ -58,37 +58,37 @@ BorderPlacement Place(const CellBlock& b, int32_t index) {
     const bool allRows = b.top == 1 && b.bottom == MaxRow;
     const bool allColumns = b.left == 1 && b.right == MaxColumn;
     switch (index) {
-    case xlEdgeTop:
-        add(true, {b.top, b.left, b.top, b.right}, Side::Top, true);
-        add(b.top > 1, {b.top - 1, b.left, b.top - 1, b.right}, Side::Bottom, false);
-        break;
-    case xlEdgeBottom:
-        add(true, {b.bottom, b.left, b.bottom, b.right}, Side::Bottom, true);
-        add(b.bottom < MaxRow, {b.bottom + 1, b.left, b.bottom + 1, b.right}, Side::Top, false);
-        break;
-    case xlEdgeLeft:
-        add(true, {b.top, b.left, b.bottom, b.left}, Side::Left, true);
-        add(b.left > 1, {b.top, b.left - 1, b.bottom, b.left - 1}, Side::Right, false);
-        break;
-    case xlEdgeRight:
-        add(true, {b.top, b.right, b.bottom, b.right}, Side::Right, true);
-        add(b.right < MaxColumn, {b.top, b.right + 1, b.bottom, b.right + 1}, Side::Left, false);
-        break;
-    case xlInsideHorizontal:
-        if (b.Rows() > 1) {
-            add(true, allRows ? b : CellBlock{b.top, b.left, b.bottom - 1, b.right}, Side::Bottom, true);
-            add(true, allRows ? b : CellBlock{b.top + 1, b.left, b.bottom, b.right}, Side::Top, false);
-        }
-        break;
-    case xlInsideVertical:
-        if (b.Columns() > 1) {
-            add(true, allColumns ? b : CellBlock{b.top, b.left, b.bottom, b.right - 1}, Side::Right, true);
-            add(true, allColumns ? b : CellBlock{b.top, b.left + 1, b.bottom, b.right}, Side::Left, false);
-        }
-        break;
-    default:
-        add(true, b, Side::Diagonal, true);
-        break;
+        case xlEdgeTop:
+            add(true, {b.top, b.left, b.top, b.right}, Side::Top, true);
+            add(b.top > 1, {b.top - 1, b.left, b.top - 1, b.right}, Side::Bottom, false);
+            break;
+        case xlEdgeBottom:
+            add(true, {b.bottom, b.left, b.bottom, b.right}, Side::Bottom, true);
+            add(b.bottom < MaxRow, {b.bottom + 1, b.left, b.bottom + 1, b.right}, Side::Top, false);
+            break;
+        case xlEdgeLeft:
+            add(true, {b.top, b.left, b.bottom, b.left}, Side::Left, true);
+            add(b.left > 1, {b.top, b.left - 1, b.bottom, b.left - 1}, Side::Right, false);
+            break;
+        case xlEdgeRight:
+            add(true, {b.top, b.right, b.bottom, b.right}, Side::Right, true);
+            add(b.right < MaxColumn, {b.top, b.right + 1, b.bottom, b.right + 1}, Side::Left, false);
+            break;
+        case xlInsideHorizontal:
+            if (b.Rows() > 1) {
+                add(true, allRows ? b : CellBlock{b.top, b.left, b.bottom - 1, b.right}, Side::Bottom, true);
+                add(true, allRows ? b : CellBlock{b.top + 1, b.left, b.bottom, b.right}, Side::Top, false);
+            }
+            break;
+        case xlInsideVertical:
+            if (b.Columns() > 1) {
+                add(true, allColumns ? b : CellBlock{b.top, b.left, b.bottom, b.right - 1}, Side::Right, true);
+                add(true, allColumns ? b : CellBlock{b.top, b.left + 1, b.bottom, b.right}, Side::Left, false);
+            }
+            break;
+        default:
+            add(true, b, Side::Diagonal, true);
+            break;
     }
     return placement;
 }
@@ -139,22 +139,22 @@ int32_t WeightOf(std::string_view style) {
 std::string StyleFor(int32_t lineStyle, int32_t weight) {
     const bool heavy = weight == xlMedium || weight == xlThick;
     switch (lineStyle) {
-    case xlContinuous:
-        return weight == xlHairline ? "hair" : weight == xlMedium ? "medium" : weight == xlThick ? "thick" : "thin";
-    case xlDash:
-        return heavy ? "mediumDashed" : "dashed";
-    case xlDot:
-        return weight == xlHairline ? "hair" : "dotted";
-    case xlDouble:
-        return "double";
-    case xlDashDot:
-        return heavy ? "mediumDashDot" : "dashDot";
-    case xlDashDotDot:
-        return heavy ? "mediumDashDotDot" : "dashDotDot";
-    case xlSlantDashDot:
-        return "slantDashDot";
-    default:
-        break;
+        case xlContinuous:
+            return weight == xlHairline ? "hair" : weight == xlMedium ? "medium" : weight == xlThick ? "thick" : "thin";
+        case xlDash:
+            return heavy ? "mediumDashed" : "dashed";
+        case xlDot:
+            return weight == xlHairline ? "hair" : "dotted";
+        case xlDouble:
+            return "double";
+        case xlDashDot:
+            return heavy ? "mediumDashDot" : "dashDot";
+        case xlDashDotDot:
+            return heavy ? "mediumDashDotDot" : "dashDotDot";
+        case xlSlantDashDot:
+            return "slantDashDot";
+        default:
+            break;
     }
     return "";
 }
@@ -171,8 +171,8 @@ bool ValidWeight(int32_t weight) {
 
 std::shared_ptr<BordersView> BordersView::Collection(RangeCells cells) {
     return std::make_shared<BordersView>(
-        std::move(cells), std::vector<int32_t>{xlEdgeLeft, xlEdgeTop, xlEdgeBottom, xlEdgeRight, xlInsideVertical,
-                                               xlInsideHorizontal});
+        std::move(cells),
+        std::vector<int32_t>{xlEdgeLeft, xlEdgeTop, xlEdgeBottom, xlEdgeRight, xlInsideVertical, xlInsideHorizontal});
 }
 
 std::shared_ptr<BordersView> BordersView::Single(RangeCells cells, int32_t index) {
@@ -187,7 +187,9 @@ int32_t BordersView::Count() {
     return 6;
 }
 
-std::shared_ptr<excel::Border> BordersView::Item(int32_t index) { return Single(cells_, index); }
+std::shared_ptr<excel::Border> BordersView::Item(int32_t index) {
+    return Single(cells_, index);
+}
 
 template <class Project>
 Variant BordersView::read(Project&& project) {

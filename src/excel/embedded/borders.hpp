@@ -12,7 +12,8 @@ namespace excel::embedded {
 // properties act on the four edges and the inside lines together.
 class BordersView final : public excel::Borders {
 public:
-    BordersView(RangeCells cells, std::vector<int32_t> indices) : cells_(std::move(cells)), indices_(std::move(indices)) {}
+    BordersView(RangeCells cells, std::vector<int32_t> indices)
+        : cells_(std::move(cells)), indices_(std::move(indices)) {}
 
     // The collection of a range: edges and inside lines.
     static std::shared_ptr<BordersView> Collection(RangeCells cells);

@@ -131,7 +131,8 @@ std::string FormatNumber(double value, std::string_view numberFormat) {
         std::string literal;
         if (c == '"') {
             const size_t close = section.find('"', i + 1);
-            literal = std::string(section.substr(i + 1, close == std::string_view::npos ? std::string_view::npos : close - i - 1));
+            literal = std::string(
+                section.substr(i + 1, close == std::string_view::npos ? std::string_view::npos : close - i - 1));
             i = close == std::string_view::npos ? section.size() : close;
         } else if (c == '\\' && i + 1 < section.size()) {
             literal = std::string(1, section[++i]);
@@ -139,8 +140,8 @@ std::string FormatNumber(double value, std::string_view numberFormat) {
             const size_t close = section.find(']', i + 1);
             const std::string_view inside = section.substr(i + 1, close == std::string_view::npos ? 0 : close - i - 1);
             if (inside.starts_with("$")) {
-                literal = std::string(inside.substr(1, inside.find('-') == std::string_view::npos ? std::string_view::npos
-                                                                                                   : inside.find('-') - 1));
+                literal = std::string(inside.substr(
+                    1, inside.find('-') == std::string_view::npos ? std::string_view::npos : inside.find('-') - 1));
             }
             i = close == std::string_view::npos ? section.size() : close;
         } else if (c == '_' || c == '*') {
@@ -181,17 +182,17 @@ std::string DisplayText(const Cell* cell, std::string_view numberFormat, const S
         return {};
     }
     switch (cell->kind) {
-    case CellKind::Blank:
-    case CellKind::Formula:
-        return {};
-    case CellKind::Text:
-        return strings.Get(cell->text).text;
-    case CellKind::Boolean:
-        return cell->number != 0.0 ? "TRUE" : "FALSE";
-    case CellKind::Error:
-        return ErrorTextFromNumber(cell->error);
-    case CellKind::Number:
-        break;
+        case CellKind::Blank:
+        case CellKind::Formula:
+            return {};
+        case CellKind::Text:
+            return strings.Get(cell->text).text;
+        case CellKind::Boolean:
+            return cell->number != 0.0 ? "TRUE" : "FALSE";
+        case CellKind::Error:
+            return ErrorTextFromNumber(cell->error);
+        case CellKind::Number:
+            break;
     }
     return FormatNumber(cell->number, numberFormat);
 }

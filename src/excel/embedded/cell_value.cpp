@@ -36,7 +36,9 @@ void SetNumber(Cell& cell, double number) {
 
 }  // namespace
 
-int32_t ErrorValueCode(int32_t errorNumber) { return static_cast<int32_t>(errorBase + static_cast<uint32_t>(errorNumber)); }
+int32_t ErrorValueCode(int32_t errorNumber) {
+    return static_cast<int32_t>(errorBase + static_cast<uint32_t>(errorNumber));
+}
 
 bool IsStorableValue(const Variant& value) {
     if (value.IsArray() || value.IsObject()) {
@@ -47,39 +49,39 @@ bool IsStorableValue(const Variant& value) {
 
 void CellValueWriter::Store(Cell& cell, const Variant& value) {
     switch (value.Type()) {
-    case VarType::Date:
-        StorePlain(cell, value);
-        setNumberFormatIfGeneral(cell, DateFormatFor(cell.number));
-        return;
-    case VarType::Currency:
-        StorePlain(cell, value);
-        setNumberFormatIfGeneral(cell, "$#,##0.00");
-        return;
-    default:
-        StorePlain(cell, value);
+        case VarType::Date:
+            StorePlain(cell, value);
+            setNumberFormatIfGeneral(cell, DateFormatFor(cell.number));
+            return;
+        case VarType::Currency:
+            StorePlain(cell, value);
+            setNumberFormatIfGeneral(cell, "$#,##0.00");
+            return;
+        default:
+            StorePlain(cell, value);
     }
 }
 
 void CellValueWriter::StorePlain(Cell& cell, const Variant& value) {
     switch (value.Type()) {
-    case VarType::Empty:
-    case VarType::Null:
-        cell.ClearValue();
-        return;
-    case VarType::Boolean:
-        cell.kind = CellKind::Boolean;
-        cell.number = value.ToBool() ? 1.0 : 0.0;
-        break;
-    case VarType::String:
-        storeText(cell, value.ToString());
-        return;
-    case VarType::Error:
-        cell.kind = CellKind::Error;
-        cell.error = ErrorNumberOf(value).value_or(xlErrNA);
-        break;
-    default:
-        SetNumber(cell, value.ToDouble());
-        break;
+        case VarType::Empty:
+        case VarType::Null:
+            cell.ClearValue();
+            return;
+        case VarType::Boolean:
+            cell.kind = CellKind::Boolean;
+            cell.number = value.ToBool() ? 1.0 : 0.0;
+            break;
+        case VarType::String:
+            storeText(cell, value.ToString());
+            return;
+        case VarType::Error:
+            cell.kind = CellKind::Error;
+            cell.error = ErrorNumberOf(value).value_or(xlErrNA);
+            break;
+        default:
+            SetNumber(cell, value.ToDouble());
+            break;
     }
     setQuotePrefix(cell, false);
 }
@@ -92,29 +94,29 @@ void CellValueWriter::storeText(Cell& cell, std::string_view text) {
     }
     TextEntry entry = ParseTextEntry(text);
     switch (entry.kind) {
-    case TextEntry::Kind::Empty:
-        cell.ClearValue();
-        break;
-    case TextEntry::Kind::Text:
-        cell.kind = CellKind::Text;
-        cell.text = book_.Strings().Intern(entry.text);
-        break;
-    case TextEntry::Kind::Number:
-        SetNumber(cell, entry.number);
-        break;
-    case TextEntry::Kind::Boolean:
-        cell.kind = CellKind::Boolean;
-        cell.number = entry.boolean ? 1.0 : 0.0;
-        break;
-    case TextEntry::Kind::Error:
-        cell.kind = CellKind::Error;
-        cell.error = ErrorNumberFromText(entry.text).value_or(xlErrNA);
-        break;
-    case TextEntry::Kind::Formula:
-        // The engine does not calculate: the formula is kept with no cached value.
-        cell.kind = CellKind::Formula;
-        cell.text = book_.Strings().Intern(entry.text);
-        break;
+        case TextEntry::Kind::Empty:
+            cell.ClearValue();
+            break;
+        case TextEntry::Kind::Text:
+            cell.kind = CellKind::Text;
+            cell.text = book_.Strings().Intern(entry.text);
+            break;
+        case TextEntry::Kind::Number:
+            SetNumber(cell, entry.number);
+            break;
+        case TextEntry::Kind::Boolean:
+            cell.kind = CellKind::Boolean;
+            cell.number = entry.boolean ? 1.0 : 0.0;
+            break;
+        case TextEntry::Kind::Error:
+            cell.kind = CellKind::Error;
+            cell.error = ErrorNumberFromText(entry.text).value_or(xlErrNA);
+            break;
+        case TextEntry::Kind::Formula:
+            // The engine does not calculate: the formula is kept with no cached value.
+            cell.kind = CellKind::Formula;
+            cell.text = book_.Strings().Intern(entry.text);
+            break;
     }
     setQuotePrefix(cell, entry.quotePrefix);
     if (!entry.impliedNumberFormat.empty()) {
@@ -157,17 +159,17 @@ Variant CellValueReader::Read(const Cell* cell) {
         return {};
     }
     switch (cell->kind) {
-    case CellKind::Blank:
-    case CellKind::Formula:
-        return {};
-    case CellKind::Boolean:
-        return Variant(cell->number != 0.0);
-    case CellKind::Text:
-        return Variant(book_.Strings().Get(cell->text).text);
-    case CellKind::Error:
-        return Variant(ErrorValue{ErrorValueCode(cell->error)});
-    case CellKind::Number:
-        break;
+        case CellKind::Blank:
+        case CellKind::Formula:
+            return {};
+        case CellKind::Boolean:
+            return Variant(cell->number != 0.0);
+        case CellKind::Text:
+            return Variant(book_.Strings().Get(cell->text).text);
+        case CellKind::Error:
+            return Variant(ErrorValue{ErrorValueCode(cell->error)});
+        case CellKind::Number:
+            break;
     }
     if (convertDates_) {
         const NumberFormatKind kind = kindOf(cell->format);
@@ -186,18 +188,18 @@ Variant CellValueReader::ReadFormula(const Cell* cell) {
         return Variant(std::string());
     }
     switch (cell->kind) {
-    case CellKind::Blank:
-        return Variant(std::string());
-    case CellKind::Formula:
-        return Variant("=" + book_.Strings().Get(cell->text).text);
-    case CellKind::Number:
-        return Variant(FormatGeneral(cell->number));
-    case CellKind::Boolean:
-        return Variant(std::string(cell->number != 0.0 ? "TRUE" : "FALSE"));
-    case CellKind::Text:
-        return Variant(book_.Strings().Get(cell->text).text);
-    case CellKind::Error:
-        return Variant(ErrorTextFromNumber(cell->error));
+        case CellKind::Blank:
+            return Variant(std::string());
+        case CellKind::Formula:
+            return Variant("=" + book_.Strings().Get(cell->text).text);
+        case CellKind::Number:
+            return Variant(FormatGeneral(cell->number));
+        case CellKind::Boolean:
+            return Variant(std::string(cell->number != 0.0 ? "TRUE" : "FALSE"));
+        case CellKind::Text:
+            return Variant(book_.Strings().Get(cell->text).text);
+        case CellKind::Error:
+            return Variant(ErrorTextFromNumber(cell->error));
     }
     return Variant(std::string());
 }

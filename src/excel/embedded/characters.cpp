@@ -80,11 +80,17 @@ std::string CharactersView::Text() {
     return CharactersOf(text, span.start, span.count);
 }
 
-void CharactersView::SetText(const std::string& text) { Insert(text); }
+void CharactersView::SetText(const std::string& text) {
+    Insert(text);
+}
 
-std::string CharactersView::Caption() { return Text(); }
+std::string CharactersView::Caption() {
+    return Text();
+}
 
-void CharactersView::SetCaption(const std::string& text) { Insert(text); }
+void CharactersView::SetCaption(const std::string& text) {
+    Insert(text);
+}
 
 int32_t CharactersView::Count() {
     const ooxml::SharedString text = CellText(sheet_->Book(), sheet_->Cells().Find(row_, column_));
@@ -108,6 +114,8 @@ void CharactersView::Insert(const std::string& text) {
     book.SetSaved(false);
 }
 
-void CharactersView::Delete() { Insert(""); }
+void CharactersView::Delete() {
+    Insert("");
+}
 
 }  // namespace excel::embedded

@@ -19,44 +19,44 @@ constexpr uint32_t white = 0xFFFFFF;
 
 uint32_t RgbOf(const ooxml::Color& color, const Palette& palette, uint32_t automatic) {
     switch (color.kind) {
-    case ooxml::Color::Kind::Rgb:
-        return ApplyTintAndShade(RgbLongFromArgb(color.argb), color.tint);
-    case ooxml::Color::Kind::Indexed:
-        if (color.index >= 0 && color.index < firstPaletteIndex) {
-            return palette[static_cast<size_t>(color.index)];
-        }
-        if (color.index >= firstPaletteIndex && color.index < firstPaletteIndex + 56) {
-            return palette[static_cast<size_t>(color.index - firstPaletteIndex)];
-        }
-        return color.index == systemBackground ? white : automatic;
-    case ooxml::Color::Kind::Theme:
-        if (color.index >= 0 && color.index < 12) {
-            return ApplyTintAndShade(OfficeThemeColors()[static_cast<size_t>(color.index)], color.tint);
-        }
-        return automatic;
-    case ooxml::Color::Kind::None:
-    case ooxml::Color::Kind::Auto:
-        break;
+        case ooxml::Color::Kind::Rgb:
+            return ApplyTintAndShade(RgbLongFromArgb(color.argb), color.tint);
+        case ooxml::Color::Kind::Indexed:
+            if (color.index >= 0 && color.index < firstPaletteIndex) {
+                return palette[static_cast<size_t>(color.index)];
+            }
+            if (color.index >= firstPaletteIndex && color.index < firstPaletteIndex + 56) {
+                return palette[static_cast<size_t>(color.index - firstPaletteIndex)];
+            }
+            return color.index == systemBackground ? white : automatic;
+        case ooxml::Color::Kind::Theme:
+            if (color.index >= 0 && color.index < 12) {
+                return ApplyTintAndShade(OfficeThemeColors()[static_cast<size_t>(color.index)], color.tint);
+            }
+            return automatic;
+        case ooxml::Color::Kind::None:
+        case ooxml::Color::Kind::Auto:
+            break;
     }
     return automatic;
 }
 
 int32_t ColorIndexOf(const ooxml::Color& color, const Palette& palette, int32_t whenAutomatic) {
     switch (color.kind) {
-    case ooxml::Color::Kind::None:
-    case ooxml::Color::Kind::Auto:
-        return whenAutomatic;
-    case ooxml::Color::Kind::Indexed:
-        if (color.index >= 0 && color.index < firstPaletteIndex) {
-            return color.index + 1;
-        }
-        if (color.index >= firstPaletteIndex && color.index < firstPaletteIndex + 56) {
-            return color.index - firstPaletteIndex + 1;
-        }
-        return color.index == systemForeground ? whenAutomatic : NearestColorIndex(palette, white);
-    case ooxml::Color::Kind::Rgb:
-    case ooxml::Color::Kind::Theme:
-        break;
+        case ooxml::Color::Kind::None:
+        case ooxml::Color::Kind::Auto:
+            return whenAutomatic;
+        case ooxml::Color::Kind::Indexed:
+            if (color.index >= 0 && color.index < firstPaletteIndex) {
+                return color.index + 1;
+            }
+            if (color.index >= firstPaletteIndex && color.index < firstPaletteIndex + 56) {
+                return color.index - firstPaletteIndex + 1;
+            }
+            return color.index == systemForeground ? whenAutomatic : NearestColorIndex(palette, white);
+        case ooxml::Color::Kind::Rgb:
+        case ooxml::Color::Kind::Theme:
+            break;
     }
     return NearestColorIndex(palette, RgbOf(color, palette, 0));
 }
@@ -68,7 +68,9 @@ int32_t ThemeColorOf(const ooxml::Color& color) {
     return ThemeColorFromThemeIndex(color.index);
 }
 
-double TintOf(const ooxml::Color& color) { return color.kind == ooxml::Color::Kind::None ? 0.0 : color.tint; }
+double TintOf(const ooxml::Color& color) {
+    return color.kind == ooxml::Color::Kind::None ? 0.0 : color.tint;
+}
 
 ooxml::Color ColorFromRgb(int32_t rgb) {
     if (rgb < 0 || rgb > 0xFFFFFF) {

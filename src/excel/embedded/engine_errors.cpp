@@ -4,8 +4,12 @@
 
 namespace excel::embedded {
 
-void ThrowRefused(const std::string& text) { throw AutomationError(hresult::Refused, text); }
+void ThrowRefused(const std::string& text) {
+    throw AutomationError(hresult::Refused, text);
+}
 
-void ThrowObjectRequired() { throw AutomationError(hresult::ObjectRequired, "Object required"); }
+void ThrowObjectRequired() {
+    throw AutomationError(hresult::ObjectRequired, "Object required");
+}
 
 }  // namespace excel::embedded

@@ -28,7 +28,9 @@ std::string_view Trimmed(std::string_view text) {
     return text;
 }
 
-Variant Error(int32_t number) { return Variant(ErrorValue{ErrorValueCode(number)}); }
+Variant Error(int32_t number) {
+    return Variant(ErrorValue{ErrorValueCode(number)});
+}
 
 std::optional<std::string> QuotedText(std::string_view text) {
     if (text.size() < 2 || text.front() != '"' || text.back() != '"') {

@@ -90,22 +90,22 @@ Variant FontView::Underline() {
 void FontView::SetUnderline(int32_t style) {
     std::string underline;
     switch (style) {
-    case xlUnderlineStyleNone:
-        break;
-    case xlUnderlineStyleSingle:
-        underline = "single";
-        break;
-    case xlUnderlineStyleDouble:
-        underline = "double";
-        break;
-    case xlUnderlineStyleSingleAccounting:
-        underline = "singleAccounting";
-        break;
-    case xlUnderlineStyleDoubleAccounting:
-        underline = "doubleAccounting";
-        break;
-    default:
-        ThrowRefused("Unable to set the Underline property of the Font class");
+        case xlUnderlineStyleNone:
+            break;
+        case xlUnderlineStyleSingle:
+            underline = "single";
+            break;
+        case xlUnderlineStyleDouble:
+            underline = "double";
+            break;
+        case xlUnderlineStyleSingleAccounting:
+            underline = "singleAccounting";
+            break;
+        case xlUnderlineStyleDoubleAccounting:
+            underline = "doubleAccounting";
+            break;
+        default:
+            ThrowRefused("Unable to set the Underline property of the Font class");
     }
     target_->EditFonts([&](ooxml::Font& font) { font.underline = underline; });
 }
@@ -177,7 +177,8 @@ void FontView::SetColor(int32_t rgb) {
 
 Variant FontView::ColorIndex() {
     const Palette& palette = target_->Colors();
-    return read([&](const ooxml::Font& font) { return Variant(ColorIndexOf(font.color, palette, xlColorIndexAutomatic)); });
+    return read(
+        [&](const ooxml::Font& font) { return Variant(ColorIndexOf(font.color, palette, xlColorIndexAutomatic)); });
 }
 
 void FontView::SetColorIndex(int32_t index) {

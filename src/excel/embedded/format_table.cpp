@@ -42,7 +42,9 @@ size_t CellFormatHash::operator()(const ooxml::CellFormat& format) const {
     return hash.Value();
 }
 
-FormatTable::FormatTable() { Intern(ooxml::CellFormat{}); }
+FormatTable::FormatTable() {
+    Intern(ooxml::CellFormat{});
+}
 
 uint32_t FormatTable::Intern(const ooxml::CellFormat& format) {
     auto [it, inserted] = ids_.try_emplace(format, static_cast<uint32_t>(formats_.size()));

@@ -38,15 +38,27 @@ constexpr std::array<std::pair<int32_t, std::string_view>, 18> patterns{{
     {xlPatternCrissCross, "lightTrellis"},
 }};
 
-bool HasFill(const ooxml::Fill& fill) { return !fill.patternType.empty() && fill.patternType != "none"; }
+bool HasFill(const ooxml::Fill& fill) {
+    return !fill.patternType.empty() && fill.patternType != "none";
+}
 
 // A solid fill shows its foreground; a patterned one draws the foreground's lines over the
 // background. Interior.Color is the cell's colour, PatternColor the lines', as Excel files them.
-bool IsSolid(const ooxml::Fill& fill) { return fill.patternType == "solid"; }
-ooxml::Color& CellColor(ooxml::Fill& fill) { return IsSolid(fill) ? fill.foreground : fill.background; }
-const ooxml::Color& CellColor(const ooxml::Fill& fill) { return IsSolid(fill) ? fill.foreground : fill.background; }
-ooxml::Color& LineColor(ooxml::Fill& fill) { return IsSolid(fill) ? fill.background : fill.foreground; }
-const ooxml::Color& LineColor(const ooxml::Fill& fill) { return IsSolid(fill) ? fill.background : fill.foreground; }
+bool IsSolid(const ooxml::Fill& fill) {
+    return fill.patternType == "solid";
+}
+ooxml::Color& CellColor(ooxml::Fill& fill) {
+    return IsSolid(fill) ? fill.foreground : fill.background;
+}
+const ooxml::Color& CellColor(const ooxml::Fill& fill) {
+    return IsSolid(fill) ? fill.foreground : fill.background;
+}
+ooxml::Color& LineColor(ooxml::Fill& fill) {
+    return IsSolid(fill) ? fill.background : fill.foreground;
+}
+const ooxml::Color& LineColor(const ooxml::Fill& fill) {
+    return IsSolid(fill) ? fill.background : fill.foreground;
+}
 
 // The automatic pattern colour (system foreground), as Excel writes it for a solid fill.
 const ooxml::Color automaticLines{ooxml::Color::Kind::Indexed, 0, 64, 0.0};
@@ -87,11 +99,14 @@ Variant InteriorView::Color() {
     });
 }
 
-void InteriorView::SetColor(int32_t rgb) { setCellColor(ColorFromRgb(rgb)); }
+void InteriorView::SetColor(int32_t rgb) {
+    setCellColor(ColorFromRgb(rgb));
+}
 
 Variant InteriorView::ColorIndex() {
     return read([](const ooxml::Fill& fill, const Palette& palette) {
-        return Variant(HasFill(fill) ? ColorIndexOf(CellColor(fill), palette, xlColorIndexAutomatic) : xlColorIndexNone);
+        return Variant(HasFill(fill) ? ColorIndexOf(CellColor(fill), palette, xlColorIndexAutomatic)
+                                     : xlColorIndexNone);
     });
 }
 
@@ -113,12 +128,13 @@ Variant InteriorView::ThemeColor() {
     });
 }
 
-void InteriorView::SetThemeColor(int32_t themeColor) { setCellColor(ColorFromTheme(themeColor)); }
+void InteriorView::SetThemeColor(int32_t themeColor) {
+    setCellColor(ColorFromTheme(themeColor));
+}
 
 Variant InteriorView::TintAndShade() {
-    return read([](const ooxml::Fill& fill, const Palette&) {
-        return Variant(HasFill(fill) ? TintOf(CellColor(fill)) : 0.0);
-    });
+    return read(
+        [](const ooxml::Fill& fill, const Palette&) { return Variant(HasFill(fill) ? TintOf(CellColor(fill)) : 0.0); });
 }
 
 void InteriorView::SetTintAndShade(double tint) {
@@ -182,7 +198,9 @@ Variant InteriorView::PatternColor() {
     });
 }
 
-void InteriorView::SetPatternColor(int32_t rgb) { setLineColor(ColorFromRgb(rgb)); }
+void InteriorView::SetPatternColor(int32_t rgb) {
+    setLineColor(ColorFromRgb(rgb));
+}
 
 Variant InteriorView::PatternColorIndex() {
     return read([](const ooxml::Fill& fill, const Palette& palette) {

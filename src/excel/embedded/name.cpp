@@ -14,7 +14,9 @@ DefinedNameModel& NameView::name() const {
     return *name_;
 }
 
-std::string NameView::GetName() { return WorkbookModel::ScopedName(name()); }
+std::string NameView::GetName() {
+    return WorkbookModel::ScopedName(name());
+}
 
 void NameView::SetName(const std::string& newName) {
     DefinedNameModel& current = name();
@@ -23,7 +25,9 @@ void NameView::SetName(const std::string& newName) {
     book_->RenameName(current, bang == std::string::npos ? newName : newName.substr(bang + 1));
 }
 
-std::string NameView::RefersTo() { return "=" + name().formula; }
+std::string NameView::RefersTo() {
+    return "=" + name().formula;
+}
 
 void NameView::SetRefersTo(const Variant& refersTo) {
     DefinedNameModel& current = name();
@@ -31,7 +35,9 @@ void NameView::SetRefersTo(const Variant& refersTo) {
     book_->SetSaved(false);
 }
 
-std::string NameView::Value() { return RefersTo(); }
+std::string NameView::Value() {
+    return RefersTo();
+}
 
 std::shared_ptr<excel::Range> NameView::RefersToRange() {
     const auto reference = ReadSheetReference(name().formula);
@@ -42,7 +48,9 @@ std::shared_ptr<excel::Range> NameView::RefersToRange() {
     return RangeView::Make(sheet, reference->areas);
 }
 
-bool NameView::Visible() { return name().visible; }
+bool NameView::Visible() {
+    return name().visible;
+}
 
 void NameView::SetVisible(bool visible) {
     name().visible = visible;
@@ -60,6 +68,8 @@ int32_t NameView::Index() {
     ThrowObjectRequired();
 }
 
-void NameView::Delete() { book_->DeleteName(name()); }
+void NameView::Delete() {
+    book_->DeleteName(name());
+}
 
 }  // namespace excel::embedded

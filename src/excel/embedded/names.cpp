@@ -19,28 +19,28 @@ std::string FormulaFromRefersTo(const Variant& refersTo) {
         return WriteSheetReference(range->Target().sheet->Name(), range->Target().areas);
     }
     switch (refersTo.Type()) {
-    case VarType::Empty:
-    case VarType::Null:
-    case VarType::Error:
-        ThrowRefused("The formula contains an error.");
-    case VarType::String: {
-        const std::string text = refersTo.ToString();
-        if (text.starts_with("=")) {
-            if (text.size() == 1) {
-                ThrowRefused("The formula contains an error.");
+        case VarType::Empty:
+        case VarType::Null:
+        case VarType::Error:
+            ThrowRefused("The formula contains an error.");
+        case VarType::String: {
+            const std::string text = refersTo.ToString();
+            if (text.starts_with("=")) {
+                if (text.size() == 1) {
+                    ThrowRefused("The formula contains an error.");
+                }
+                return text.substr(1);
             }
-            return text.substr(1);
+            std::string quoted = "\"";
+            for (char c : text) {
+                quoted += c == '"' ? std::string("\"\"") : std::string(1, c);
+            }
+            return quoted + "\"";
         }
-        std::string quoted = "\"";
-        for (char c : text) {
-            quoted += c == '"' ? std::string("\"\"") : std::string(1, c);
-        }
-        return quoted + "\"";
-    }
-    case VarType::Boolean:
-        return refersTo.ToBool() ? "TRUE" : "FALSE";
-    default:
-        return FormatGeneral(refersTo.ToDouble());
+        case VarType::Boolean:
+            return refersTo.ToBool() ? "TRUE" : "FALSE";
+        default:
+            return FormatGeneral(refersTo.ToDouble());
     }
 }
 
@@ -57,7 +57,9 @@ std::vector<std::shared_ptr<DefinedNameModel>> NamesView::listed() const {
     return names;
 }
 
-int32_t NamesView::Count() { return static_cast<int32_t>(listed().size()); }
+int32_t NamesView::Count() {
+    return static_cast<int32_t>(listed().size());
+}
 
 std::shared_ptr<excel::Name> NamesView::Item(const Variant& index) {
     const auto names = listed();

@@ -28,7 +28,8 @@ NumberFormatKind ClassifyNumberFormat(std::string_view format) {
             i = close == std::string_view::npos ? format.size() : close;
         } else if (c == ';') {
             break;
-        } else if (c == '$' || format.substr(i).starts_with("\xE2\x82\xAC") || format.substr(i).starts_with("\xC2\xA3")) {
+        } else if (c == '$' || format.substr(i).starts_with("\xE2\x82\xAC") ||
+                   format.substr(i).starts_with("\xC2\xA3")) {
             currency = true;
         } else if (c == '@') {
             text = true;

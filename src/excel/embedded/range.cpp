@@ -66,7 +66,9 @@ std::shared_ptr<excel::Application> RangeView::Application() {
     return std::make_shared<ApplicationView>(book().App().shared_from_this());
 }
 
-std::shared_ptr<excel::Worksheet> RangeView::Parent() { return Worksheet(); }
+std::shared_ptr<excel::Worksheet> RangeView::Parent() {
+    return Worksheet();
+}
 
 std::shared_ptr<excel::Worksheet> RangeView::Worksheet() {
     book();
@@ -94,7 +96,9 @@ std::shared_ptr<excel::Range> RangeView::Cells(int32_t index) {
     return Cells(offset / columns + 1, offset % columns + 1);
 }
 
-std::shared_ptr<excel::Range> RangeView::Item(int32_t row, int32_t column) { return Cells(row, column); }
+std::shared_ptr<excel::Range> RangeView::Item(int32_t row, int32_t column) {
+    return Cells(row, column);
+}
 
 std::shared_ptr<excel::Range> RangeView::Rows() {
     book();
@@ -227,8 +231,8 @@ std::string RangeView::Address(bool rowAbsolute, bool columnAbsolute, int32_t re
         if (!address.empty()) {
             address += ',';
         }
-        address += prefix + (referenceStyle == xlR1C1 ? FormatBlockR1C1(area)
-                                                      : FormatBlock(area, rowAbsolute, columnAbsolute));
+        address += prefix +
+                   (referenceStyle == xlR1C1 ? FormatBlockR1C1(area) : FormatBlock(area, rowAbsolute, columnAbsolute));
     }
     return address;
 }
@@ -324,14 +328,19 @@ void RangeView::Insert(const Variant& shiftDirection, const Variant& copyOrigin)
     shift(shiftDirection, true, fromAfter);
 }
 
-void RangeView::Delete(const Variant& shiftDirection) { shift(shiftDirection, false, false); }
+void RangeView::Delete(const Variant& shiftDirection) {
+    shift(shiftDirection, false, false);
+}
 
 void RangeView::Select() {
     WorkbookModel& owner = book();
     owner.ActivateSheet(*cells_.sheet);
-    cells_.sheet->Settings().activeCell = FormatBlock({first().top, first().left, first().top, first().left}, false, false);
+    cells_.sheet->Settings().activeCell =
+        FormatBlock({first().top, first().left, first().top, first().left}, false, false);
 }
 
-void RangeView::Activate() { Select(); }
+void RangeView::Activate() {
+    Select();
+}
 
 }  // namespace excel::embedded

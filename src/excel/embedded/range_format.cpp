@@ -55,8 +55,12 @@ const std::string_view* NameOf(const std::array<std::pair<int32_t, std::string_v
     return nullptr;
 }
 
-bool WholeRows(const CellBlock& block) { return block.left == 1 && block.right == MaxColumn; }
-bool WholeColumns(const CellBlock& block) { return block.top == 1 && block.bottom == MaxRow; }
+bool WholeRows(const CellBlock& block) {
+    return block.left == 1 && block.right == MaxColumn;
+}
+bool WholeColumns(const CellBlock& block) {
+    return block.top == 1 && block.bottom == MaxRow;
+}
 
 }  // namespace
 
@@ -78,9 +82,13 @@ void RangeView::SetNumberFormat(const std::string& format) {
 }
 
 // The engine works in locale 1033 (English, United States), where both spellings agree.
-Variant RangeView::NumberFormatLocal() { return NumberFormat(); }
+Variant RangeView::NumberFormatLocal() {
+    return NumberFormat();
+}
 
-void RangeView::SetNumberFormatLocal(const std::string& format) { SetNumberFormat(format); }
+void RangeView::SetNumberFormatLocal(const std::string& format) {
+    SetNumberFormat(format);
+}
 
 Variant RangeView::HorizontalAlignment() {
     return readFormat([](const ooxml::CellFormat& format) {

@@ -40,7 +40,9 @@ private:
     uint32_t columns_ = 0;
 };
 
-void RefuseUnstorable() { ThrowRefused("Application-defined or object-defined error"); }
+void RefuseUnstorable() {
+    ThrowRefused("Application-defined or object-defined error");
+}
 
 }  // namespace
 
@@ -59,8 +61,8 @@ Variant RangeView::readValues(bool convertDates) {
         const RowData& row = store.Rows()[i];
         for (const Cell& cell : row.CellsIn(block.left, block.right)) {
             if (cell.HasValue()) {
-                values.Put(static_cast<uint32_t>(row.index - block.top), static_cast<uint32_t>(cell.column - block.left),
-                           reader.Read(&cell));
+                values.Put(static_cast<uint32_t>(row.index - block.top),
+                           static_cast<uint32_t>(cell.column - block.left), reader.Read(&cell));
             }
         }
     }
@@ -93,7 +95,8 @@ void RangeView::writeValues(const Variant& value, bool plain) {
         }
         const ArrayShape shape(value.Array());
         cells_.sheet->WriteCells(area, [&](int32_t row, int32_t column, Cell& cell) {
-            const Variant* element = shape.At(static_cast<uint32_t>(row - area.top), static_cast<uint32_t>(column - area.left));
+            const Variant* element =
+                shape.At(static_cast<uint32_t>(row - area.top), static_cast<uint32_t>(column - area.left));
             const Variant& stored = element ? *element : notAvailable;
             plain ? writer.StorePlain(cell, stored) : writer.Store(cell, stored);
         });
@@ -101,13 +104,21 @@ void RangeView::writeValues(const Variant& value, bool plain) {
     owner.SetSaved(false);
 }
 
-Variant RangeView::Value() { return readValues(true); }
+Variant RangeView::Value() {
+    return readValues(true);
+}
 
-void RangeView::SetValue(const Variant& value) { writeValues(value, false); }
+void RangeView::SetValue(const Variant& value) {
+    writeValues(value, false);
+}
 
-Variant RangeView::Value2() { return readValues(false); }
+Variant RangeView::Value2() {
+    return readValues(false);
+}
 
-void RangeView::SetValue2(const Variant& value) { writeValues(value, true); }
+void RangeView::SetValue2(const Variant& value) {
+    writeValues(value, true);
+}
 
 Variant RangeView::Formula() {
     const WorkbookModel& owner = book();
@@ -129,7 +140,9 @@ Variant RangeView::Formula() {
     return Variant(std::move(formulas));
 }
 
-void RangeView::SetFormula(const Variant& formula) { writeValues(formula, false); }
+void RangeView::SetFormula(const Variant& formula) {
+    writeValues(formula, false);
+}
 
 Variant RangeView::Text() {
     const WorkbookModel& owner = book();

@@ -63,7 +63,9 @@ ooxml::SharedString Joined(std::vector<ooxml::TextRun> runs) {
 
 }  // namespace
 
-size_t CharacterCount(const ooxml::SharedString& text) { return CodePointCount(text.text); }
+size_t CharacterCount(const ooxml::SharedString& text) {
+    return CodePointCount(text.text);
+}
 
 std::string CharactersOf(const ooxml::SharedString& text, size_t start, size_t count) {
     const size_t first = ByteOffset(text.text, start);
@@ -71,7 +73,8 @@ std::string CharactersOf(const ooxml::SharedString& text, size_t start, size_t c
     return text.text.substr(first, last - first);
 }
 
-std::vector<ooxml::Font> FontsOf(const ooxml::SharedString& text, size_t start, size_t count, const ooxml::Font& cellFont) {
+std::vector<ooxml::Font> FontsOf(const ooxml::SharedString& text, size_t start, size_t count,
+                                 const ooxml::Font& cellFont) {
     std::vector<ooxml::Font> fonts;
     size_t offset = 0;
     for (const ooxml::TextRun& run : SplitRuns(text, start, start + count)) {
@@ -113,7 +116,8 @@ ooxml::SharedString WithFont(const ooxml::SharedString& text, size_t start, size
     return result;
 }
 
-ooxml::SharedString WithReplaced(const ooxml::SharedString& text, size_t start, size_t count, std::string_view replacement) {
+ooxml::SharedString WithReplaced(const ooxml::SharedString& text, size_t start, size_t count,
+                                 std::string_view replacement) {
     std::vector<ooxml::TextRun> runs = SplitRuns(text, start, start + count);
     std::vector<ooxml::TextRun> result;
     std::optional<ooxml::Font> font;

@@ -39,7 +39,9 @@ std::shared_ptr<excel::Workbook> SheetsView::Parent() {
     return std::make_shared<WorkbookView>(model_);
 }
 
-int32_t SheetsView::Count() { return static_cast<int32_t>(model().Sheets().size()); }
+int32_t SheetsView::Count() {
+    return static_cast<int32_t>(model().Sheets().size());
+}
 
 std::shared_ptr<excel::Worksheet> SheetsView::Item(const Variant& index) {
     WorkbookModel& book = model();

@@ -28,7 +28,9 @@ std::shared_ptr<excel::Worksheet> WindowView::ActiveSheet() {
     return std::make_shared<WorksheetView>(activeSheet().shared_from_this());
 }
 
-bool WindowView::DisplayGridlines() { return activeSheet().Settings().showGridlines; }
+bool WindowView::DisplayGridlines() {
+    return activeSheet().Settings().showGridlines;
+}
 
 void WindowView::SetDisplayGridlines(bool display) {
     activeSheet().Settings().showGridlines = display;

@@ -44,7 +44,9 @@ std::shared_ptr<excel::Application> WorkbookView::Application() {
     return std::make_shared<ApplicationView>(model().App().shared_from_this());
 }
 
-std::string WorkbookView::Name() { return model().Name(); }
+std::string WorkbookView::Name() {
+    return model().Name();
+}
 
 std::string WorkbookView::FullName() {
     return model().HasFile() ? model_->FullName() : model_->Name();
@@ -59,11 +61,17 @@ std::shared_ptr<excel::Sheets> WorkbookView::Worksheets() {
     return std::make_shared<SheetsView>(model_);
 }
 
-std::shared_ptr<excel::Worksheet> WorkbookView::Worksheets(const Variant& index) { return Worksheets()->Item(index); }
+std::shared_ptr<excel::Worksheet> WorkbookView::Worksheets(const Variant& index) {
+    return Worksheets()->Item(index);
+}
 
-std::shared_ptr<excel::Sheets> WorkbookView::Sheets() { return Worksheets(); }
+std::shared_ptr<excel::Sheets> WorkbookView::Sheets() {
+    return Worksheets();
+}
 
-std::shared_ptr<excel::Worksheet> WorkbookView::Sheets(const Variant& index) { return Worksheets()->Item(index); }
+std::shared_ptr<excel::Worksheet> WorkbookView::Sheets(const Variant& index) {
+    return Worksheets()->Item(index);
+}
 
 std::shared_ptr<excel::Worksheet> WorkbookView::ActiveSheet() {
     WorksheetModel* sheet = model().ActiveSheet();
@@ -80,7 +88,9 @@ std::shared_ptr<excel::Windows> WorkbookView::Windows() {
     return std::make_shared<WindowsView>(model_);
 }
 
-std::shared_ptr<excel::Window> WorkbookView::Windows(const Variant& index) { return Windows()->Item(index); }
+std::shared_ptr<excel::Window> WorkbookView::Windows(const Variant& index) {
+    return Windows()->Item(index);
+}
 
 Variant WorkbookView::Colors(const Variant& index) {
     const auto& palette = model().Palette();
@@ -121,18 +131,26 @@ void WorkbookView::Unprotect(const Variant& password) {
     model().Unprotect(password.IsEmpty() ? std::string() : password.ToString());
 }
 
-bool WorkbookView::ProtectStructure() { return model().ProtectStructure(); }
+bool WorkbookView::ProtectStructure() {
+    return model().ProtectStructure();
+}
 
-bool WorkbookView::ProtectWindows() { return model().ProtectWindows(); }
+bool WorkbookView::ProtectWindows() {
+    return model().ProtectWindows();
+}
 
 bool WorkbookView::ReadOnly() {
     model();
     return false;
 }
 
-bool WorkbookView::Saved() { return model().Saved(); }
+bool WorkbookView::Saved() {
+    return model().Saved();
+}
 
-void WorkbookView::Activate() { model().App().ActivateWorkbook(*model_); }
+void WorkbookView::Activate() {
+    model().App().ActivateWorkbook(*model_);
+}
 
 void WorkbookView::SaveAs(const std::string& fileName, const Variant& fileFormat) {
     WorkbookModel& book = model();
@@ -146,23 +164,24 @@ void WorkbookView::SaveAs(const std::string& fileName, const Variant& fileFormat
         ThrowRefused("Microsoft Excel cannot access the file '" + fullName + "'.");
     }
     if (auto other = book.App().FindWorkbook(target.filename().string()); other && other.get() != &book) {
-        ThrowRefused("You cannot save this workbook with the same name as another open workbook or add-in. Choose a "
-                     "different name, or close the other workbook or add-in before saving.");
+        ThrowRefused(
+            "You cannot save this workbook with the same name as another open workbook or add-in. Choose a "
+            "different name, or close the other workbook or add-in before saving.");
     }
     try {
         ooxml::WritePackage(ToDocument(book, book.App().userName), fullName);
     } catch (const ooxml::PackageError& failure) {
         switch (failure.reason()) {
-        case ooxml::PackageError::Reason::PathNotFound:
-            ThrowRefused("Microsoft Excel cannot access the file '" + fullName +
-                         "'. There are several possible reasons:\n\n"
-                         "The file name or path does not exist.\n"
-                         "The file is being used by another program.\n"
-                         "The workbook you are trying to save has the same name as a currently open workbook.");
-        case ooxml::PackageError::Reason::AccessDenied:
-            ThrowRefused("Cannot access '" + target.filename().string() + "'.");
-        default:
-            ThrowRefused("Document not saved.");
+            case ooxml::PackageError::Reason::PathNotFound:
+                ThrowRefused("Microsoft Excel cannot access the file '" + fullName +
+                             "'. There are several possible reasons:\n\n"
+                             "The file name or path does not exist.\n"
+                             "The file is being used by another program.\n"
+                             "The workbook you are trying to save has the same name as a currently open workbook.");
+            case ooxml::PackageError::Reason::AccessDenied:
+                ThrowRefused("Cannot access '" + target.filename().string() + "'.");
+            default:
+                ThrowRefused("Document not saved.");
         }
     }
     book.SetFile(fullName);

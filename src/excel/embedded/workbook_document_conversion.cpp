@@ -109,28 +109,28 @@ ooxml::SheetDocument ConvertSheet(const WorksheetModel& sheet, StringNumbering& 
             outCell.column = cell.column;
             outCell.format = cell.format;
             switch (cell.kind) {
-            case CellKind::Blank:
-                break;
-            case CellKind::Number:
-                outCell.type = ooxml::CellType::Number;
-                outCell.number = cell.number;
-                break;
-            case CellKind::Boolean:
-                outCell.type = ooxml::CellType::Boolean;
-                outCell.number = cell.number;
-                break;
-            case CellKind::Text:
-                outCell.type = ooxml::CellType::String;
-                outCell.string = strings.Number(cell.text);
-                break;
-            case CellKind::Error:
-                outCell.type = ooxml::CellType::Error;
-                outCell.string = strings.NumberText(ErrorTextFromNumber(cell.error));
-                break;
-            case CellKind::Formula:
-                outCell.formula = static_cast<uint32_t>(out.formulas.size());
-                out.formulas.push_back(pool.Get(cell.text).text);
-                break;
+                case CellKind::Blank:
+                    break;
+                case CellKind::Number:
+                    outCell.type = ooxml::CellType::Number;
+                    outCell.number = cell.number;
+                    break;
+                case CellKind::Boolean:
+                    outCell.type = ooxml::CellType::Boolean;
+                    outCell.number = cell.number;
+                    break;
+                case CellKind::Text:
+                    outCell.type = ooxml::CellType::String;
+                    outCell.string = strings.Number(cell.text);
+                    break;
+                case CellKind::Error:
+                    outCell.type = ooxml::CellType::Error;
+                    outCell.string = strings.NumberText(ErrorTextFromNumber(cell.error));
+                    break;
+                case CellKind::Formula:
+                    outCell.formula = static_cast<uint32_t>(out.formulas.size());
+                    out.formulas.push_back(pool.Get(cell.text).text);
+                    break;
             }
             outRow.cells.push_back(outCell);
         }
@@ -192,8 +192,9 @@ void LoadSheet(WorksheetModel& sheet, const ooxml::SheetDocument& in, const std:
         }
     }
     for (const ooxml::CellBlock& merge : in.merges) {
-        sheet.Merges().push_back(CellBlock{static_cast<int32_t>(merge.firstRow), static_cast<int32_t>(merge.firstColumn),
-                                           static_cast<int32_t>(merge.lastRow), static_cast<int32_t>(merge.lastColumn)});
+        sheet.Merges().push_back(CellBlock{static_cast<int32_t>(merge.firstRow),
+                                           static_cast<int32_t>(merge.firstColumn), static_cast<int32_t>(merge.lastRow),
+                                           static_cast<int32_t>(merge.lastColumn)});
     }
 }
 
@@ -245,7 +246,8 @@ void LoadDocument(WorkbookModel& book, const ooxml::WorkbookDocument& document) 
     for (const ooxml::SheetDocument& sheet : document.sheets) {
         LoadSheet(*book.AppendSheet(sheet.name), sheet, formatIds, stringIds, document.strings, book.Strings());
     }
-    if (document.activeSheet < book.Sheets().size() && book.Sheets()[document.activeSheet]->Settings().visibility == -1) {
+    if (document.activeSheet < book.Sheets().size() &&
+        book.Sheets()[document.activeSheet]->Settings().visibility == -1) {
         book.ActivateSheet(*book.Sheets()[document.activeSheet]);
     }
     std::vector<std::shared_ptr<DefinedNameModel>> names;
@@ -254,7 +256,8 @@ void LoadDocument(WorkbookModel& book, const ooxml::WorkbookDocument& document) 
         if (name.localSheet && *name.localSheet < book.Sheets().size()) {
             local = book.Sheets()[*name.localSheet];
         }
-        names.push_back(std::make_shared<DefinedNameModel>(DefinedNameModel{name.name, name.formula, local, !name.hidden, false}));
+        names.push_back(
+            std::make_shared<DefinedNameModel>(DefinedNameModel{name.name, name.formula, local, !name.hidden, false}));
     }
     book.AddOpenedNames(std::move(names));
     if (document.palette.size() == 56) {

@@ -44,7 +44,9 @@ int32_t SheetNumber(std::string_view name) {
 WorkbookModel::WorkbookModel(ApplicationModel& app, std::string name)
     : app_(&app), name_(std::move(name)), palette_(DefaultPalette()) {}
 
-WorkbookModel::~WorkbookModel() { Detach(); }
+WorkbookModel::~WorkbookModel() {
+    Detach();
+}
 
 void WorkbookModel::Detach() {
     app_ = nullptr;
@@ -129,7 +131,8 @@ void WorkbookModel::DeleteSheet(WorksheetModel& sheet) {
         return false;
     });
     for (auto& name : names_) {
-        if (auto reference = ReadSheetReference(name->formula); reference && SameSheetName(reference->sheet, sheetName)) {
+        if (auto reference = ReadSheetReference(name->formula);
+            reference && SameSheetName(reference->sheet, sheetName)) {
             name->formula = "#REF!" + name->formula.substr(name->formula.find('!') + 1);
         }
     }
@@ -161,7 +164,9 @@ void WorkbookModel::RenameSheet(WorksheetModel& sheet, const std::string& name) 
         ThrowRefused("You typed an invalid name for a sheet or chart.");
     }
     if (auto other = FindSheet(name); other && other.get() != &sheet) {
-        ThrowRefused("That name is already taken. Try a different one.");
+        ThrowRefused(
+            "Cannot rename a sheet to the same name as another sheet, a referenced object library or a "
+            "workbook referenced by Visual Basic.");
     }
     RefuseWhenStructureProtected();
     const std::string oldName = sheet.Name();
@@ -204,7 +209,8 @@ void WorkbookModel::ActivateSheet(WorksheetModel& sheet) {
     activeSheet_ = &sheet;
 }
 
-std::shared_ptr<DefinedNameModel> WorkbookModel::FindName(std::string_view name, const WorksheetModel* localSheet) const {
+std::shared_ptr<DefinedNameModel> WorkbookModel::FindName(std::string_view name,
+                                                          const WorksheetModel* localSheet) const {
     for (const auto& candidate : names_) {
         if (candidate->localSheet.get() == localSheet && SameDefinedName(candidate->name, name)) {
             return candidate;
@@ -299,8 +305,8 @@ void WorkbookModel::ShiftCells(WorksheetModel& sheet, const BlockShift& shift) {
             }
             areas.push_back(*moved);
         }
-        name->formula = areas.empty() ? QualifiedSheetName(sheet.Name()) + "!#REF!"
-                                      : WriteSheetReference(sheet.Name(), areas);
+        name->formula =
+            areas.empty() ? QualifiedSheetName(sheet.Name()) + "!#REF!" : WriteSheetReference(sheet.Name(), areas);
     }
     saved_ = false;
 }
@@ -313,8 +319,9 @@ void WorkbookModel::Protect(const std::string& password, bool structure, bool wi
 
 void WorkbookModel::Unprotect(const std::string& password) {
     if ((protectStructure_ || protectWindows_) && password != password_) {
-        ThrowRefused("The password you supplied is not correct. Verify that the CAPS LOCK key is off and be sure to "
-                     "use the correct capitalization.");
+        ThrowRefused(
+            "The password you supplied is not correct. Verify that the CAPS LOCK key is off and be sure to "
+            "use the correct capitalization.");
     }
     protectStructure_ = false;
     protectWindows_ = false;

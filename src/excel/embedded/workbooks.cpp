@@ -8,9 +8,13 @@
 
 namespace excel::embedded {
 
-std::shared_ptr<excel::Application> WorkbooksView::Application() { return std::make_shared<ApplicationView>(model_); }
+std::shared_ptr<excel::Application> WorkbooksView::Application() {
+    return std::make_shared<ApplicationView>(model_);
+}
 
-int32_t WorkbooksView::Count() { return static_cast<int32_t>(model_->Workbooks().size()); }
+int32_t WorkbooksView::Count() {
+    return static_cast<int32_t>(model_->Workbooks().size());
+}
 
 std::shared_ptr<excel::Workbook> WorkbooksView::Item(const Variant& index) {
     std::shared_ptr<WorkbookModel> book;

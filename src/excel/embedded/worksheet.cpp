@@ -25,15 +25,25 @@ std::shared_ptr<excel::Workbook> WorksheetView::Parent() {
     return std::make_shared<WorkbookView>(model_->Book().shared_from_this());
 }
 
-std::string WorksheetView::Name() { return Model().Name(); }
+std::string WorksheetView::Name() {
+    return Model().Name();
+}
 
-void WorksheetView::SetName(const std::string& name) { model_->Book().RenameSheet(*model_, name); }
+void WorksheetView::SetName(const std::string& name) {
+    model_->Book().RenameSheet(*model_, name);
+}
 
-int32_t WorksheetView::Index() { return model_->Book().SheetPosition(*model_) + 1; }
+int32_t WorksheetView::Index() {
+    return model_->Book().SheetPosition(*model_) + 1;
+}
 
-int32_t WorksheetView::Visible() { return Model().Settings().visibility; }
+int32_t WorksheetView::Visible() {
+    return Model().Settings().visibility;
+}
 
-void WorksheetView::SetVisible(int32_t visibility) { model_->Book().SetSheetVisibility(*model_, visibility); }
+void WorksheetView::SetVisible(int32_t visibility) {
+    model_->Book().SetSheetVisibility(*model_, visibility);
+}
 
 std::shared_ptr<excel::Range> WorksheetView::Cells() {
     Model();
@@ -94,8 +104,8 @@ std::shared_ptr<excel::Range> WorksheetView::Range(const std::shared_ptr<excel::
     CellBlock box = first->Target().areas.front();
     for (const auto* part : {first, second}) {
         for (const CellBlock& area : part->Target().areas) {
-            box = CellBlock{std::min(box.top, area.top), std::min(box.left, area.left), std::max(box.bottom, area.bottom),
-                            std::max(box.right, area.right)};
+            box = CellBlock{std::min(box.top, area.top), std::min(box.left, area.left),
+                            std::max(box.bottom, area.bottom), std::max(box.right, area.right)};
         }
     }
     return RangeView::Make(model_, {box});
@@ -136,13 +146,21 @@ std::shared_ptr<excel::PageSetup> WorksheetView::PageSetup() {
     return std::make_shared<PageSetupView>(model_);
 }
 
-bool WorksheetView::DisplayPageBreaks() { return Model().Settings().showPageBreaks; }
+bool WorksheetView::DisplayPageBreaks() {
+    return Model().Settings().showPageBreaks;
+}
 
-void WorksheetView::SetDisplayPageBreaks(bool display) { Model().Settings().showPageBreaks = display; }
+void WorksheetView::SetDisplayPageBreaks(bool display) {
+    Model().Settings().showPageBreaks = display;
+}
 
-double WorksheetView::StandardWidth() { return Model().Settings().standardWidth; }
+double WorksheetView::StandardWidth() {
+    return Model().Settings().standardWidth;
+}
 
-double WorksheetView::StandardHeight() { return Model().Settings().defaultRowHeight; }
+double WorksheetView::StandardHeight() {
+    return Model().Settings().defaultRowHeight;
+}
 
 void WorksheetView::Activate() {
     WorkbookModel& book = model_->Book();
@@ -150,8 +168,12 @@ void WorksheetView::Activate() {
     book.App().ActivateWorkbook(book);
 }
 
-void WorksheetView::Select() { Activate(); }
+void WorksheetView::Select() {
+    Activate();
+}
 
-void WorksheetView::Delete() { model_->Book().DeleteSheet(*model_); }
+void WorksheetView::Delete() {
+    model_->Book().DeleteSheet(*model_);
+}
 
 }  // namespace excel::embedded

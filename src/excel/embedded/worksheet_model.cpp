@@ -82,15 +82,17 @@ void WorksheetModel::applyToWholeRows(int32_t top, int32_t bottom, FormatChange&
         std::vector<std::pair<uint32_t, int32_t>> counts;
         for (int32_t column = 1; column <= MaxColumn; ++column) {
             const uint32_t format = columns_.Get(column).format;
-            auto it = std::find_if(counts.begin(), counts.end(), [&](const auto& entry) { return entry.first == format; });
+            auto it =
+                std::find_if(counts.begin(), counts.end(), [&](const auto& entry) { return entry.first == format; });
             if (it == counts.end()) {
                 counts.emplace_back(format, 1);
             } else {
                 ++it->second;
             }
         }
-        base = std::max_element(counts.begin(), counts.end(),
-                                [](const auto& a, const auto& b) { return a.second < b.second; })->first;
+        base = std::max_element(counts.begin(), counts.end(), [](const auto& a, const auto& b) {
+                   return a.second < b.second;
+               })->first;
         for (int32_t column = 1; column <= MaxColumn; ++column) {
             const uint32_t format = columns_.Get(column).format;
             if (format != base && change.Apply(format) != change.Apply(base)) {
@@ -199,7 +201,8 @@ void WorksheetModel::WriteCells(const CellBlock& block,
             const int32_t column = block.left;
             auto it = row.LowerBound(column);
             if (it == row.cells.end() || it->column != column) {
-                it = row.cells.insert(it, Cell::Blank(column, row.hasFormat ? row.format : columns_.Get(column).format));
+                it =
+                    row.cells.insert(it, Cell::Blank(column, row.hasFormat ? row.format : columns_.Get(column).format));
             }
             write(row.index, column, *it);
             continue;
@@ -214,7 +217,8 @@ void WorksheetModel::WriteCells(const CellBlock& block,
     }
 }
 
-void WorksheetModel::ForEachStoredCell(const CellBlock& block, const std::function<void(int32_t row, Cell& cell)>& visit) {
+void WorksheetModel::ForEachStoredCell(const CellBlock& block,
+                                       const std::function<void(int32_t row, Cell& cell)>& visit) {
     const auto [first, last] = cells_.RowSpan(block.top, block.bottom);
     auto& rows = cells_.Rows();
     for (size_t i = first; i < last; ++i) {

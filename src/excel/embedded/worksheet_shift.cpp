@@ -131,8 +131,9 @@ void WorksheetModel::moveCellsAlongColumns(const BlockShift& shift) {
                 moved.emplace_back(row.index - shift.count, cell);
             }
         }
-        row.cells.erase(row.cells.begin() + (cells.data() - row.cells.data()),
-                        row.cells.begin() + (cells.data() - row.cells.data()) + static_cast<std::ptrdiff_t>(cells.size()));
+        row.cells.erase(
+            row.cells.begin() + (cells.data() - row.cells.data()),
+            row.cells.begin() + (cells.data() - row.cells.data()) + static_cast<std::ptrdiff_t>(cells.size()));
     }
     for (const auto& [rowIndex, cell] : moved) {
         if (rowIndex > MaxRow) {
