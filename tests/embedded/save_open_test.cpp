@@ -180,3 +180,15 @@ TEST_F(SaveOpenTest, SavedWorkbookPassesTheConformanceTools) {
     EXPECT_EQ(RunTool("validate-xlsx", path), 0);
     EXPECT_EQ(RunTool("check-xlsx", path), 0);
 }
+
+TEST_F(SaveOpenTest, SavedTracksChangesSinceTheLastSave) {
+    EXPECT_TRUE(book->Saved());
+    At("A1")->SetValue(1.0);
+    EXPECT_FALSE(book->Saved());
+    book->SaveAs(PathOf("saved.xlsx"));
+    EXPECT_TRUE(book->Saved());
+    At("A1")->Font()->SetBold(true);
+    EXPECT_FALSE(book->Saved());
+    book->Save();
+    EXPECT_TRUE(book->Saved());
+}
