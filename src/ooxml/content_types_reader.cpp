@@ -25,7 +25,7 @@ std::string LowerCase(std::string_view text) {
 
 }  // namespace
 
-ContentTypes::ContentTypes(const ZipArchiveReader& archive) {
+ContentTypeMap::ContentTypeMap(const ZipArchiveReader& archive) {
     std::optional<std::string> xml = archive.Read(ContentTypesPartName);
     if (!xml) {
         throw PackageError(PackageError::Reason::NotAPackage, "The package declares no content types");
@@ -45,7 +45,7 @@ ContentTypes::ContentTypes(const ZipArchiveReader& archive) {
     });
 }
 
-std::string ContentTypes::Of(std::string_view partName) const {
+std::string ContentTypeMap::Of(std::string_view partName) const {
     const std::string key = LowerCase(partName);
     if (const auto found = byPartName_.find(key); found != byPartName_.end()) {
         return found->second;
@@ -60,7 +60,7 @@ std::string ContentTypes::Of(std::string_view partName) const {
     return {};
 }
 
-std::string ContentTypes::FirstPartOf(std::string_view contentType) const {
+std::string ContentTypeMap::FirstPartOf(std::string_view contentType) const {
     for (const auto& [partName, type] : byPartName_) {
         if (type == contentType) {
             return partName;

@@ -9,11 +9,11 @@ namespace ooxml {
 class ZipArchiveReader;
 
 // The package's [Content_Types].xml: a content type per part name, or per file extension.
-class ContentTypes {
+class ContentTypeMap {
 public:
     // Throws PackageError: NotAPackage when the package has no content types, Corrupt when they
     // cannot be parsed.
-    explicit ContentTypes(const ZipArchiveReader& archive);
+    explicit ContentTypeMap(const ZipArchiveReader& archive);
 
     // The content type of a part (name without the leading "/"), "" when none is declared.
     std::string Of(std::string_view partName) const;

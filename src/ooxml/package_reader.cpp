@@ -32,7 +32,7 @@ constexpr std::array<std::string_view, 4> WorkbookContentTypes{
 
 // The workbook is the package's office document; a package that lost that relationship still
 // declares the part by its content type.
-std::string WorkbookPartName(const ZipArchiveReader& archive, const ContentTypes& contentTypes,
+std::string WorkbookPartName(const ZipArchiveReader& archive, const ContentTypeMap& contentTypes,
                              const std::vector<Relationship>& packageRelationships, const std::string& path) {
     std::string partName;
     if (const Relationship* office = FindRelationshipOfType(packageRelationships, "officeDocument")) {
@@ -61,7 +61,7 @@ std::optional<std::string> ReadRelatedPart(const ZipArchiveReader& archive, cons
 
 WorkbookDocument ReadPackage(const std::string& path) {
     const ZipArchiveReader archive(path);
-    const ContentTypes contentTypes(archive);
+    const ContentTypeMap contentTypes(archive);
     const std::vector<Relationship> packageRelationships = ReadRelationships(archive, "");
     const std::string workbookPartName = WorkbookPartName(archive, contentTypes, packageRelationships, path);
     std::optional<std::string> workbookXml = archive.Read(workbookPartName);
