@@ -1,10 +1,10 @@
 // Builds a 100,000 x 10 table through the embedded engine's object model, formats it, saves it,
 // and prints the time of each step and the peak resident memory.
 
+#include "measure.hpp"
+
 #include <excel/embedded.hpp>
 #include <excel/excel.hpp>
-
-#include <sys/resource.h>
 
 #include <chrono>
 #include <cstdio>
@@ -15,16 +15,6 @@ namespace {
 
 constexpr uint32_t rowCount = 100000;
 constexpr int32_t columnCount = 10;
-
-double Seconds(std::chrono::steady_clock::time_point since) {
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - since).count();
-}
-
-double PeakMebibytes() {
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    return static_cast<double>(usage.ru_maxrss) / 1024.0;
-}
 
 }  // namespace
 
@@ -46,8 +36,8 @@ int main(int argc, char** argv) {
         }
         sheet->Range(sheet->Cells(3, column), sheet->Cells(2 + rowCount, column))->SetValue(Variant(std::move(values)));
     }
-    const double writeSeconds = Seconds(writing);
-    const double peakAfterValues = PeakMebibytes();
+    const double writeSeconds = bench::SecondsSince(writing);
+    const double peakAfterValues = bench::PeakResidentMebibytes();
 
     const auto formatting = std::chrono::steady_clock::now();
     auto title = sheet->Range(sheet->Cells(1, 1), sheet->Cells(1, columnCount));
@@ -69,19 +59,19 @@ int main(int argc, char** argv) {
     }
     body->Borders(xlInsideVertical)->SetLineStyle(xlContinuous);
     sheet->Columns()->SetColumnWidth(12);
-    const double formatSeconds = Seconds(formatting);
+    const double formatSeconds = bench::SecondsSince(formatting);
 
     const auto saving = std::chrono::steady_clock::now();
     book->SaveAs(path);
-    const double saveSeconds = Seconds(saving);
+    const double saveSeconds = bench::SecondsSince(saving);
 
     std::printf("cells: %u x %d\n", rowCount, columnCount);
     std::printf("write values: %.3f s\n", writeSeconds);
     std::printf("format:       %.3f s\n", formatSeconds);
     std::printf("save:         %.3f s\n", saveSeconds);
-    std::printf("total:        %.3f s\n", Seconds(start));
-    std::printf("peak RSS:     %.1f MiB (%.1f MiB once the values were written)\n", PeakMebibytes(), peakAfterValues);
-    std::printf("file:         %s (%.1f MiB)\n", path.c_str(),
-                static_cast<double>(std::filesystem::file_size(path)) / (1024.0 * 1024.0));
+    std::printf("total:        %.3f s\n", bench::SecondsSince(start));
+    std::printf("peak RSS:     %.1f MiB (%.1f MiB once the values were written)\n", bench::PeakResidentMebibytes(),
+                peakAfterValues);
+    std::printf("file:         %s (%.1f MiB)\n", path.c_str(), bench::FileMebibytes(path));
     return 0;
 }
