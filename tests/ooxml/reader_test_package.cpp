@@ -20,6 +20,14 @@ std::string FreshPath() {
            ".xlsx";
 }
 
+// A relationships part with the one relationship rId1, of an officeDocument relationship type.
+std::string SingleRelationship(const std::string& type, const std::string& target) {
+    return R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)"
+           R"(<Relationships xmlns="http://schemas.openxmlformats.org/package/2006/relationships">)"
+           R"(<Relationship Id="rId1" Type="http://schemas.openxmlformats.org/officeDocument/2006/relationships/)" +
+           type + R"(" Target=")" + target + R"("/></Relationships>)";
+}
+
 }  // namespace
 
 PackageParts MinimalPackage(const std::string& sheetContent) {
@@ -32,20 +40,12 @@ PackageParts MinimalPackage(const std::string& sheetContent) {
          R"(<Override PartName="/xl/workbook.xml" ContentType="application/vnd.openxmlformats-officedocument.spreadsheetml.sheet.main+xml"/>)"
          R"(<Override PartName="/xl/worksheets/sheet1.xml" ContentType="application/vnd.openxmlformats-officedocument.spreadsheetml.worksheet+xml"/>)"
          R"(</Types>)"},
-        {"_rels/.rels",
-         R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)"
-         R"(<Relationships xmlns="http://schemas.openxmlformats.org/package/2006/relationships">)"
-         R"(<Relationship Id="rId1" Type="http://schemas.openxmlformats.org/officeDocument/2006/relationships/officeDocument" Target="xl/workbook.xml"/>)"
-         R"(</Relationships>)"},
+        {"_rels/.rels", SingleRelationship("officeDocument", "xl/workbook.xml")},
         {"xl/workbook.xml",
          R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)"
          R"(<workbook xmlns="http://schemas.openxmlformats.org/spreadsheetml/2006/main" xmlns:r="http://schemas.openxmlformats.org/officeDocument/2006/relationships">)"
          R"(<sheets><sheet name="Sheet1" sheetId="1" r:id="rId1"/></sheets></workbook>)"},
-        {"xl/_rels/workbook.xml.rels",
-         R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)"
-         R"(<Relationships xmlns="http://schemas.openxmlformats.org/package/2006/relationships">)"
-         R"(<Relationship Id="rId1" Type="http://schemas.openxmlformats.org/officeDocument/2006/relationships/worksheet" Target="worksheets/sheet1.xml"/>)"
-         R"(</Relationships>)"},
+        {"xl/_rels/workbook.xml.rels", SingleRelationship("worksheet", "worksheets/sheet1.xml")},
         {"xl/worksheets/sheet1.xml",
          R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)"
          R"(<worksheet xmlns="http://schemas.openxmlformats.org/spreadsheetml/2006/main" xmlns:r="http://schemas.openxmlformats.org/officeDocument/2006/relationships">)" +

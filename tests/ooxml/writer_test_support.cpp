@@ -22,21 +22,11 @@ uint32_t AddString(WorkbookDocument& document, const std::string& text) {
 }
 
 Cell NumberCell(uint32_t column, double value, uint32_t format = 0) {
-    Cell cell;
-    cell.column = column;
-    cell.number = value;
-    cell.format = format;
-    cell.type = CellType::Number;
-    return cell;
+    return Cell{column, format, 0, NoFormula, value, CellType::Number};
 }
 
 Cell StringCell(uint32_t column, uint32_t string, uint32_t format = 0) {
-    Cell cell;
-    cell.column = column;
-    cell.string = string;
-    cell.format = format;
-    cell.type = CellType::String;
-    return cell;
+    return Cell{column, format, string, NoFormula, 0.0, CellType::String};
 }
 
 }  // namespace
