@@ -10,4 +10,7 @@ namespace ooxml {
 // UTF-16 surrogate pairs become one UTF-8 character; a lone surrogate becomes U+FFFD.
 std::string DecodeEscapedText(std::string_view text);
 
+// Appends a Unicode code point to out in UTF-8.
+void AppendUtf8(std::string& out, char32_t codePoint);
+
 }  // namespace ooxml

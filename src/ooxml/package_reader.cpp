@@ -92,14 +92,15 @@ WorkbookDocument ReadPackage(const std::string& path) {
             sheetPositions.emplace_back();
             continue;
         }
-        std::optional<std::string> xml = archive.Read(relationship->target);
-        if (!xml) {
+        std::optional<ZipEntryReader> part = archive.Open(relationship->target);
+        if (!part) {
             throw PackageError(PackageError::Reason::Corrupt, "Missing worksheet part " + relationship->target);
         }
         SheetDocument& sheet = document.sheets.emplace_back();
         sheet.name = entry.name;
         sheet.state = entry.state;
-        ReadWorksheet(*xml, relationship->target, context, sheet);
+        ReadWorksheet([&](char* buffer, std::size_t size) { return part->Read(buffer, size); }, relationship->target,
+                      context, sheet);
         sheetPositions.emplace_back(static_cast<uint32_t>(document.sheets.size() - 1));
     }
     if (document.sheets.empty()) {

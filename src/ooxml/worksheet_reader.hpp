@@ -1,8 +1,10 @@
 #pragma once
 
 #include "ooxml/workbook_document.hpp"
+#include "ooxml/xml_pull_scanner.hpp"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -15,11 +17,15 @@ struct WorksheetContext {
     StringTableBuilder& strings;  // takes inline strings, formula strings and error values
     uint32_t sharedStringCount;   // entries of the shared string table, the bound of a t="s" value
     uint32_t formatCount;         // cell formats; a style index beyond them means the default format
+
+    // The cell format a style attribute names; nothing when it names none.
+    std::optional<uint32_t> FormatIndex(std::string_view text) const;
 };
 
 // Reads a worksheet part into sheet (whose name and state the workbook gives): cells, rows,
-// columns, merges, the first sheet view, print grid lines and the default sizes. Throws
-// PackageError(Corrupt).
-void ReadWorksheet(std::string& xml, std::string_view partName, const WorksheetContext& context, SheetDocument& sheet);
+// columns, merges, the first sheet view, print grid lines and the default sizes. The part is read
+// from source as it comes, never held whole. Throws PackageError(Corrupt).
+void ReadWorksheet(const XmlByteSource& source, std::string_view partName, const WorksheetContext& context,
+                   SheetDocument& sheet);
 
 }  // namespace ooxml

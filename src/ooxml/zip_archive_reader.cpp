@@ -61,43 +61,41 @@ bool ZipArchiveReader::Contains(std::string_view entryName) const {
     return zip_name_locate(archive_.get(), name.c_str(), ZIP_FL_NOCASE) >= 0;
 }
 
-std::optional<std::string> ZipArchiveReader::Read(std::string_view entryName) const {
+std::optional<ZipEntryReader> ZipArchiveReader::Open(std::string_view entryName) const {
     const std::string name(entryName);
     const zip_int64_t index = zip_name_locate(archive_.get(), name.c_str(), ZIP_FL_NOCASE);
     if (index < 0) {
         return std::nullopt;
     }
-    const auto corrupt = [&](const char* what) {
-        return PackageError(PackageError::Reason::Corrupt, std::string(what) + " " + name + " in " + path_);
-    };
+    zip_file_t* file = zip_fopen_index(archive_.get(), static_cast<zip_uint64_t>(index), 0);
+    if (file == nullptr) {
+        throw PackageError(PackageError::Reason::Corrupt, "Cannot open entry " + name + " in " + path_);
+    }
+    return std::optional<ZipEntryReader>(std::in_place, file, name + " in " + path_);
+}
+
+std::optional<std::size_t> ZipArchiveReader::StatedSize(std::string_view entryName) const {
+    const std::string name(entryName);
     zip_stat_t stat;
     zip_stat_init(&stat);
-    if (zip_stat_index(archive_.get(), static_cast<zip_uint64_t>(index), 0, &stat) != 0) {
-        throw corrupt("Unreadable entry");
+    if (zip_stat(archive_.get(), name.c_str(), ZIP_FL_NOCASE, &stat) != 0 || (stat.valid & ZIP_STAT_SIZE) == 0) {
+        return std::nullopt;
     }
-    std::unique_ptr<zip_file_t, int (*)(zip_file_t*)> file(
-        zip_fopen_index(archive_.get(), static_cast<zip_uint64_t>(index), 0), zip_fclose);
-    if (!file) {
-        throw corrupt("Cannot open entry");
+    return static_cast<std::size_t>(stat.size);
+}
+
+std::optional<std::string> ZipArchiveReader::Read(std::string_view entryName) const {
+    std::optional<ZipEntryReader> entry = Open(entryName);
+    if (!entry) {
+        return std::nullopt;
     }
-    // The size in the directory is only a hint: a hostile file may state anything.
     std::string bytes;
-    if ((stat.valid & ZIP_STAT_SIZE) != 0 && stat.size <= MaxEntrySize) {
-        bytes.reserve(static_cast<std::size_t>(stat.size));
+    if (const std::optional<std::size_t> size = StatedSize(entryName); size && *size <= ZipEntryReader::MaxSize) {
+        bytes.reserve(*size);
     }
     char buffer[64 * 1024];
-    for (;;) {
-        const zip_int64_t count = zip_fread(file.get(), buffer, sizeof buffer);
-        if (count < 0) {
-            throw corrupt("Damaged entry");
-        }
-        if (count == 0) {
-            break;
-        }
-        if (bytes.size() + static_cast<std::size_t>(count) > MaxEntrySize) {
-            throw corrupt("Oversized entry");
-        }
-        bytes.append(buffer, static_cast<std::size_t>(count));
+    while (const std::size_t count = entry->Read(buffer, sizeof buffer)) {
+        bytes.append(buffer, count);
     }
     return bytes;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ooxml/zip_entry_reader.hpp"
+
 #include <cstddef>
 #include <memory>
 #include <optional>
@@ -14,9 +16,6 @@ namespace ooxml {
 // package part names are. Throws PackageError: FileNotFound, AccessDenied, NotAPackage, Corrupt.
 class ZipArchiveReader {
 public:
-    // The largest entry read, uncompressed; a larger one is taken for a zip bomb.
-    static constexpr std::size_t MaxEntrySize = std::size_t{1} << 30;
-
     explicit ZipArchiveReader(const std::string& path);
     ZipArchiveReader(const ZipArchiveReader&) = delete;
     ZipArchiveReader& operator=(const ZipArchiveReader&) = delete;
@@ -25,8 +24,13 @@ public:
     bool Contains(std::string_view entryName) const;
     // The uncompressed bytes of the entry, or nothing when there is no such entry.
     std::optional<std::string> Read(std::string_view entryName) const;
+    // The entry opened to be read piece by piece, or nothing when there is no such entry.
+    std::optional<ZipEntryReader> Open(std::string_view entryName) const;
 
 private:
+    // The entry's size as the directory states it, which a hostile file may have made up.
+    std::optional<std::size_t> StatedSize(std::string_view entryName) const;
+
     struct Closer {
         void operator()(zip* archive) const;
     };
