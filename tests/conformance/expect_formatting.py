@@ -69,6 +69,10 @@ def check_borders(x, sheet):
             x.side(sheet, address, side_name, style, color)
     x.side(sheet, "F2", "bottom", "double", ("rgb", "FFFF0000"))
     x.side(sheet, "F2", "top", None)
+    # An edge is stored in the block's own cells only, as Excel files it.
+    for address, side_name in (("E3", "left"), ("C5", "top"), ("A3", "right"), ("C1", "bottom"), ("F3", "top"),
+                               ("G8", "left")):
+        x.side(sheet, address, side_name, None)
     x.side(sheet, "F4", "left", "thick")
     x.side(sheet, "F6", "top", "hair")
     x.side(sheet, "F8", "right", "mediumDashDot")

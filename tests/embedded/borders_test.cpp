@@ -11,17 +11,55 @@ TEST_F(EngineTest, EdgeBordersActOnTheOuterEdgesOnly) {
     EXPECT_EQ(block->Borders(xlEdgeBottom)->LineStyle(), Variant(xlLineStyleNone));
 }
 
-TEST_F(EngineTest, EdgeAlsoSetsTheNeighboursTouchingSide) {
-    At("B2:D4")->Borders(xlEdgeBottom)->SetWeight(xlMedium);
-    EXPECT_EQ(At("C5")->Borders(xlEdgeTop)->Weight(), Variant(xlMedium));
-    EXPECT_EQ(At("C5")->Borders(xlEdgeTop)->LineStyle(), Variant(xlContinuous));
-    At("B2:D4")->Borders(xlEdgeBottom)->SetLineStyle(xlLineStyleNone);
-    EXPECT_EQ(At("C5")->Borders(xlEdgeTop)->LineStyle(), Variant(xlLineStyleNone));
+TEST_F(EngineTest, EdgesStoreNoCellOutsideTheBlock) {
+    auto block = At("B2:D4");
+    for (int32_t edge : {xlEdgeLeft, xlEdgeTop, xlEdgeBottom, xlEdgeRight}) {
+        block->Borders(edge)->SetLineStyle(xlContinuous);
+    }
+    EXPECT_EQ(sheet->UsedRange()->Address(), "$B$2:$D$4");
+}
+
+TEST_F(EngineTest, EdgeReadsTheTouchingSideOfTheCellOutside) {
+    At("A1")->Borders(xlEdgeBottom)->SetWeight(xlMedium);
+    EXPECT_EQ(At("A2")->Borders(xlEdgeTop)->LineStyle(), Variant(xlContinuous));
+    EXPECT_EQ(At("A2")->Borders(xlEdgeTop)->Weight(), Variant(xlMedium));
+    EXPECT_EQ(At("A2:A3")->Borders(xlEdgeTop)->Weight(), Variant(xlMedium));
+    EXPECT_EQ(At("A3")->Borders(xlEdgeTop)->LineStyle(), Variant(xlLineStyleNone));
+}
+
+TEST_F(EngineTest, EdgeSetLastWinsOnTheSharedLine) {
+    At("A1")->Borders(xlEdgeBottom)->SetLineStyle(xlContinuous);
+    At("A2")->Borders(xlEdgeTop)->SetLineStyle(xlDouble);
+    EXPECT_EQ(At("A1")->Borders(xlEdgeBottom)->LineStyle(), Variant(xlDouble));
+    EXPECT_EQ(At("A2")->Borders(xlEdgeTop)->LineStyle(), Variant(xlDouble));
+}
+
+TEST_F(EngineTest, EdgeColouredKeepsTheStyleTheCellOutsideShowed) {
+    At("C3")->Borders(xlEdgeRight)->SetWeight(xlThick);
+    At("D3")->Borders(xlEdgeLeft)->SetColor(0x0000FF);
+    EXPECT_EQ(At("C3")->Borders(xlEdgeRight)->Weight(), Variant(xlThick));
+    EXPECT_EQ(At("C3")->Borders(xlEdgeRight)->Color(), Variant(static_cast<double>(0x0000FF)));
+}
+
+TEST_F(EngineTest, EdgeClearedRemovesTheLineOfTheCellOutside) {
+    At("A1")->Borders(xlEdgeBottom)->SetLineStyle(xlContinuous);
+    At("A2")->Borders(xlEdgeTop)->SetLineStyle(xlLineStyleNone);
+    EXPECT_EQ(At("A1")->Borders(xlEdgeBottom)->LineStyle(), Variant(xlLineStyleNone));
+    EXPECT_EQ(At("A2")->Borders(xlEdgeTop)->LineStyle(), Variant(xlLineStyleNone));
+}
+
+TEST_F(EngineTest, EdgeReadsNullWhereTheLineDiffersAlongIt) {
+    At("B2:B4")->Borders(xlEdgeRight)->SetLineStyle(xlContinuous);
+    At("C3")->Borders(xlEdgeLeft)->SetLineStyle(xlDash);
+    EXPECT_TRUE(At("B2:B4")->Borders(xlEdgeRight)->LineStyle().IsNull());
+    EXPECT_TRUE(At("C2:C4")->Borders(xlEdgeLeft)->LineStyle().IsNull());
+    EXPECT_EQ(At("C3")->Borders(xlEdgeLeft)->LineStyle(), Variant(xlDash));
 }
 
 TEST_F(EngineTest, InsideLinesAreBetweenTheCells) {
     auto block = At("B2:D4");
     block->Borders(xlInsideHorizontal)->SetLineStyle(xlDash);
+    EXPECT_EQ(sheet->UsedRange()->Address(), "$B$2:$D$4");
     EXPECT_EQ(At("C2")->Borders(xlEdgeBottom)->LineStyle(), Variant(xlDash));
     EXPECT_EQ(At("C3")->Borders(xlEdgeTop)->LineStyle(), Variant(xlDash));
     EXPECT_EQ(At("C4")->Borders(xlEdgeBottom)->LineStyle(), Variant(xlLineStyleNone));
@@ -83,5 +121,12 @@ TEST_F(EngineTest, WholeColumnBorderDoesNotMaterialiseCells) {
     sheet->Columns(2)->Borders(xlEdgeLeft)->SetLineStyle(xlContinuous);
     EXPECT_EQ(At("B1000000")->Borders(xlEdgeLeft)->LineStyle(), Variant(xlContinuous));
     EXPECT_EQ(At("A1000000")->Borders(xlEdgeRight)->LineStyle(), Variant(xlContinuous));
+    EXPECT_EQ(sheet->UsedRange()->Address(), "$A$1");
+}
+
+TEST_F(EngineTest, WholeRowEdgeStoresNoCellBelow) {
+    sheet->Rows(3)->Borders(xlEdgeBottom)->SetLineStyle(xlContinuous);
+    EXPECT_EQ(At("XFD4")->Borders(xlEdgeTop)->LineStyle(), Variant(xlContinuous));
+    EXPECT_EQ(sheet->Rows(4)->Borders(xlEdgeTop)->LineStyle(), Variant(xlContinuous));
     EXPECT_EQ(sheet->UsedRange()->Address(), "$A$1");
 }

@@ -6,7 +6,10 @@
 
 #include <excel/constants.hpp>
 
+#include <algorithm>
+#include <optional>
 #include <string_view>
+#include <utility>
 
 namespace excel::embedded {
 
@@ -14,7 +17,8 @@ namespace {
 
 enum class Side { Left, Right, Top, Bottom, Diagonal };
 
-ooxml::BorderLine& LineOf(ooxml::Border& border, Side side) {
+template <class Border>
+auto& LineOf(Border& border, Side side) {
     switch (side) {
         case Side::Left:
             return border.left;
@@ -36,17 +40,19 @@ struct SidePart {
     Side side;
 };
 
-// Where a border index lives in the cells: what is read, and what is written (the block's own
-// sides plus the touching sides of neighbouring cells, so every viewer draws the line).
+// Where a border index lives in the cells. An edge is stored in the block's own cells only, as
+// Excel files it; the touching sides of the neighbours outside the block show the same line where
+// the block's own side is unset, and lose theirs when the edge is set or cleared.
 struct BorderPlacement {
     std::vector<SidePart> read;
     std::vector<SidePart> write;
+    std::optional<SidePart> outside;
 };
 
 BorderPlacement Place(const CellBlock& b, int32_t index) {
     BorderPlacement placement;
-    auto add = [&](bool valid, CellBlock block, Side side, bool readToo) {
-        if (!valid || block.top > block.bottom || block.left > block.right) {
+    auto add = [&](CellBlock block, Side side, bool readToo) {
+        if (block.top > block.bottom || block.left > block.right) {
             return;
         }
         placement.write.push_back({block, side});
@@ -54,43 +60,78 @@ BorderPlacement Place(const CellBlock& b, int32_t index) {
             placement.read.push_back({block, side});
         }
     };
+    auto edge = [&](CellBlock own, Side side, bool neighbourInSheet, CellBlock neighbours, Side touching) {
+        add(own, side, true);
+        if (neighbourInSheet) {
+            placement.outside = SidePart{neighbours, touching};
+        }
+    };
     // Inside lines of a block spanning the whole sheet in that direction stay whole rows/columns.
     const bool allRows = b.top == 1 && b.bottom == MaxRow;
     const bool allColumns = b.left == 1 && b.right == MaxColumn;
     switch (index) {
         case xlEdgeTop:
-            add(true, {b.top, b.left, b.top, b.right}, Side::Top, true);
-            add(b.top > 1, {b.top - 1, b.left, b.top - 1, b.right}, Side::Bottom, false);
+            edge({b.top, b.left, b.top, b.right}, Side::Top, b.top > 1, {b.top - 1, b.left, b.top - 1, b.right},
+                 Side::Bottom);
             break;
         case xlEdgeBottom:
-            add(true, {b.bottom, b.left, b.bottom, b.right}, Side::Bottom, true);
-            add(b.bottom < MaxRow, {b.bottom + 1, b.left, b.bottom + 1, b.right}, Side::Top, false);
+            edge({b.bottom, b.left, b.bottom, b.right}, Side::Bottom, b.bottom < MaxRow,
+                 {b.bottom + 1, b.left, b.bottom + 1, b.right}, Side::Top);
             break;
         case xlEdgeLeft:
-            add(true, {b.top, b.left, b.bottom, b.left}, Side::Left, true);
-            add(b.left > 1, {b.top, b.left - 1, b.bottom, b.left - 1}, Side::Right, false);
+            edge({b.top, b.left, b.bottom, b.left}, Side::Left, b.left > 1, {b.top, b.left - 1, b.bottom, b.left - 1},
+                 Side::Right);
             break;
         case xlEdgeRight:
-            add(true, {b.top, b.right, b.bottom, b.right}, Side::Right, true);
-            add(b.right < MaxColumn, {b.top, b.right + 1, b.bottom, b.right + 1}, Side::Left, false);
+            edge({b.top, b.right, b.bottom, b.right}, Side::Right, b.right < MaxColumn,
+                 {b.top, b.right + 1, b.bottom, b.right + 1}, Side::Left);
             break;
         case xlInsideHorizontal:
             if (b.Rows() > 1) {
-                add(true, allRows ? b : CellBlock{b.top, b.left, b.bottom - 1, b.right}, Side::Bottom, true);
-                add(true, allRows ? b : CellBlock{b.top + 1, b.left, b.bottom, b.right}, Side::Top, false);
+                add(allRows ? b : CellBlock{b.top, b.left, b.bottom - 1, b.right}, Side::Bottom, true);
+                add(allRows ? b : CellBlock{b.top + 1, b.left, b.bottom, b.right}, Side::Top, false);
             }
             break;
         case xlInsideVertical:
             if (b.Columns() > 1) {
-                add(true, allColumns ? b : CellBlock{b.top, b.left, b.bottom, b.right - 1}, Side::Right, true);
-                add(true, allColumns ? b : CellBlock{b.top, b.left + 1, b.bottom, b.right}, Side::Left, false);
+                add(allColumns ? b : CellBlock{b.top, b.left, b.bottom, b.right - 1}, Side::Right, true);
+                add(allColumns ? b : CellBlock{b.top, b.left + 1, b.bottom, b.right}, Side::Left, false);
             }
             break;
         default:
-            add(true, b, Side::Diagonal, true);
+            add(b, Side::Diagonal, true);
             break;
     }
     return placement;
+}
+
+// The distinct pairs of formats shown by a line of cells (one row or one column) and the parallel
+// line of cells it touches, found without visiting the empty rows of a column.
+std::vector<std::pair<uint32_t, uint32_t>> FacingFormats(const WorksheetModel& sheet, const CellBlock& line,
+                                                         const CellBlock& facing) {
+    std::vector<std::pair<uint32_t, uint32_t>> found;
+    auto add = [&](uint32_t own, uint32_t touching) {
+        const std::pair<uint32_t, uint32_t> pair{own, touching};
+        if (std::find(found.begin(), found.end(), pair) == found.end()) {
+            found.push_back(pair);
+        }
+    };
+    const int32_t columnStep = facing.left - line.left;
+    if (line.Rows() == 1) {
+        for (int32_t column = line.left; column <= line.right; ++column) {
+            add(sheet.ResolvedFormat(line.top, column), sheet.ResolvedFormat(facing.top, column + columnStep));
+        }
+        return found;
+    }
+    const auto [first, last] = sheet.Cells().RowSpan(line.top, line.bottom);
+    if (static_cast<int64_t>(last - first) < line.Rows()) {
+        add(sheet.Columns().Get(line.left).format, sheet.Columns().Get(facing.left).format);
+    }
+    for (size_t i = first; i < last; ++i) {
+        const int32_t row = sheet.Cells().Rows()[i].index;
+        add(sheet.ResolvedFormat(row, line.left), sheet.ResolvedFormat(row, facing.left));
+    }
+    return found;
 }
 
 constexpr int32_t diagonalDown = xlDiagonalDown;
@@ -194,12 +235,24 @@ std::shared_ptr<excel::Border> BordersView::Item(int32_t index) {
 template <class Project>
 Variant BordersView::read(Project&& project) {
     WorkbookModel& book = cells_.Book();
+    const FormatTable& formats = book.Formats();
     std::vector<ooxml::BorderLine> lines;
     for (const CellBlock& area : cells_.areas) {
         for (int32_t index : indices_) {
-            for (const SidePart& part : Place(area, index).read) {
+            const BorderPlacement placement = Place(area, index);
+            if (placement.outside) {
+                // An edge shows the block's own side, else the touching side of the cell outside.
+                const SidePart& own = placement.read.front();
+                for (const auto& [ownId, touchingId] : FacingFormats(*cells_.sheet, own.block, placement.outside->block)) {
+                    const ooxml::BorderLine& line = LineOf(formats.Get(ownId).border, own.side);
+                    lines.push_back(line.style.empty() ? LineOf(formats.Get(touchingId).border, placement.outside->side)
+                                                       : line);
+                }
+                continue;
+            }
+            for (const SidePart& part : placement.read) {
                 for (uint32_t id : cells_.sheet->DistinctFormats(part.block)) {
-                    ooxml::Border border = book.Formats().Get(id).border;
+                    const ooxml::Border& border = formats.Get(id).border;
                     const bool diagonalShown = index == diagonalDown ? border.diagonalDown : border.diagonalUp;
                     lines.push_back(part.side == Side::Diagonal && !diagonalShown ? ooxml::BorderLine{}
                                                                                   : LineOf(border, part.side));
@@ -209,6 +262,46 @@ Variant BordersView::read(Project&& project) {
     }
     return CommonValue(lines, [&](const ooxml::BorderLine& line) { return project(line, book.Palette()); });
 }
+
+namespace {
+
+// Where an edge's own side is unset and the stored cell outside shows the line, the edge starts
+// from that line, so changing only its colour keeps the style and weight it showed.
+void AdoptTouchingLines(WorksheetModel& sheet, FormatTable& formats, const SidePart& own, const SidePart& outside) {
+    struct Adopted {
+        int32_t row;
+        int32_t column;
+        ooxml::BorderLine line;
+    };
+    std::vector<Adopted> adopted;
+    const int32_t rowStep = own.block.top - outside.block.top;
+    const int32_t columnStep = own.block.left - outside.block.left;
+    sheet.ForEachStoredCell(outside.block, [&](int32_t row, Cell& cell) {
+        const ooxml::BorderLine& line = LineOf(formats.Get(cell.format).border, outside.side);
+        if (!line.style.empty()) {
+            adopted.push_back({row + rowStep, cell.column + columnStep, line});
+        }
+    });
+    for (const Adopted& position : adopted) {
+        FormatChange adopt(formats, [&](ooxml::CellFormat& format) {
+            ooxml::BorderLine& line = LineOf(format.border, own.side);
+            if (line.style.empty()) {
+                line = position.line;
+            }
+        });
+        sheet.ApplyFormat({position.row, position.column, position.row, position.column}, adopt);
+    }
+}
+
+// The last write wins on a shared line: the stored cells outside lose their touching side. A side
+// that only a row or column format of theirs carries stays, because clearing it would turn every
+// such position into a cell of its own.
+void ClearTouchingSides(WorksheetModel& sheet, FormatTable& formats, const SidePart& outside) {
+    FormatChange clear(formats, [&](ooxml::CellFormat& format) { LineOf(format.border, outside.side) = {}; });
+    sheet.ForEachStoredCell(outside.block, [&](int32_t, Cell& cell) { cell.format = clear.Apply(cell.format); });
+}
+
+}  // namespace
 
 void BordersView::edit(const std::function<void(ooxml::BorderLine&)>& editLine) {
     WorkbookModel& book = cells_.Book();
@@ -224,8 +317,15 @@ void BordersView::edit(const std::function<void(ooxml::BorderLine&)>& editLine) 
             });
         }
         for (const CellBlock& area : cells_.areas) {
-            for (const SidePart& part : Place(area, index).write) {
+            const BorderPlacement placement = Place(area, index);
+            if (placement.outside) {
+                AdoptTouchingLines(*cells_.sheet, book.Formats(), placement.write.front(), *placement.outside);
+            }
+            for (const SidePart& part : placement.write) {
                 cells_.sheet->ApplyFormat(part.block, changes[static_cast<size_t>(part.side)]);
+            }
+            if (placement.outside) {
+                ClearTouchingSides(*cells_.sheet, book.Formats(), *placement.outside);
             }
         }
     }
