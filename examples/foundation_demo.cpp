@@ -90,8 +90,8 @@ void WriteHeader(excel::Worksheet& sheet) {
     header->Cells(1, 1)->SetIndentLevel(1);
     header->SetRowHeight(20);
     header->SetVerticalAlignment(excel::xlCenter);
-    header->Borders(excel::xlEdgeTop)->SetLineStyle(excel::xlContinuous);
-    header->Borders(excel::xlEdgeTop)->SetColor(kLineGrey);
+    header->Borders()->SetLineStyle(excel::xlContinuous);
+    header->Borders()->SetColor(kLineGrey);
     header->Borders(excel::xlEdgeBottom)->SetWeight(excel::xlMedium);
     header->Borders(excel::xlEdgeBottom)->SetColor(kTitleBlue);
 }
@@ -113,6 +113,10 @@ void WriteFigures(excel::Worksheet& sheet) {
     auto table = sheet.Range(Block('A', kFirstDataRow, 'F', kLastDataRow));
     table->Borders(excel::xlInsideHorizontal)->SetLineStyle(excel::xlContinuous);
     table->Borders(excel::xlInsideHorizontal)->SetColor(kLineGrey);
+    table->Borders(excel::xlEdgeLeft)->SetLineStyle(excel::xlContinuous);
+    table->Borders(excel::xlEdgeLeft)->SetColor(kLineGrey);
+    table->Borders(excel::xlEdgeRight)->SetLineStyle(excel::xlContinuous);
+    table->Borders(excel::xlEdgeRight)->SetColor(kLineGrey);
     sheet.Range(Block('B', kFirstDataRow, 'F', kTotalRow))->SetNumberFormat("#,##0.0");
     sheet.Range(Block('A', kFirstDataRow, 'A', kLastDataRow))->SetIndentLevel(1);
 }
@@ -126,8 +130,7 @@ void WriteTotals(excel::Worksheet& sheet) {
     }
     totals->Font()->SetBold(true);
     totals->Interior()->SetColor(kTotalGrey);
-    totals->Borders(excel::xlEdgeBottom)->SetLineStyle(excel::xlContinuous);
-    totals->Borders(excel::xlEdgeBottom)->SetColor(kLineGrey);
+    totals->BorderAround(excel::xlContinuous, excel::xlThin, excel::xlColorIndexAutomatic, kLineGrey);
     totals->Borders(excel::xlEdgeTop)->SetLineStyle(excel::xlDouble);
     totals->Borders(excel::xlEdgeTop)->SetColor(kTitleBlue);
 }
