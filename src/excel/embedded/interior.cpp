@@ -2,11 +2,11 @@
 
 #include "excel/embedded/color_model.hpp"
 #include "excel/embedded/common_value.hpp"
+#include "excel/embedded/constant_names.hpp"
 #include "excel/embedded/engine_errors.hpp"
 
 #include <excel/constants.hpp>
 
-#include <array>
 #include <string_view>
 #include <utility>
 
@@ -17,7 +17,7 @@ namespace {
 constexpr uint32_t white = 0xFFFFFF;
 
 // Excel's XlPattern values and the file's pattern types.
-constexpr std::array<std::pair<int32_t, std::string_view>, 18> patterns{{
+constexpr ConstantNames<18> patterns{{
     {xlPatternSolid, "solid"},
     {xlPatternGray50, "mediumGray"},
     {xlPatternGray75, "darkGray"},
@@ -148,12 +148,7 @@ void InteriorView::SetTintAndShade(double tint) {
 
 Variant InteriorView::Pattern() {
     return read([](const ooxml::Fill& fill, const Palette&) {
-        for (const auto& [pattern, type] : patterns) {
-            if (fill.patternType == type) {
-                return Variant(pattern);
-            }
-        }
-        return Variant(xlPatternNone);
+        return Variant(ConstantOf(patterns, fill.patternType, xlPatternNone));
     });
 }
 
@@ -163,11 +158,8 @@ void InteriorView::SetPattern(int32_t pattern) {
         type = "none";
     } else if (pattern == xlPatternAutomatic) {
         type = "solid";
-    }
-    for (const auto& [value, name] : patterns) {
-        if (value == pattern) {
-            type = name;
-        }
+    } else if (const std::string_view* name = NameOf(patterns, pattern)) {
+        type = *name;
     }
     if (type.empty()) {
         ThrowRefused("Unable to set the Pattern property of the Interior class");

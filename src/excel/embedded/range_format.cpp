@@ -1,14 +1,13 @@
 #include "excel/embedded/range.hpp"
 
 #include "excel/embedded/common_value.hpp"
+#include "excel/embedded/constant_names.hpp"
 #include "excel/embedded/engine_errors.hpp"
 
 #include <excel/constants.hpp>
 
-#include <array>
 #include <set>
 #include <string_view>
-#include <utility>
 
 namespace excel::embedded {
 
@@ -16,7 +15,7 @@ namespace {
 
 constexpr int32_t verticalTextRotation = 255;
 
-constexpr std::array<std::pair<int32_t, std::string_view>, 8> horizontalAlignments{{
+constexpr ConstantNames<8> horizontalAlignments{{
     {xlGeneral, ""},
     {xlLeft, "left"},
     {xlCenter, "center"},
@@ -27,33 +26,13 @@ constexpr std::array<std::pair<int32_t, std::string_view>, 8> horizontalAlignmen
     {xlDistributed, "distributed"},
 }};
 
-constexpr std::array<std::pair<int32_t, std::string_view>, 5> verticalAlignments{{
+constexpr ConstantNames<5> verticalAlignments{{
     {xlBottom, ""},
     {xlTop, "top"},
     {xlCenter, "center"},
     {xlJustify, "justify"},
     {xlDistributed, "distributed"},
 }};
-
-template <size_t N>
-int32_t ConstantOf(const std::array<std::pair<int32_t, std::string_view>, N>& table, std::string_view text) {
-    for (const auto& [constant, name] : table) {
-        if (name == text) {
-            return constant;
-        }
-    }
-    return table[0].first;
-}
-
-template <size_t N>
-const std::string_view* NameOf(const std::array<std::pair<int32_t, std::string_view>, N>& table, int32_t constant) {
-    for (const auto& entry : table) {
-        if (entry.first == constant) {
-            return &entry.second;
-        }
-    }
-    return nullptr;
-}
 
 bool WholeRows(const CellBlock& block) {
     return block.left == 1 && block.right == MaxColumn;
@@ -92,7 +71,7 @@ void RangeView::SetNumberFormatLocal(const std::string& format) {
 
 Variant RangeView::HorizontalAlignment() {
     return readFormat([](const ooxml::CellFormat& format) {
-        return Variant(ConstantOf(horizontalAlignments, format.alignment.horizontal));
+        return Variant(ConstantOf(horizontalAlignments, format.alignment.horizontal, xlGeneral));
     });
 }
 
@@ -107,7 +86,7 @@ void RangeView::SetHorizontalAlignment(int32_t alignment) {
 
 Variant RangeView::VerticalAlignment() {
     return readFormat([](const ooxml::CellFormat& format) {
-        return Variant(ConstantOf(verticalAlignments, format.alignment.vertical));
+        return Variant(ConstantOf(verticalAlignments, format.alignment.vertical, xlBottom));
     });
 }
 
