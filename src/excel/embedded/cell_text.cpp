@@ -1,5 +1,6 @@
 #include "excel/embedded/cell_text.hpp"
 
+#include "excel/embedded/cell_content.hpp"
 #include "excel/embedded/general_format.hpp"
 #include "excel/embedded/number_format_kind.hpp"
 #include "excel/embedded/text_entry.hpp"
@@ -8,6 +9,8 @@
 
 #include <cmath>
 #include <cstdint>
+#include <string>
+#include <variant>
 
 namespace excel::embedded {
 
@@ -178,23 +181,14 @@ std::string FormatNumber(double value, std::string_view numberFormat) {
 }
 
 std::string DisplayText(const Cell* cell, std::string_view numberFormat, const StringPool& strings) {
-    if (cell == nullptr) {
-        return {};
-    }
-    switch (cell->kind) {
-        case CellKind::Blank:
-        case CellKind::Formula:
-            return {};
-        case CellKind::Text:
-            return strings.Get(cell->text).text;
-        case CellKind::Boolean:
-            return cell->number != 0.0 ? "TRUE" : "FALSE";
-        case CellKind::Error:
-            return ErrorTextFromNumber(cell->error);
-        case CellKind::Number:
-            break;
-    }
-    return FormatNumber(cell->number, numberFormat);
+    return std::visit(ContentVisitor{
+                          [](std::monostate) { return std::string(); },
+                          [](bool value) { return std::string(value ? "TRUE" : "FALSE"); },
+                          [](std::string_view text) { return std::string(text); },
+                          [](CellError error) { return ErrorTextFromNumber(error.number); },
+                          [&](double number) { return FormatNumber(number, numberFormat); },
+                      },
+                      ContentOf(cell, strings));
 }
 
 }  // namespace excel::embedded

@@ -1,5 +1,6 @@
 #include "excel/embedded/cell_value.hpp"
 
+#include "excel/embedded/cell_content.hpp"
 #include "excel/embedded/general_format.hpp"
 #include "excel/embedded/text_entry.hpp"
 
@@ -7,6 +8,8 @@
 #include <excel/safe_array.hpp>
 
 #include <cmath>
+#include <string>
+#include <variant>
 
 namespace excel::embedded {
 
@@ -155,32 +158,28 @@ NumberFormatKind CellValueReader::kindOf(uint32_t format) {
 }
 
 Variant CellValueReader::Read(const Cell* cell) {
-    if (cell == nullptr) {
-        return {};
-    }
-    switch (cell->kind) {
-        case CellKind::Blank:
-        case CellKind::Formula:
-            return {};
-        case CellKind::Boolean:
-            return Variant(cell->number != 0.0);
-        case CellKind::Text:
-            return Variant(book_.Strings().Get(cell->text).text);
-        case CellKind::Error:
-            return Variant(ErrorValue{ErrorValueCode(cell->error)});
-        case CellKind::Number:
-            break;
-    }
+    return std::visit(ContentVisitor{
+                          [](std::monostate) { return Variant(); },
+                          [](bool value) { return Variant(value); },
+                          [](std::string_view text) { return Variant(std::string(text)); },
+                          [](CellError error) { return Variant(ErrorValue{ErrorValueCode(error.number)}); },
+                          [&](double number) { return readNumber(cell->format, number); },
+                      },
+                      ContentOf(cell, book_.Strings()));
+}
+
+// A number as Range.Value reads it: under a date or currency format, converted.
+Variant CellValueReader::readNumber(uint32_t format, double number) {
     if (convertDates_) {
-        const NumberFormatKind kind = kindOf(cell->format);
+        const NumberFormatKind kind = kindOf(format);
         if (kind == NumberFormatKind::Date) {
-            return Variant(Date{cell->number});
+            return Variant(Date{number});
         }
         if (kind == NumberFormatKind::Currency) {
-            return Variant(Currency{static_cast<int64_t>(std::llround(cell->number * 10000.0))});
+            return Variant(Currency{static_cast<int64_t>(std::llround(number * 10000.0))});
         }
     }
-    return Variant(cell->number);
+    return Variant(number);
 }
 
 Variant CellValueReader::ReadFormula(const Cell* cell) {

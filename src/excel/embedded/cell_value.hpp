@@ -43,6 +43,7 @@ public:
 
 private:
     NumberFormatKind kindOf(uint32_t format);
+    Variant readNumber(uint32_t format, double number);
 
     const WorkbookModel& book_;
     bool convertDates_;

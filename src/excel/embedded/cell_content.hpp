@@ -1,0 +1,47 @@
+#pragma once
+
+#include "excel/embedded/cell.hpp"
+#include "excel/embedded/string_pool.hpp"
+
+#include <cstdint>
+#include <string_view>
+#include <variant>
+
+namespace excel::embedded {
+
+// An error a cell holds, by the engine's error number.
+struct CellError {
+    int32_t number;
+};
+
+// What a cell holds as its value: nothing (no cell, a blank, or a formula, whose result is not
+// kept), a logical, text, an error or a number. Range.Value and Range.Text both start from it.
+using CellContent = std::variant<std::monostate, bool, std::string_view, CellError, double>;
+
+inline CellContent ContentOf(const Cell* cell, const StringPool& strings) {
+    if (cell == nullptr) {
+        return {};
+    }
+    switch (cell->kind) {
+        case CellKind::Blank:
+        case CellKind::Formula:
+            return {};
+        case CellKind::Text:
+            return std::string_view(strings.Get(cell->text).text);
+        case CellKind::Boolean:
+            return cell->number != 0.0;
+        case CellKind::Error:
+            return CellError{cell->error};
+        case CellKind::Number:
+            break;
+    }
+    return cell->number;
+}
+
+// Visits a CellContent with one lambda per kind of content.
+template <class... Visit>
+struct ContentVisitor : Visit... {
+    using Visit::operator()...;
+};
+
+}  // namespace excel::embedded
