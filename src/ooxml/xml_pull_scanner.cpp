@@ -12,7 +12,6 @@ namespace ooxml {
 namespace {
 
 constexpr std::size_t InitialBufferSize = 64 * 1024;
-constexpr std::string_view Blanks = " \t\r\n";
 constexpr std::string_view CdataStart = "<![CDATA[";
 constexpr std::string_view CdataEnd = "]]>";
 constexpr std::size_t LongestEntity = 12;  // "&#x0010FFFF;"
@@ -40,8 +39,17 @@ std::string_view LocalPart(std::string_view name) {
     return colon == std::string_view::npos ? name : name.substr(colon + 1);
 }
 
-bool IsBlank(std::string_view text) {
-    return text.find_first_not_of(Blanks) == std::string_view::npos;
+// Blanks are skipped by hand: find_first_not_of looks each character up in the set with memchr,
+// which made up a sixth of the time spent reading a large sheet.
+bool IsBlank(char c) {
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
+
+std::size_t SkipBlanks(std::string_view text, std::size_t at) {
+    while (at < text.size() && IsBlank(text[at])) {
+        ++at;
+    }
+    return at < text.size() ? at : std::string_view::npos;
 }
 
 // Appends the character of the reference at the front of text ("&amp;", "&#10;", "&#x41;") and
@@ -175,7 +183,7 @@ std::string_view XmlPullScanner::Take(std::size_t length) {
 // The text with its entities decoded and its line ends made "\n"; the view lasts until the next
 // token, as decoded_ was reserved to hold all of the token's decoded text.
 std::string_view XmlPullScanner::Decode(std::string_view raw) {
-    if (raw.find_first_of("&\r") == std::string_view::npos) {
+    if (std::none_of(raw.begin(), raw.end(), [](char c) { return c == '&' || c == '\r'; })) {
         return raw;
     }
     const std::size_t start = decoded_.size();
@@ -217,14 +225,13 @@ void XmlPullScanner::ScanStartTag(std::string_view tag) {
     decoded_.clear();
     decoded_.reserve(inner.size());
     for (;;) {
-        const std::size_t start = inner.find_first_not_of(Blanks, at);
+        const std::size_t start = SkipBlanks(inner, at);
         if (start == std::string_view::npos) {
             break;
         }
         const std::size_t nameLength = start > at ? NameLength(inner.substr(start)) : 0;
-        const std::size_t equals = inner.find_first_not_of(Blanks, start + nameLength);
-        const std::size_t quote =
-            equals == std::string_view::npos ? equals : inner.find_first_not_of(Blanks, equals + 1);
+        const std::size_t equals = SkipBlanks(inner, start + nameLength);
+        const std::size_t quote = equals == std::string_view::npos ? equals : SkipBlanks(inner, equals + 1);
         if (nameLength == 0 || equals == std::string_view::npos || inner[equals] != '=' ||
             quote == std::string_view::npos || (inner[quote] != '"' && inner[quote] != '\'')) {
             ThrowCorrupt("a malformed attribute");
@@ -244,7 +251,9 @@ void XmlPullScanner::ScanStartTag(std::string_view tag) {
 
 void XmlPullScanner::ScanEndTag(std::string_view tag) {
     std::string_view name = tag.substr(2, tag.size() - 3);
-    name = name.substr(0, name.find_last_not_of(Blanks) + 1);
+    while (!name.empty() && IsBlank(name.back())) {
+        name.remove_suffix(1);
+    }
     if (openStarts_.empty() || std::string_view(openNames_).substr(openStarts_.back()) != name) {
         ThrowCorrupt("an end tag that matches no start tag");
     }
@@ -316,7 +325,7 @@ XmlPullScanner::Token XmlPullScanner::Next() {
         const std::size_t length = Find("<", 0);
         const std::string_view raw = Take(length == std::string_view::npos ? end_ - begin_ : length);
         if (openStarts_.empty()) {
-            if (!IsBlank(raw)) {
+            if (!std::all_of(raw.begin(), raw.end(), IsBlank)) {
                 ThrowCorrupt("text outside the root element");
             }
             continue;
