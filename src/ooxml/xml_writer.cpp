@@ -1,7 +1,9 @@
 #include "ooxml/xml_writer.hpp"
 
+#include <charconv>
 #include <cmath>
 #include <cstring>
+#include <system_error>
 
 namespace ooxml {
 
@@ -9,6 +11,8 @@ namespace {
 
 constexpr std::size_t kBufferSize = 64 * 1024;
 constexpr std::string_view kReplacementCharacter = "\xEF\xBF\xBD";
+// Longest positional number written; longer ones ("1e-300") are written with an exponent.
+constexpr std::ptrdiff_t kPositionalNumberLimit = 20;
 
 bool IsHexDigit(char c) {
     return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
@@ -194,8 +198,13 @@ void XmlWriter::PutNumber(double value) {
     } else if (std::isinf(value)) {
         Put(value > 0 ? "INF" : "-INF");
     } else {
+        // The shortest form that reads back as the same double, written positionally when that is
+        // not much longer: "400000" rather than "4e+05", which readers take for a fraction.
         char digits[32];
-        auto end = std::to_chars(digits, digits + sizeof digits, value).ptr;
+        auto [end, error] = std::to_chars(digits, digits + kPositionalNumberLimit, value, std::chars_format::fixed);
+        if (error != std::errc{}) {
+            end = std::to_chars(digits, digits + sizeof digits, value).ptr;
+        }
         Put(std::string_view(digits, static_cast<std::size_t>(end - digits)));
     }
 }
