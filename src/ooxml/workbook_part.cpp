@@ -1,5 +1,7 @@
 #include "ooxml/workbook_part.hpp"
 
+#include "ooxml/external_workbook_references.hpp"
+
 #include <algorithm>
 
 namespace ooxml {
@@ -55,7 +57,7 @@ void WriteDefinedNames(XmlWriter& xml, const std::vector<DefinedName>& names) {
         if (name.hidden) {
             xml.Attribute("hidden", "1");
         }
-        xml.Text(name.formula);
+        xml.Text(WithoutExternalWorkbookReferences(name.formula));
         xml.EndElement();
     }
     xml.EndElement();

@@ -1,5 +1,6 @@
 #include "ooxml/worksheet_part.hpp"
 
+#include "ooxml/external_workbook_references.hpp"
 #include "ooxml/package_error.hpp"
 
 #include <algorithm>
@@ -247,7 +248,7 @@ private:
             xml_.AttributeVerbatim("t", "e");
         }
         if (hasFormula) {
-            xml_.Element("f", sheet_.formulas[cell.formula]);
+            WriteFormula(sheet_.formulas[cell.formula]);
         }
         switch (cell.type) {
         case CellType::Blank:
@@ -279,6 +280,15 @@ private:
             break;
         }
         xml_.EndElement();
+    }
+
+    void WriteFormula(const std::string& formula) {
+        // Only a formula with a bracket can refer to another workbook; the rest are written as they are.
+        if (formula.find('[') == std::string::npos) {
+            xml_.Element("f", formula);
+        } else {
+            xml_.Element("f", WithoutExternalWorkbookReferences(formula));
+        }
     }
 
     void WriteMerges() {
