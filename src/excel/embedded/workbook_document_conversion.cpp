@@ -1,10 +1,12 @@
 #include "excel/embedded/workbook_document_conversion.hpp"
 
 #include "excel/embedded/color_conversion.hpp"
+#include "excel/embedded/defined_name_rules.hpp"
 #include "excel/embedded/geometry.hpp"
 #include "excel/embedded/palette.hpp"
 #include "excel/embedded/text_entry.hpp"
 
+#include <algorithm>
 #include <ctime>
 #include <unordered_map>
 
@@ -255,6 +257,14 @@ void LoadDocument(WorkbookModel& book, const ooxml::WorkbookDocument& document) 
         std::shared_ptr<WorksheetModel> local;
         if (name.localSheet && *name.localSheet < book.Sheets().size()) {
             local = book.Sheets()[*name.localSheet];
+        }
+        // A name defined twice in one scope (files from other programs have them) keeps its first
+        // definition: saved twice, it would make Excel repair the file.
+        const auto sameNameAndScope = [&](const std::shared_ptr<DefinedNameModel>& earlier) {
+            return earlier->localSheet == local && SameDefinedName(earlier->name, name.name);
+        };
+        if (std::any_of(names.begin(), names.end(), sameNameAndScope)) {
+            continue;
         }
         names.push_back(
             std::make_shared<DefinedNameModel>(DefinedNameModel{name.name, name.formula, local, !name.hidden, false}));
