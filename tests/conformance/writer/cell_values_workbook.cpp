@@ -1,5 +1,6 @@
 #include "rgb.hpp"
 #include "sample_workbooks.hpp"
+#include "workbook_with_sheets.hpp"
 
 #include <string>
 
@@ -77,14 +78,10 @@ void AddNames(excel::Workbook& book, excel::Worksheet& values) {
 }  // namespace
 
 void WriteCellValuesWorkbook(excel::Application& app, const std::filesystem::path& file) {
-    app.SetSheetsInNewWorkbook(3);
-    auto book = app.Workbooks()->Add();
-    auto values = book->Worksheets(1);
-    auto hidden = book->Worksheets(2);
-    auto shifted = book->Worksheets(3);
-    values->SetName("Values");
-    hidden->SetName("Hidden");
-    shifted->SetName("Shifted");
+    auto book = AddWorkbookWithSheets(app, {"Values", "Hidden", "Shifted"});
+    auto values = book->Worksheets("Values");
+    auto hidden = book->Worksheets("Hidden");
+    auto shifted = book->Worksheets("Shifted");
 
     WriteScalars(*values);
     WriteArrayBlock(*values);

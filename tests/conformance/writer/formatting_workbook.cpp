@@ -1,5 +1,6 @@
 #include "rgb.hpp"
 #include "sample_workbooks.hpp"
+#include "workbook_with_sheets.hpp"
 
 namespace conformance {
 namespace {
@@ -103,12 +104,7 @@ void FormatNumbers(excel::Worksheet& sheet) {
 }  // namespace
 
 void WriteFormattingWorkbook(excel::Application& app, const std::filesystem::path& file) {
-    app.SetSheetsInNewWorkbook(5);
-    auto book = app.Workbooks()->Add();
-    const char* names[] = {"Fonts", "Fills", "Borders", "Alignment", "Numbers"};
-    for (int32_t index = 1; index <= 5; ++index) {
-        book->Worksheets(index)->SetName(names[index - 1]);
-    }
+    auto book = AddWorkbookWithSheets(app, {"Fonts", "Fills", "Borders", "Alignment", "Numbers"});
     FormatFonts(*book->Worksheets("Fonts"));
     FormatFills(*book, *book->Worksheets("Fills"));
     FormatBorders(*book->Worksheets("Borders"));

@@ -1,5 +1,6 @@
 #include "rgb.hpp"
 #include "sample_workbooks.hpp"
+#include "workbook_with_sheets.hpp"
 
 namespace conformance {
 namespace {
@@ -45,17 +46,10 @@ void LayOutRows(excel::Worksheet& sheet) {
 }  // namespace
 
 void WriteLayoutWorkbook(excel::Application& app, const std::filesystem::path& file) {
-    app.SetSheetsInNewWorkbook(3);
-    auto book = app.Workbooks()->Add();
-    auto grid = book->Worksheets(1);
-    auto columns = book->Worksheets(2);
-    auto rows = book->Worksheets(3);
-    grid->SetName("Grid");
-    columns->SetName("Columns");
-    rows->SetName("Rows");
-    LayOutColumns(*columns);
-    LayOutRows(*rows);
-    LayOutGrid(*book, *grid);
+    auto book = AddWorkbookWithSheets(app, {"Grid", "Columns", "Rows"});
+    LayOutColumns(*book->Worksheets("Columns"));
+    LayOutRows(*book->Worksheets("Rows"));
+    LayOutGrid(*book, *book->Worksheets("Grid"));
     book->SaveAs(file.string());
 }
 
