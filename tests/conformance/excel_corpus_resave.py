@@ -1,0 +1,242 @@
+"""Resaves workbooks that Excel made through the engine and checks every result: schema validation
+(validate-xlsx, no FAIL), logical consistency (check-xlsx, no ERROR) and, read back with openpyxl,
+the same worksheet names, cell values, defined names, print areas and print titles as the original.
+
+The workbooks are the EXCEL-classified .xlsx files of one folder of the Excel corpus, as its
+INDEX.md lists them; --every N takes every N-th of them in name order. Content the engine does not
+model is dropped on saving; the run ends with a count of what was dropped, by kind.
+
+Usage: excel_corpus_resave.py --resave PROGRAM --corpus DIR --folder NAME [--every N] --out DIR
+                              --tools DIR
+Exit status: 0 when every workbook passes, 1 otherwise.
+"""
+
+import argparse
+import collections
+import math
+import os
+import re
+import subprocess
+import sys
+import warnings
+import zipfile
+import xml.etree.ElementTree as ElementTree
+
+import openpyxl
+
+MAIN_NS = "{http://schemas.openxmlformats.org/spreadsheetml/2006/main}"
+INDEX_FOLDER = re.compile(r"^### (\S+)/")
+INDEX_ENTRY = re.compile(r"^\* `([^`]+)` \| \d+ \| [^|]* \| (\S+) \|")
+EXTERNAL_WORKBOOK = re.compile(r"(^|[^\w.\]])'?\[[1-9][0-9]*\]")
+BATCH_SIZE = 20
+RESAVE_TIMEOUT_SECONDS = 60
+
+
+def excel_made_workbooks(corpus, folder, every):
+    current, names = None, []
+    with open(os.path.join(corpus, "INDEX.md"), encoding="utf-8") as index:
+        for line in index:
+            heading = INDEX_FOLDER.match(line)
+            if heading:
+                current = heading.group(1)
+                continue
+            entry = INDEX_ENTRY.match(line)
+            if entry and current == folder and entry.group(2) == "EXCEL" and entry.group(1).endswith(".xlsx"):
+                names.append(entry.group(1))
+    return [os.path.join(corpus, folder, name) for name in sorted(names)[::every]]
+
+
+def resave(program, source, target):
+    if os.path.exists(target):
+        os.remove(target)
+    try:
+        run = subprocess.run([program, source, target], capture_output=True, text=True,
+                             timeout=RESAVE_TIMEOUT_SECONDS)
+    except subprocess.TimeoutExpired:
+        return f"resave did not finish in {RESAVE_TIMEOUT_SECONDS} s"
+    if run.returncode != 0 or not os.path.exists(target):
+        return f"resave failed ({run.returncode}): {(run.stdout + run.stderr).strip()[:300]}"
+    return None
+
+
+def batches(items):
+    for start in range(0, len(items), BATCH_SIZE):
+        yield items[start:start + BATCH_SIZE]
+
+
+def schema_failures(tools, paths):
+    """validate-xlsx prints the parts that did not pass, then one SUMMARY line per package; a
+    package without its SUMMARY line was not validated, which counts as a failure too."""
+    failures = {path: ["schema: validate-xlsx did not report on this file"] for path in paths}
+    for batch in batches(paths):
+        run = subprocess.run(["bash", os.path.join(tools, "validate-xlsx"), "-q", *batch],
+                             capture_output=True, text=True)
+        pending = []
+        for line in (run.stdout + run.stderr).splitlines():
+            summary = re.match(r"^SUMMARY (.+\.xlsx): (\S+)", line)
+            if summary:
+                failures[summary.group(1)] = [] if summary.group(2) == "PASS" else pending or ["schema: FAIL"]
+                pending = []
+            elif line.startswith("FAIL") or (pending and line.startswith(" ")):
+                pending.append("schema: " + line.strip())
+    return failures
+
+
+def consistency_errors(tools, paths):
+    """check-xlsx prints its ERROR findings, then one OK or FAIL line per package."""
+    errors = {path: ["consistency: check-xlsx did not report on this file"] for path in paths}
+    for batch in batches(paths):
+        run = subprocess.run([sys.executable, os.path.join(tools, "check-xlsx"), "-q", *batch],
+                             capture_output=True, text=True)
+        findings = collections.defaultdict(list)
+        for line in (run.stdout + run.stderr).splitlines():
+            finding = re.match(r"^(.+\.xlsx): ERROR (.*)$", line)
+            summary = re.match(r"^(.+\.xlsx): (OK|FAIL) \(", line)
+            if finding:
+                findings[finding.group(1)].append("consistency: " + finding.group(2))
+            elif summary:
+                errors[summary.group(1)] = findings[summary.group(1)] or (
+                    ["consistency: FAIL"] if summary.group(2) == "FAIL" else [])
+    return errors
+
+
+def same_value(original, resaved):
+    if isinstance(original, float) and isinstance(resaved, float) and math.isnan(original):
+        return math.isnan(resaved)
+    return original == resaved and type(original) is type(resaved)
+
+
+def workbook_content(path):
+    with warnings.catch_warnings():
+        warnings.simplefilter("ignore")
+        book = openpyxl.load_workbook(path)
+    sheets = {}
+    for sheet in book.worksheets:
+        cells = {}
+        for row in sheet.iter_rows():
+            for cell in row:
+                if cell.value is not None:
+                    cells[cell.coordinate] = cell.value
+        sheets[sheet.title] = (cells, sheet.print_area, sheet.print_title_rows, sheet.print_title_cols)
+    all_sheets = book.sheetnames
+    names = {}
+    for name in book.defined_names.definedName:
+        scope = all_sheets[name.localSheetId] if name.localSheetId is not None else None
+        names[(name.name, scope)] = name.attr_text
+    return [sheet.title for sheet in book.worksheets], sheets, names
+
+
+def content_differences(original_path, resaved_path):
+    try:
+        original = workbook_content(original_path)
+    except Exception:  # openpyxl cannot read some Excel files; then there is nothing to compare with
+        return []
+    try:
+        resaved = workbook_content(resaved_path)
+    except Exception as error:
+        return [f"openpyxl cannot read the resaved file: {error!r}"]
+    differences = []
+    if original[0] != resaved[0]:
+        return [f"worksheet names {original[0]} became {resaved[0]}"]
+    for title, (cells, *printing) in original[1].items():
+        resaved_cells, *resaved_printing = resaved[1][title]
+        for address in sorted(set(cells) | set(resaved_cells)):
+            before, after = cells.get(address), resaved_cells.get(address)
+            if not same_value(before, after):
+                differences.append(f"{title}!{address}: {before!r} became {after!r}")
+        if printing != resaved_printing:
+            differences.append(f"{title}: print area/titles {printing} became {resaved_printing}")
+    for key in sorted(original[2].keys() | resaved[2].keys(), key=repr):
+        before, after = original[2].get(key), resaved[2].get(key)
+        # Links to other workbooks are not saved, so a reference through one becomes #REF!.
+        if before is not None and after is not None and EXTERNAL_WORKBOOK.search(before):
+            if "#REF!" not in after or EXTERNAL_WORKBOOK.search(after):
+                differences.append(f"defined name {key}: {before!r} became {after!r}, not #REF!")
+        elif key not in original[2] or key not in resaved[2] or before != after:
+            differences.append(f"defined name {key}: {before!r} became {after!r}")
+    return differences
+
+
+def worksheet_element_kinds(package, part):
+    root = ElementTree.fromstring(package.read(part))
+    return {"worksheet <" + child.tag.split("}")[-1] + ">" for child in root}
+
+
+def defined_name_formulas(path):
+    with zipfile.ZipFile(path) as package:
+        workbook = ElementTree.fromstring(package.read("xl/workbook.xml"))
+    return [name.text for name in workbook.iter(MAIN_NS + "definedName")]
+
+
+def content_kinds(path):
+    """What a package holds, by kind: the parts' content types and the worksheets' elements."""
+    kinds = set()
+    with zipfile.ZipFile(path) as package:
+        types = ElementTree.fromstring(package.read("[Content_Types].xml"))
+        defaults = {element.get("Extension", "").lower(): element.get("ContentType")
+                    for element in types if element.tag.endswith("Default")}
+        overrides = {element.get("PartName", "").lstrip("/"): element.get("ContentType")
+                     for element in types if element.tag.endswith("Override")}
+        for part in package.namelist():
+            if part.endswith("/"):
+                continue
+            content_type = overrides.get(part) or defaults.get(part.rsplit(".", 1)[-1].lower(), "?")
+            kinds.add("part " + content_type.replace("+xml", "").split("/")[-1].split(".")[-1])
+            if content_type.endswith("spreadsheetml.worksheet+xml"):
+                kinds |= worksheet_element_kinds(package, part)
+    return kinds
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__.strip().splitlines()[0])
+    parser.add_argument("--resave", required=True)
+    parser.add_argument("--corpus", required=True)
+    parser.add_argument("--folder", required=True)
+    parser.add_argument("--every", type=int, default=1)
+    parser.add_argument("--out", required=True)
+    parser.add_argument("--tools", required=True)
+    arguments = parser.parse_args()
+
+    sources = excel_made_workbooks(arguments.corpus, arguments.folder, arguments.every)
+    if not sources:
+        print(f"no Excel-made .xlsx files listed for {arguments.folder}")
+        return 1
+    os.makedirs(arguments.out, exist_ok=True)
+    problems = collections.defaultdict(list)
+    resaved = {}
+    for source in sources:
+        target = os.path.join(os.path.abspath(arguments.out), os.path.basename(source))
+        failure = resave(arguments.resave, source, target)
+        if failure:
+            problems[source].append(failure)
+        else:
+            resaved[source] = target
+
+    targets = list(resaved.values())
+    schema = schema_failures(arguments.tools, targets)
+    consistency = consistency_errors(arguments.tools, targets)
+    dropped = collections.Counter()
+    for source, target in resaved.items():
+        problems[source] += schema.get(target, []) + consistency.get(target, [])
+        problems[source] += content_differences(source, target)
+        for kind in content_kinds(source) - content_kinds(target):
+            dropped[kind] += 1
+        if any(EXTERNAL_WORKBOOK.search(formula or "") for formula in defined_name_formulas(source)):
+            dropped["links to other workbooks in defined names (now #REF!)"] += 1
+
+    failed = [source for source in sources if problems[source]]
+    for source in failed:
+        print(f"FAIL {os.path.basename(source)}")
+        for problem in problems[source][:12]:
+            print(f"    {problem}")
+        if len(problems[source]) > 12:
+            print(f"    ... {len(problems[source]) - 12} more")
+    print("dropped on resave (files):")
+    for kind, count in sorted(dropped.items(), key=lambda item: (-item[1], item[0])):
+        print(f"    {count:4d}  {kind}")
+    print(f"{arguments.folder}: {len(sources)} workbooks, {len(sources) - len(failed)} passed, {len(failed)} failed")
+    return 1 if failed else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
