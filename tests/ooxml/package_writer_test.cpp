@@ -12,6 +12,7 @@
 
 #include <csignal>
 #include <cstring>
+#include <fstream>
 
 namespace {
 
@@ -166,9 +167,9 @@ TEST(PackageWriter, SameDocumentGivesTheSameBytes) {
     ScratchFolder folder;
     WritePackage(FullDocument(), folder.File("first.xlsx"));
     WritePackage(FullDocument(), folder.File("second.xlsx"));
-    const std::string first = ReadFile(folder.File("first.xlsx"));
+    const std::string first = FileBytes(folder.File("first.xlsx"));
     EXPECT_FALSE(first.empty());
-    EXPECT_EQ(first, ReadFile(folder.File("second.xlsx")));
+    EXPECT_EQ(first, FileBytes(folder.File("second.xlsx")));
 }
 
 TEST(PackageWriter, LeavesOutSharedStringsWhenThereAreNone) {
@@ -226,7 +227,7 @@ TEST(PackageWriterAtomicSave, FailureWhileWritingPartsLeavesThePreviousFileIntac
     ScratchFolder folder;
     const std::string target = folder.File("book.xlsx");
     WritePackage(FullDocument(), target);
-    const std::string previous = ReadFile(target);
+    const std::string previous = FileBytes(target);
 
     WorkbookDocument broken = FullDocument();
     broken.sheets[2].rows.push_back(Row{1, std::nullopt, std::nullopt, false, {Cell{}}});
@@ -238,7 +239,7 @@ TEST(PackageWriterAtomicSave, FailureWhileWritingPartsLeavesThePreviousFileIntac
         EXPECT_EQ(error.reason(), PackageError::Reason::WriteFailed);
         EXPECT_THAT(error.what(), HasSubstr("format 999"));
     }
-    EXPECT_EQ(ReadFile(target), previous);
+    EXPECT_EQ(FileBytes(target), previous);
     EXPECT_THAT(folder.Entries(), ElementsAre("book.xlsx"));
 }
 
@@ -262,10 +263,10 @@ TEST(PackageWriterAtomicSaveDeathTest, DiskFullLeavesThePreviousFileIntact) {
     ScratchFolder folder;
     const std::string target = folder.File("book.xlsx");
     WritePackage(FullDocument(), target);
-    const std::string previous = ReadFile(target);
+    const std::string previous = FileBytes(target);
 
     EXPECT_EXIT(SaveWithFileSizeLimit(target, 2000), ::testing::ExitedWithCode(42), "");
-    EXPECT_EQ(ReadFile(target), previous);
+    EXPECT_EQ(FileBytes(target), previous);
     EXPECT_THAT(folder.Entries(), ElementsAre("book.xlsx"));
 }
 

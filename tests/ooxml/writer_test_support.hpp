@@ -6,6 +6,7 @@
 #include "ooxml/byte_sink.hpp"
 #include "ooxml/workbook_document.hpp"
 #include "ooxml/xml_writer.hpp"
+#include "reader_test_package.hpp"
 
 #include <gtest/gtest.h>
 #include <pugixml.hpp>
@@ -13,9 +14,7 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <functional>
-#include <iterator>
 #include <memory>
 #include <optional>
 #include <random>
@@ -56,10 +55,7 @@ private:
     std::filesystem::path path_;
 };
 
-inline std::string ReadFile(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-}
+using ooxml_test::FileBytes;
 
 // The names of a zip's entries in stored order, read with libzip.
 inline std::vector<std::string> ZipEntryNames(const std::string& path) {
@@ -132,7 +128,7 @@ inline std::unique_ptr<pugi::xml_document> ParseXml(const std::string& xml) {
 inline int RunCommand(const std::string& command, std::string& output, const ScratchFolder& folder) {
     const std::string log = folder.File("command.log");
     const int status = std::system((command + " >" + log + " 2>&1").c_str());
-    output = ReadFile(log);
+    output = FileBytes(log);
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 

@@ -76,7 +76,7 @@ TEST(ZipWriter, SameEntriesGiveTheSameBytes) {
     ScratchFolder folder;
     WriteArchive(folder.File("a.zip"), {{"x", "same"}, {"y", LargeText()}});
     WriteArchive(folder.File("b.zip"), {{"x", "same"}, {"y", LargeText()}});
-    EXPECT_EQ(ReadFile(folder.File("a.zip")), ReadFile(folder.File("b.zip")));
+    EXPECT_EQ(FileBytes(folder.File("a.zip")), FileBytes(folder.File("b.zip")));
 }
 
 TEST(ZipWriter, WriteFailureThrowsWriteFailed) {
