@@ -1,6 +1,6 @@
 #include "ooxml/workbook_part.hpp"
 
-#include "ooxml/external_workbook_references.hpp"
+#include "ooxml/unresolvable_references.hpp"
 
 #include <algorithm>
 
@@ -57,7 +57,7 @@ void WriteDefinedNames(XmlWriter& xml, const std::vector<DefinedName>& names) {
         if (name.hidden) {
             xml.Attribute("hidden", "1");
         }
-        xml.Text(WithoutExternalWorkbookReferences(name.formula));
+        xml.Text(WithoutUnresolvableReferences(name.formula));
         xml.EndElement();
     }
     xml.EndElement();

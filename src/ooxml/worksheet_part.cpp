@@ -1,6 +1,6 @@
 #include "ooxml/worksheet_part.hpp"
 
-#include "ooxml/external_workbook_references.hpp"
+#include "ooxml/unresolvable_references.hpp"
 #include "ooxml/package_error.hpp"
 
 #include <algorithm>
@@ -287,7 +287,7 @@ private:
         if (formula.find('[') == std::string::npos) {
             xml_.Element("f", formula);
         } else {
-            xml_.Element("f", WithoutExternalWorkbookReferences(formula));
+            xml_.Element("f", WithoutUnresolvableReferences(formula));
         }
     }
 

@@ -27,7 +27,9 @@ import openpyxl
 MAIN_NS = "{http://schemas.openxmlformats.org/spreadsheetml/2006/main}"
 INDEX_FOLDER = re.compile(r"^### (\S+)/")
 INDEX_ENTRY = re.compile(r"^\* `([^`]+)` \| \d+ \| [^|]* \| (\S+) \|")
-EXTERNAL_WORKBOOK = re.compile(r"(^|[^\w.\]])'?\[[1-9][0-9]*\]")
+# References the saved package cannot resolve, as neither links to other workbooks nor tables are
+# saved: "[1]Data!A1", "'[2]Rates'!B2", "Sales[Amount]". The engine writes them as #REF!.
+UNRESOLVABLE = re.compile(r"(^|[^\w.\]])'?\[[1-9][0-9]*\]|(^|[^\w.\\\]'!\"])[A-Za-z_\\][\w.\\?]*\[")
 BATCH_SIZE = 20
 RESAVE_TIMEOUT_SECONDS = 60
 
@@ -100,7 +102,22 @@ def consistency_errors(tools, paths):
     return errors
 
 
+STRING_LITERAL = re.compile(r'"(?:[^"]|"")*"')
+
+
+def refers_to_unresolvable(formula):
+    return UNRESOLVABLE.search(STRING_LITERAL.sub('""', formula)) is not None
+
+
+def unresolvable_replaced(original, resaved):
+    """A formula or name that referred to another workbook or a table now refers to #REF! instead."""
+    return (isinstance(original, str) and isinstance(resaved, str) and refers_to_unresolvable(original)
+            and "#REF!" in resaved and not refers_to_unresolvable(resaved))
+
+
 def same_value(original, resaved):
+    if isinstance(original, str) and original.startswith("=") and refers_to_unresolvable(original):
+        return unresolvable_replaced(original, resaved)
     if isinstance(original, float) and isinstance(resaved, float) and math.isnan(original):
         return math.isnan(resaved)
     return original == resaved and type(original) is type(resaved)
@@ -148,11 +165,8 @@ def content_differences(original_path, resaved_path):
             differences.append(f"{title}: print area/titles {printing} became {resaved_printing}")
     for key in sorted(original[2].keys() | resaved[2].keys(), key=repr):
         before, after = original[2].get(key), resaved[2].get(key)
-        # Links to other workbooks are not saved, so a reference through one becomes #REF!.
-        if before is not None and after is not None and EXTERNAL_WORKBOOK.search(before):
-            if "#REF!" not in after or EXTERNAL_WORKBOOK.search(after):
-                differences.append(f"defined name {key}: {before!r} became {after!r}, not #REF!")
-        elif key not in original[2] or key not in resaved[2] or before != after:
+        unchanged = before == after or unresolvable_replaced(before, after)
+        if key not in original[2] or key not in resaved[2] or not unchanged:
             differences.append(f"defined name {key}: {before!r} became {after!r}")
     return differences
 
@@ -221,8 +235,8 @@ def main():
         problems[source] += content_differences(source, target)
         for kind in content_kinds(source) - content_kinds(target):
             dropped[kind] += 1
-        if any(EXTERNAL_WORKBOOK.search(formula or "") for formula in defined_name_formulas(source)):
-            dropped["links to other workbooks in defined names (now #REF!)"] += 1
+        if any(refers_to_unresolvable(formula or "") for formula in defined_name_formulas(source)):
+            dropped["defined names referring to other workbooks or tables (now #REF!)"] += 1
 
     failed = [source for source in sources if problems[source]]
     for source in failed:

@@ -1,4 +1,4 @@
-#include "ooxml/external_workbook_references.hpp"
+#include "ooxml/unresolvable_references.hpp"
 
 #include <algorithm>
 #include <cctype>
@@ -58,6 +58,37 @@ std::size_t ReferenceEnd(std::string_view formula, std::size_t position) {
     return position;
 }
 
+bool IsNameStart(char c) {
+    return std::isalpha(static_cast<unsigned char>(c)) != 0 || c == '_' || c == '\\' ||
+           static_cast<unsigned char>(c) >= 0x80;
+}
+
+// End of the table reference ("Sales[Amount]", "Sales[[#Headers],[Qty]:[Price]]") starting at position,
+// or npos when none starts there. Inside the brackets a quote escapes the next character.
+std::size_t TableReferenceEnd(std::string_view formula, std::size_t position) {
+    if (!IsNameStart(formula[position])) {
+        return std::string_view::npos;
+    }
+    std::size_t i = position;
+    while (i < formula.size() && formula[i] != '[' && IsReferenceCharacter(formula[i]) && formula[i] != ':') {
+        ++i;
+    }
+    if (i >= formula.size() || formula[i] != '[') {
+        return std::string_view::npos;
+    }
+    int depth = 0;
+    for (; i < formula.size(); ++i) {
+        if (formula[i] == '\'') {
+            ++i;
+        } else if (formula[i] == '[') {
+            ++depth;
+        } else if (formula[i] == ']' && --depth == 0) {
+            return i + 1;
+        }
+    }
+    return std::string_view::npos;
+}
+
 // End of the external reference starting at position, or npos when none starts there.
 std::size_t ExternalReferenceEnd(std::string_view formula, std::size_t position) {
     std::size_t prefixEnd = std::string_view::npos;
@@ -77,15 +108,16 @@ std::size_t ExternalReferenceEnd(std::string_view formula, std::size_t position)
 
 }  // namespace
 
-std::string WithoutExternalWorkbookReferences(std::string_view formula) {
+std::string WithoutUnresolvableReferences(std::string_view formula) {
     std::string result;
     result.reserve(formula.size());
     std::size_t i = 0;
     while (i < formula.size()) {
         const char c = formula[i];
         const bool startsOperand = i == 0 || !IsReferenceCharacter(formula[i - 1]);
-        if (startsOperand && (c == '[' || c == '\'')) {
-            if (const std::size_t end = ExternalReferenceEnd(formula, i); end != std::string_view::npos) {
+        if (startsOperand) {
+            std::size_t end = c == '[' || c == '\'' ? ExternalReferenceEnd(formula, i) : TableReferenceEnd(formula, i);
+            if (end != std::string_view::npos) {
                 result += "#REF!";
                 i = end;
                 continue;
