@@ -1,7 +1,7 @@
 #include "ooxml/worksheet_part.hpp"
 
-#include "ooxml/unresolvable_references.hpp"
 #include "ooxml/package_error.hpp"
+#include "ooxml/unresolvable_references.hpp"
 
 #include <algorithm>
 #include <charconv>

@@ -1,5 +1,5 @@
-#include "excel/embedded/application_model.hpp"
 #include "excel/embedded/workbook_document_conversion.hpp"
+#include "excel/embedded/application_model.hpp"
 #include "excel/embedded/workbook_model.hpp"
 
 #include <gtest/gtest.h>

@@ -22,8 +22,8 @@ TEST(UnresolvableReferences, ReplacesTableReferencesWithRef) {
 }
 
 TEST(UnresolvableReferences, KeepsEverythingElse) {
-    for (const char* formula : {"Sheet1!$A$1", "'Data [1]'!A1", "\"[1]Sheet1!A1\"&B2", "[0]!Total",
-                                "\"Sales[Amount]\"", "SUM(A1:B2)*Rate", "{1,2;3,4}", "\"unclosed [1]x!A1"}) {
+    for (const char* formula : {"Sheet1!$A$1", "'Data [1]'!A1", "\"[1]Sheet1!A1\"&B2", "[0]!Total", "\"Sales[Amount]\"",
+                                "SUM(A1:B2)*Rate", "{1,2;3,4}", "\"unclosed [1]x!A1"}) {
         EXPECT_EQ(WithoutUnresolvableReferences(formula), formula);
     }
 }
