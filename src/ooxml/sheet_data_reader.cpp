@@ -51,10 +51,12 @@ struct SharedFormula {
     uint32_t column = 0;
 };
 
-// A cell's <f>: its kind ("shared", "dataTable", ...), the index of a shared formula, its text.
+// A cell's <f>: its kind ("shared", "array", "dataTable", ...), the index of a shared formula, the
+// block it covers, its text.
 struct FormulaElement {
     std::string kind;
     std::optional<uint32_t> sharedIndex;
+    std::string ref;
     std::string text;
 };
 
@@ -294,11 +296,14 @@ private:
     void ReadFormulaElement() {
         formula_.kind.clear();
         formula_.sharedIndex.reset();
+        formula_.ref.clear();
         for (const XmlAttribute& attribute : scanner_.Attributes()) {
             if (attribute.localName == "t") {
                 formula_.kind = attribute.value;
             } else if (attribute.localName == "si") {
                 formula_.sharedIndex = ParseUnsigned(attribute.value);
+            } else if (attribute.localName == "ref") {
+                formula_.ref = attribute.value;
             }
         }
         scanner_.ReadText(formula_.text);
@@ -335,6 +340,11 @@ private:
         }
         cell.formula = static_cast<uint32_t>(sheet_.formulas.size());
         sheet_.formulas.emplace_back(text);
+        if (formula_.kind == "array") {
+            if (const std::optional<CellBlock> block = ParseCellBlock(formula_.ref)) {
+                sheet_.arrayFormulas.emplace(cell.formula, *block);
+            }
+        }
     }
 
     XmlPullScanner& scanner_;

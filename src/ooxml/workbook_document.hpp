@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <ctime>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -159,6 +160,7 @@ struct SheetDocument {
     std::vector<ColumnRange> columns;  // ascending, not overlapping
     std::vector<Row> rows;             // ascending
     std::vector<std::string> formulas;  // without the leading "="
+    std::map<uint32_t, CellBlock> arrayFormulas;  // formula index -> the block an array formula fills
     std::vector<CellBlock> merges;
 };
 

@@ -8,9 +8,14 @@ namespace ooxml {
 
 namespace {
 
-bool HasFormulas(const WorkbookDocument& document) {
-    return std::any_of(document.sheets.begin(), document.sheets.end(),
-                       [](const SheetDocument& sheet) { return !sheet.formulas.empty(); });
+bool HasFormulaWithoutResult(const WorkbookDocument& document) {
+    return std::any_of(document.sheets.begin(), document.sheets.end(), [](const SheetDocument& sheet) {
+        return std::any_of(sheet.rows.begin(), sheet.rows.end(), [](const Row& row) {
+            return std::any_of(row.cells.begin(), row.cells.end(), [](const Cell& cell) {
+                return cell.formula != NoFormula && cell.type == CellType::Blank;
+            });
+        });
+    });
 }
 
 void WriteProtection(XmlWriter& xml, const WorkbookDocument& document) {
@@ -83,8 +88,8 @@ void WriteWorkbookPart(XmlWriter& xml, const WorkbookDocument& document,
     WriteDefinedNames(xml, document.names);
     xml.StartElement("calcPr");
     xml.Attribute("calcId", 191029);
-    // Cached formula results come from our own calculation; Excel recalculates them on opening.
-    if (HasFormulas(document)) {
+    // A formula set without calculating it has no result to show until Excel recalculates on opening.
+    if (HasFormulaWithoutResult(document)) {
         xml.Attribute("fullCalcOnLoad", "1");
     }
     xml.EndElement();

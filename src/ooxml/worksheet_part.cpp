@@ -104,8 +104,6 @@ private:
         xml_.StartElement("dimension");
         if (firstRow == 0) {
             xml_.AttributeVerbatim("ref", "A1");
-        } else if (firstRow == lastRow && firstColumn == lastColumn) {
-            xml_.AttributeVerbatim("ref", Reference(firstRow, firstColumn));
         } else {
             xml_.Attribute("ref", BlockReference(CellBlock{firstRow, firstColumn, lastRow, lastColumn}));
         }
@@ -248,7 +246,7 @@ private:
             xml_.AttributeVerbatim("t", "e");
         }
         if (hasFormula) {
-            WriteFormula(sheet_.formulas[cell.formula]);
+            WriteFormula(cell.formula);
         }
         switch (cell.type) {
         case CellType::Blank:
@@ -282,13 +280,20 @@ private:
         xml_.EndElement();
     }
 
-    void WriteFormula(const std::string& formula) {
+    void WriteFormula(uint32_t index) {
+        const std::string& formula = sheet_.formulas[index];
+        xml_.StartElement("f");
+        if (const auto array = sheet_.arrayFormulas.find(index); array != sheet_.arrayFormulas.end()) {
+            xml_.AttributeVerbatim("t", "array");
+            xml_.Attribute("ref", BlockReference(array->second));
+        }
         // Only a formula with a bracket can refer to another workbook; the rest are written as they are.
         if (formula.find('[') == std::string::npos) {
-            xml_.Element("f", formula);
+            xml_.Text(formula);
         } else {
-            xml_.Element("f", WithoutUnresolvableReferences(formula));
+            xml_.Text(WithoutUnresolvableReferences(formula));
         }
+        xml_.EndElement();
     }
 
     void WriteMerges() {
@@ -333,8 +338,12 @@ private:
         return reference_.Compose(columnNames_.Name(column), row);
     }
 
+    // "B2:C4", or "B2" for a single cell.
     std::string BlockReference(const CellBlock& block) {
         std::string text(Reference(block.firstRow, block.firstColumn));
+        if (block.lastRow == block.firstRow && block.lastColumn == block.firstColumn) {
+            return text;
+        }
         text += ':';
         text += Reference(block.lastRow, block.lastColumn);
         return text;

@@ -218,6 +218,22 @@ TEST(PackageReaderTest, SharedFormulaMovedOffTheSheetBecomesRefError) {
     EXPECT_EQ(Formula(document.sheets.at(0), 3, 1), "#REF!+1");
 }
 
+TEST(PackageReaderTest, ArrayFormulaKeepsItsBlockAndCachedResult) {
+    const auto document =
+        Read(MinimalPackage(R"(<sheetData><row r="1"><c r="A1"><f t="array" ref="A1:B2">{1,2;3,4}*2</f><v>2</v></c>)"
+                            R"(<c r="B1"><v>4</v></c><c r="C1"><f t="array" ref="C1">SUM(A1:B2*1)</f><v>20</v></c>)"
+                            R"(<c r="D1"><f>A1</f><v>2</v></c></row></sheetData>)"));
+    const ooxml::SheetDocument& sheet = document.sheets.at(0);
+    EXPECT_EQ(Formula(sheet, 1, 1), "{1,2;3,4}*2");
+    EXPECT_EQ(CellAt(sheet, 1, 1).number, 2.0);
+    EXPECT_EQ(CellAt(sheet, 1, 2).formula, ooxml::NoFormula);
+    const auto& arrays = sheet.arrayFormulas;
+    ASSERT_EQ(arrays.size(), 2u);
+    EXPECT_EQ(arrays.at(CellAt(sheet, 1, 1).formula), (ooxml::CellBlock{1, 1, 2, 2}));
+    EXPECT_EQ(arrays.at(CellAt(sheet, 1, 3).formula), (ooxml::CellBlock{1, 3, 1, 3}));
+    EXPECT_FALSE(arrays.contains(CellAt(sheet, 1, 4).formula));
+}
+
 TEST(PackageReaderTest, ReadsRowsColumnsMergesViewsAndSheetOptions) {
     const auto document = Read(MinimalPackage(
         R"(<sheetPr><tabColor rgb="FFFF0000"/></sheetPr><dimension ref="A1:C3"/>)"

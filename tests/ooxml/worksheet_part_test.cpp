@@ -1,5 +1,5 @@
-#include "ooxml/package_error.hpp"
 #include "ooxml/worksheet_part.hpp"
+#include "ooxml/package_error.hpp"
 #include "writer_test_support.hpp"
 
 #include <gtest/gtest.h>
@@ -44,7 +44,8 @@ PackageError::Reason FailureOf(const WorkbookDocument& document) {
 }
 
 TEST(WorksheetPart, NumbersTheFileCannotHoldBecomeNumErrors) {
-    auto xml = ParseXml(Write(OneSheet({Row{2, {}, {}, false, {Number(2, std::numeric_limits<double>::quiet_NaN())}}})));
+    auto xml =
+        ParseXml(Write(OneSheet({Row{2, {}, {}, false, {Number(2, std::numeric_limits<double>::quiet_NaN())}}})));
     const pugi::xml_node cell = xml->child("worksheet").child("sheetData").child("row").child("c");
     EXPECT_STREQ(cell.attribute("r").value(), "B2");
     EXPECT_STREQ(cell.attribute("t").value(), "e");
@@ -96,6 +97,32 @@ TEST(WorksheetPart, SkipsRowsWithNothingToSay) {
     EXPECT_EQ(row.attribute("r").as_int(), 2);
     EXPECT_FALSE(row.next_sibling("row"));
     EXPECT_STREQ(xml->child("worksheet").child("dimension").attribute("ref").value(), "A1");
+}
+
+TEST(WorksheetPart, ArrayFormulasAreWrittenWithTheirBlock) {
+    WorkbookDocument document = OneSheet({});
+    Cell block = Number(1, 2);
+    block.formula = 0;
+    Cell single = Number(3, 20);
+    single.formula = 1;
+    Cell plain = Number(4, 2);
+    plain.formula = 2;
+    document.sheets[0].formulas = {"{1,2;3,4}*2", "SUM(A1:B2)", "A1"};
+    document.sheets[0].arrayFormulas = {{0, CellBlock{1, 1, 2, 2}}, {1, CellBlock{1, 3, 1, 3}}};
+    document.sheets[0].rows = {Row{1, {}, {}, false, {block, Number(2, 4), single, plain}}};
+    auto xml = ParseXml(Write(document));
+    const pugi::xml_node row = xml->child("worksheet").child("sheetData").child("row");
+    const pugi::xml_node first = row.find_child_by_attribute("c", "r", "A1").child("f");
+    EXPECT_STREQ(first.attribute("t").value(), "array");
+    EXPECT_STREQ(first.attribute("ref").value(), "A1:B2");
+    EXPECT_STREQ(first.child_value(), "{1,2;3,4}*2");
+    EXPECT_FALSE(row.find_child_by_attribute("c", "r", "B1").child("f"));
+    const pugi::xml_node second = row.find_child_by_attribute("c", "r", "C1").child("f");
+    EXPECT_STREQ(second.attribute("t").value(), "array");
+    EXPECT_STREQ(second.attribute("ref").value(), "C1");
+    const pugi::xml_node third = row.find_child_by_attribute("c", "r", "D1").child("f");
+    EXPECT_FALSE(third.attribute("t"));
+    EXPECT_FALSE(third.attribute("ref"));
 }
 
 TEST(WorksheetPart, RefusesRowsOrCellsOutOfOrder) {
