@@ -1,4 +1,4 @@
-#include "engine_fixture.hpp"
+#include "save_open_fixture.hpp"
 
 #include <cstdio>
 #include <cstdlib>
@@ -8,30 +8,6 @@
 using namespace excel;
 
 namespace {
-
-// A fresh folder per test, removed afterwards.
-class SaveOpenTest : public EngineTest {
-protected:
-    void SetUp() override {
-        EngineTest::SetUp();
-        const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
-        folder = std::filesystem::temp_directory_path() /
-                 ("engine_save_open_" + std::to_string(::getpid()) + "_" + info->name());
-        std::filesystem::remove_all(folder);
-        std::filesystem::create_directories(folder);
-    }
-    void TearDown() override { std::filesystem::remove_all(folder); }
-
-    std::string PathOf(const std::string& name) const { return (folder / name).string(); }
-
-    std::shared_ptr<Workbook> SaveAndReopen(const std::string& name) {
-        book->SaveAs(PathOf(name));
-        book->Close();
-        return app->Workbooks()->Open(PathOf(name));
-    }
-
-    std::filesystem::path folder;
-};
 
 int RunTool(const std::string& tool, const std::string& file) {
     const std::string command = std::string(VOS_SHARED_DIR) + "/tools/" + tool + " '" + file + "' > /dev/null 2>&1";

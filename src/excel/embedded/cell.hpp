@@ -4,10 +4,11 @@
 
 namespace excel::embedded {
 
-enum class CellKind : uint8_t { Blank, Number, Text, Boolean, Error, Formula };
+enum class CellKind : uint8_t { Blank, Number, Text, Boolean, Error, Formula, OpenedFormula };
 
-// One stored cell: 16 bytes. Text and Formula hold a StringPool id; Error holds Excel's xlErr
-// number; Boolean holds 0 or 1 in number.
+// One stored cell: 16 bytes. Text and Formula hold a StringPool id; OpenedFormula holds an
+// OpenedFormulaTable id (a formula read from a file, with its cached result); Error holds Excel's
+// xlErr number; Boolean holds 0 or 1 in number.
 struct Cell {
     uint16_t column = 1;
     CellKind kind = CellKind::Blank;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "excel/embedded/cell.hpp"
+#include "excel/embedded/opened_formula_table.hpp"
 #include "excel/embedded/string_pool.hpp"
 
 #include <cstdint>
@@ -14,11 +15,12 @@ struct CellError {
     int32_t number;
 };
 
-// What a cell holds as its value: nothing (no cell, a blank, or a formula, whose result is not
-// kept), a logical, text, an error or a number. Range.Value and Range.Text both start from it.
+// What a cell holds as its value: nothing (no cell, a blank, or a formula without a result), a
+// logical, text, an error or a number; an opened formula holds the result its file kept.
+// Range.Value and Range.Text both start from it.
 using CellContent = std::variant<std::monostate, bool, std::string_view, CellError, double>;
 
-inline CellContent ContentOf(const Cell* cell, const StringPool& strings) {
+inline CellContent ContentOf(const Cell* cell, const StringPool& strings, const OpenedFormulaTable& formulas) {
     if (cell == nullptr) {
         return {};
     }
@@ -26,6 +28,8 @@ inline CellContent ContentOf(const Cell* cell, const StringPool& strings) {
         case CellKind::Blank:
         case CellKind::Formula:
             return {};
+        case CellKind::OpenedFormula:
+            return ContentOf(&formulas.Get(cell->text).result, strings, formulas);
         case CellKind::Text:
             return std::string_view(strings.Get(cell->text).text);
         case CellKind::Boolean:

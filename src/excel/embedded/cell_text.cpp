@@ -180,7 +180,7 @@ std::string FormatNumber(double value, std::string_view numberFormat) {
     return (negative ? "-" : "") + prefix + integral + fraction + suffix;
 }
 
-std::string DisplayText(const Cell* cell, std::string_view numberFormat, const StringPool& strings) {
+std::string DisplayText(const CellContent& content, std::string_view numberFormat) {
     return std::visit(ContentVisitor{
                           [](std::monostate) { return std::string(); },
                           [](bool value) { return std::string(value ? "TRUE" : "FALSE"); },
@@ -188,7 +188,7 @@ std::string DisplayText(const Cell* cell, std::string_view numberFormat, const S
                           [](CellError error) { return ErrorTextFromNumber(error.number); },
                           [&](double number) { return FormatNumber(number, numberFormat); },
                       },
-                      ContentOf(cell, strings));
+                      content);
 }
 
 }  // namespace excel::embedded

@@ -1,17 +1,16 @@
 #pragma once
 
-#include "excel/embedded/cell.hpp"
-#include "excel/embedded/string_pool.hpp"
+#include "excel/embedded/cell_content.hpp"
 
 #include <string>
 #include <string_view>
 
 namespace excel::embedded {
 
-// The text a cell shows (Range.Text) under its number format. General, "@", fixed decimals,
+// The text a cell's content shows (Range.Text) under its number format. General, "@", fixed decimals,
 // thousands separators, percentages, literal prefixes and suffixes and simple date codes are
 // rendered; a format beyond that shows the General text.
-std::string DisplayText(const Cell* cell, std::string_view numberFormat, const StringPool& strings);
+std::string DisplayText(const CellContent& content, std::string_view numberFormat);
 
 // A number under a format (the numeric part of DisplayText).
 std::string FormatNumber(double value, std::string_view numberFormat);

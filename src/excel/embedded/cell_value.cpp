@@ -165,7 +165,7 @@ Variant CellValueReader::Read(const Cell* cell) {
                           [](CellError error) { return Variant(ErrorValue{ErrorValueCode(error.number)}); },
                           [&](double number) { return readNumber(cell->format, number); },
                       },
-                      ContentOf(cell, book_.Strings()));
+                      ContentOf(cell, book_.Strings(), book_.OpenedFormulas()));
 }
 
 // A number as Range.Value reads it: under a date or currency format, converted.
@@ -191,6 +191,8 @@ Variant CellValueReader::ReadFormula(const Cell* cell) {
             return Variant(std::string());
         case CellKind::Formula:
             return Variant("=" + book_.Strings().Get(cell->text).text);
+        case CellKind::OpenedFormula:
+            return Variant("=" + book_.Strings().Get(book_.OpenedFormulas().Get(cell->text).text).text);
         case CellKind::Number:
             return Variant(FormatGeneral(cell->number));
         case CellKind::Boolean:

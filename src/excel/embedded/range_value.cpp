@@ -1,5 +1,6 @@
 #include "excel/embedded/range.hpp"
 
+#include "excel/embedded/cell_content.hpp"
 #include "excel/embedded/cell_text.hpp"
 #include "excel/embedded/cell_value.hpp"
 #include "excel/embedded/engine_errors.hpp"
@@ -154,7 +155,8 @@ Variant RangeView::Text() {
             for (int32_t column = area.left; column <= area.right; ++column) {
                 const Cell* cell = data ? data->Find(column) : nullptr;
                 const uint32_t format = cells_.sheet->ResolvedFormat(row, column);
-                std::string text = DisplayText(cell, owner.Formats().Get(format).numberFormat, owner.Strings());
+                std::string text = DisplayText(ContentOf(cell, owner.Strings(), owner.OpenedFormulas()),
+                                               owner.Formats().Get(format).numberFormat);
                 if (!common) {
                     common = std::move(text);
                 } else if (*common != text) {

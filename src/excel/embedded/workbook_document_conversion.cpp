@@ -80,7 +80,51 @@ void ConvertColumns(const WorksheetModel& sheet, ooxml::SheetDocument& out) {
     }
 }
 
-ooxml::SheetDocument ConvertSheet(const WorksheetModel& sheet, StringNumbering& strings, const StringPool& pool) {
+// Puts a value, a cell's own or the result an opened formula keeps, into the document's cell.
+void ConvertValue(const Cell& value, StringNumbering& strings, ooxml::Cell& out) {
+    switch (value.kind) {
+        case CellKind::Blank:
+        case CellKind::Formula:
+        case CellKind::OpenedFormula:
+            break;
+        case CellKind::Number:
+            out.type = ooxml::CellType::Number;
+            out.number = value.number;
+            break;
+        case CellKind::Boolean:
+            out.type = ooxml::CellType::Boolean;
+            out.number = value.number;
+            break;
+        case CellKind::Text:
+            out.type = ooxml::CellType::String;
+            out.string = strings.Number(value.text);
+            break;
+        case CellKind::Error:
+            out.type = ooxml::CellType::Error;
+            out.string = strings.NumberText(ErrorTextFromNumber(value.error));
+            break;
+    }
+}
+
+// Adds an opened formula of the cell at row, column to the sheet's formulas with its result and,
+// for an array formula, the block it fills.
+uint32_t ConvertOpenedFormula(const OpenedFormula& formula, int32_t row, int32_t column, const StringPool& pool,
+                              StringNumbering& strings, ooxml::SheetDocument& sheet, ooxml::Cell& out) {
+    const auto index = static_cast<uint32_t>(sheet.formulas.size());
+    sheet.formulas.push_back(pool.Get(formula.text).text);
+    ConvertValue(formula.result, strings, out);
+    if (formula.IsArray()) {
+        sheet.arrayFormulas.emplace(
+            index, ooxml::CellBlock{static_cast<uint32_t>(row), static_cast<uint32_t>(column),
+                                    static_cast<uint32_t>(std::min(row + formula.arrayRows - 1, MaxRow)),
+                                    static_cast<uint32_t>(std::min(column + formula.arrayColumns - 1, MaxColumn))});
+    }
+    return index;
+}
+
+ooxml::SheetDocument ConvertSheet(const WorksheetModel& sheet, StringNumbering& strings) {
+    const StringPool& pool = sheet.Book().Strings();
+    const OpenedFormulaTable& formulas = sheet.Book().OpenedFormulas();
     const SheetSettings& settings = sheet.Settings();
     ooxml::SheetDocument out;
     out.name = settings.name;
@@ -110,29 +154,14 @@ ooxml::SheetDocument ConvertSheet(const WorksheetModel& sheet, StringNumbering& 
             ooxml::Cell outCell;
             outCell.column = cell.column;
             outCell.format = cell.format;
-            switch (cell.kind) {
-                case CellKind::Blank:
-                    break;
-                case CellKind::Number:
-                    outCell.type = ooxml::CellType::Number;
-                    outCell.number = cell.number;
-                    break;
-                case CellKind::Boolean:
-                    outCell.type = ooxml::CellType::Boolean;
-                    outCell.number = cell.number;
-                    break;
-                case CellKind::Text:
-                    outCell.type = ooxml::CellType::String;
-                    outCell.string = strings.Number(cell.text);
-                    break;
-                case CellKind::Error:
-                    outCell.type = ooxml::CellType::Error;
-                    outCell.string = strings.NumberText(ErrorTextFromNumber(cell.error));
-                    break;
-                case CellKind::Formula:
-                    outCell.formula = static_cast<uint32_t>(out.formulas.size());
-                    out.formulas.push_back(pool.Get(cell.text).text);
-                    break;
+            if (cell.kind == CellKind::Formula) {
+                outCell.formula = static_cast<uint32_t>(out.formulas.size());
+                out.formulas.push_back(pool.Get(cell.text).text);
+            } else if (cell.kind == CellKind::OpenedFormula) {
+                outCell.formula =
+                    ConvertOpenedFormula(formulas.Get(cell.text), row.index, cell.column, pool, strings, out, outCell);
+            } else {
+                ConvertValue(cell, strings, outCell);
             }
             outRow.cells.push_back(outCell);
         }
@@ -145,9 +174,50 @@ ooxml::SheetDocument ConvertSheet(const WorksheetModel& sheet, StringNumbering& 
     return out;
 }
 
+// The document's strings as the workbook's StringPool ids, and its texts for error values.
+struct DocumentStrings {
+    std::vector<uint32_t> ids;
+    const std::vector<ooxml::SharedString>& texts;
+};
+
+// Gives the cell the value the document's cell holds (its own, or a formula's result).
+void LoadValue(const ooxml::Cell& in, const DocumentStrings& strings, Cell& cell) {
+    if (in.type == ooxml::CellType::Number || in.type == ooxml::CellType::Boolean) {
+        cell.kind = in.type == ooxml::CellType::Number ? CellKind::Number : CellKind::Boolean;
+        cell.number = in.number;
+    } else if (in.type == ooxml::CellType::String && in.string < strings.ids.size()) {
+        cell.kind = CellKind::Text;
+        cell.text = strings.ids[in.string];
+    } else if (in.type == ooxml::CellType::Error && in.string < strings.texts.size()) {
+        cell.kind = CellKind::Error;
+        cell.error = ErrorNumberFromText(strings.texts[in.string].text).value_or(2042);
+    }
+}
+
+// Gives the cell the document cell's formula. One with a cached result or an array block becomes
+// an opened formula that keeps them; any other is stored as a formula set by the client is.
+void LoadFormula(const ooxml::SheetDocument& sheet, const ooxml::Cell& in, const DocumentStrings& strings,
+                 WorkbookModel& book, Cell& cell) {
+    const uint32_t text = book.Strings().Intern(sheet.formulas[in.formula]);
+    const auto array = sheet.arrayFormulas.find(in.formula);
+    if (in.type == ooxml::CellType::Blank && array == sheet.arrayFormulas.end()) {
+        cell.kind = CellKind::Formula;
+        cell.text = text;
+        return;
+    }
+    OpenedFormula formula;
+    formula.text = text;
+    LoadValue(in, strings, formula.result);
+    if (array != sheet.arrayFormulas.end()) {
+        formula.arrayRows = static_cast<int32_t>(array->second.lastRow - array->second.firstRow + 1);
+        formula.arrayColumns = static_cast<int32_t>(array->second.lastColumn - array->second.firstColumn + 1);
+    }
+    cell.kind = CellKind::OpenedFormula;
+    cell.text = book.OpenedFormulas().Add(formula);
+}
+
 void LoadSheet(WorksheetModel& sheet, const ooxml::SheetDocument& in, const std::vector<uint32_t>& formatIds,
-               const std::vector<uint32_t>& stringIds, const std::vector<ooxml::SharedString>& strings,
-               StringPool& pool) {
+               const DocumentStrings& strings) {
     SheetSettings& settings = sheet.Settings();
     settings.visibility = in.state == "hidden" ? 0 : in.state == "veryHidden" ? 2 : -1;
     settings.showGridlines = in.showGridLines;
@@ -178,17 +248,9 @@ void LoadSheet(WorksheetModel& sheet, const ooxml::SheetDocument& in, const std:
         for (const ooxml::Cell& inCell : inRow.cells) {
             Cell cell = Cell::Blank(static_cast<int32_t>(inCell.column), formatId(inCell.format));
             if (inCell.formula != ooxml::NoFormula && inCell.formula < in.formulas.size()) {
-                cell.kind = CellKind::Formula;
-                cell.text = pool.Intern(in.formulas[inCell.formula]);
-            } else if (inCell.type == ooxml::CellType::Number || inCell.type == ooxml::CellType::Boolean) {
-                cell.kind = inCell.type == ooxml::CellType::Number ? CellKind::Number : CellKind::Boolean;
-                cell.number = inCell.number;
-            } else if (inCell.type == ooxml::CellType::String && inCell.string < stringIds.size()) {
-                cell.kind = CellKind::Text;
-                cell.text = stringIds[inCell.string];
-            } else if (inCell.type == ooxml::CellType::Error && inCell.string < strings.size()) {
-                cell.kind = CellKind::Error;
-                cell.error = ErrorNumberFromText(strings[inCell.string].text).value_or(2042);
+                LoadFormula(in, inCell, strings, sheet.Book(), cell);
+            } else {
+                LoadValue(inCell, strings, cell);
             }
             row.cells.push_back(cell);
         }
@@ -207,7 +269,7 @@ ooxml::WorkbookDocument ToDocument(const WorkbookModel& book, const std::string&
     document.formats = book.Formats().All();
     StringNumbering strings(book.Strings(), document.strings);
     for (const auto& sheet : book.Sheets()) {
-        document.sheets.push_back(ConvertSheet(*sheet, strings, book.Strings()));
+        document.sheets.push_back(ConvertSheet(*sheet, strings));
         document.sheets.back().tabSelected = sheet.get() == book.ActiveSheet();
         if (sheet.get() == book.ActiveSheet()) {
             document.activeSheet = static_cast<uint32_t>(document.sheets.size() - 1);
@@ -240,13 +302,13 @@ void LoadDocument(WorkbookModel& book, const ooxml::WorkbookDocument& document) 
     for (const ooxml::CellFormat& format : document.formats) {
         formatIds.push_back(book.Formats().Intern(format));
     }
-    std::vector<uint32_t> stringIds;
-    stringIds.reserve(document.strings.size());
+    DocumentStrings strings{{}, document.strings};
+    strings.ids.reserve(document.strings.size());
     for (const ooxml::SharedString& text : document.strings) {
-        stringIds.push_back(book.Strings().Add(text));
+        strings.ids.push_back(book.Strings().Add(text));
     }
     for (const ooxml::SheetDocument& sheet : document.sheets) {
-        LoadSheet(*book.AppendSheet(sheet.name), sheet, formatIds, stringIds, document.strings, book.Strings());
+        LoadSheet(*book.AppendSheet(sheet.name), sheet, formatIds, strings);
     }
     if (document.activeSheet < book.Sheets().size() &&
         book.Sheets()[document.activeSheet]->Settings().visibility == -1) {

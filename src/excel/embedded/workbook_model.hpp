@@ -3,6 +3,7 @@
 #include "excel/embedded/block_shift.hpp"
 #include "excel/embedded/defined_name_model.hpp"
 #include "excel/embedded/format_table.hpp"
+#include "excel/embedded/opened_formula_table.hpp"
 #include "excel/embedded/string_pool.hpp"
 #include "excel/embedded/worksheet_model.hpp"
 
@@ -72,6 +73,8 @@ public:
     const FormatTable& Formats() const { return formats_; }
     StringPool& Strings() { return strings_; }
     const StringPool& Strings() const { return strings_; }
+    OpenedFormulaTable& OpenedFormulas() { return openedFormulas_; }
+    const OpenedFormulaTable& OpenedFormulas() const { return openedFormulas_; }
     std::array<uint32_t, 56>& Palette() { return palette_; }
     const std::array<uint32_t, 56>& Palette() const { return palette_; }
 
@@ -95,6 +98,7 @@ private:
     std::vector<std::shared_ptr<DefinedNameModel>> names_;
     FormatTable formats_;
     StringPool strings_;
+    OpenedFormulaTable openedFormulas_;
     std::array<uint32_t, 56> palette_;
     bool protectStructure_ = false;
     bool protectWindows_ = false;
