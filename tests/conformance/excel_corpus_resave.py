@@ -1,6 +1,7 @@
 """Resaves workbooks that Excel made through the engine and checks every result: schema validation
 (validate-xlsx, no FAIL), logical consistency (check-xlsx, no ERROR) and, read back with openpyxl,
-the same worksheet names, cell values, defined names, print areas and print titles as the original.
+the same worksheet names, cell values, formula results, defined names, print areas and print titles
+as the original.
 
 The workbooks are the EXCEL-classified .xlsx files of one folder of the Excel corpus, as its
 INDEX.md lists them; --every N takes every N-th of them in name order. Content the engine does not
@@ -124,17 +125,22 @@ def same_value(original, resaved):
 
 
 def workbook_content(path):
+    """Per sheet: its cells' values (a formula as its text), the results cached for its formula
+    cells, its print area and print titles; then the sheet names and the defined names."""
     with warnings.catch_warnings():
         warnings.simplefilter("ignore")
         book = openpyxl.load_workbook(path)
+        cached = openpyxl.load_workbook(path, data_only=True)
     sheets = {}
     for sheet in book.worksheets:
-        cells = {}
+        cells, results = {}, {}
         for row in sheet.iter_rows():
             for cell in row:
                 if cell.value is not None:
                     cells[cell.coordinate] = cell.value
-        sheets[sheet.title] = (cells, sheet.print_area, sheet.print_title_rows, sheet.print_title_cols)
+                if cell.data_type == "f":
+                    results[cell.coordinate] = cached[sheet.title][cell.coordinate].value
+        sheets[sheet.title] = (cells, results, sheet.print_area, sheet.print_title_rows, sheet.print_title_cols)
     all_sheets = book.sheetnames
     names = {}
     for name in book.defined_names.definedName:
@@ -155,12 +161,16 @@ def content_differences(original_path, resaved_path):
     differences = []
     if original[0] != resaved[0]:
         return [f"worksheet names {original[0]} became {resaved[0]}"]
-    for title, (cells, *printing) in original[1].items():
-        resaved_cells, *resaved_printing = resaved[1][title]
+    for title, (cells, results, *printing) in original[1].items():
+        resaved_cells, resaved_results, *resaved_printing = resaved[1][title]
         for address in sorted(set(cells) | set(resaved_cells)):
             before, after = cells.get(address), resaved_cells.get(address)
             if not same_value(before, after):
                 differences.append(f"{title}!{address}: {before!r} became {after!r}")
+        for address in sorted(set(results) | set(resaved_results)):
+            before, after = results.get(address), resaved_results.get(address)
+            if not same_value(before, after):
+                differences.append(f"{title}!{address}: result {before!r} became {after!r}")
         if printing != resaved_printing:
             differences.append(f"{title}: print area/titles {printing} became {resaved_printing}")
     for key in sorted(original[2].keys() | resaved[2].keys(), key=repr):
