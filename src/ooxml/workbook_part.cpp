@@ -8,14 +8,9 @@ namespace ooxml {
 
 namespace {
 
-bool HasFormulaWithoutResult(const WorkbookDocument& document) {
-    return std::any_of(document.sheets.begin(), document.sheets.end(), [](const SheetDocument& sheet) {
-        return std::any_of(sheet.rows.begin(), sheet.rows.end(), [](const Row& row) {
-            return std::any_of(row.cells.begin(), row.cells.end(), [](const Cell& cell) {
-                return cell.formula != NoFormula && cell.type == CellType::Blank;
-            });
-        });
-    });
+bool HasFormulas(const WorkbookDocument& document) {
+    return std::any_of(document.sheets.begin(), document.sheets.end(),
+                       [](const SheetDocument& sheet) { return !sheet.formulas.empty(); });
 }
 
 void WriteProtection(XmlWriter& xml, const WorkbookDocument& document) {
@@ -88,8 +83,10 @@ void WriteWorkbookPart(XmlWriter& xml, const WorkbookDocument& document,
     WriteDefinedNames(xml, document.names);
     xml.StartElement("calcPr");
     xml.Attribute("calcId", 191029);
-    // A formula set without calculating it has no result to show until Excel recalculates on opening.
-    if (HasFormulaWithoutResult(document)) {
+    // The engine does not calculate: a formula it wrote has no result, and a result kept from an opened
+    // file may be stale once inputs changed. The results stay for readers that do not calculate, and
+    // Excel recalculates every formula on opening.
+    if (HasFormulas(document)) {
         xml.Attribute("fullCalcOnLoad", "1");
     }
     xml.EndElement();

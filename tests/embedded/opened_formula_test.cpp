@@ -99,14 +99,14 @@ TEST_F(OpenedFormulaTest, FormulaStillReadsTheFormula) {
     EXPECT_EQ(data->Range("D1")->Formula(), Variant("=A1:A2*10"));
 }
 
-TEST_F(OpenedFormulaTest, ResavedFormulasKeepTheirResultsAndExcelDoesNotRecalculate) {
+TEST_F(OpenedFormulaTest, ResavedFormulasKeepTheirResultsAndExcelRecalculatesThem) {
     const std::string path = Resave("resaved.xlsx");
     const std::string sheetXml = PartOf(path, "xl/worksheets/sheet1.xml");
     EXPECT_TRUE(Contains(sheetXml, R"(<c r="B1"><f>A1*2</f><v>4</v></c>)")) << sheetXml;
     EXPECT_TRUE(Contains(sheetXml, R"(<c r="B2" t="str"><f>"a"&amp;"b"</f><v>ab</v></c>)")) << sheetXml;
     EXPECT_TRUE(Contains(sheetXml, R"(<c r="B3" t="b"><f>A1&gt;1</f><v>1</v></c>)")) << sheetXml;
     EXPECT_TRUE(Contains(sheetXml, R"(<c r="B4" t="e"><f>1/0</f><v>#DIV/0!</v></c>)")) << sheetXml;
-    EXPECT_FALSE(Contains(PartOf(path, "xl/workbook.xml"), "fullCalcOnLoad"));
+    EXPECT_TRUE(Contains(PartOf(path, "xl/workbook.xml"), R"(fullCalcOnLoad="1")"));
 }
 
 TEST_F(OpenedFormulaTest, ArrayFormulaSurvivesAResaveUnchanged) {

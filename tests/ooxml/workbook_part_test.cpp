@@ -40,8 +40,15 @@ TEST(WorkbookPart, FormulaWithoutResultAsksExcelToCalculateOnOpening) {
     EXPECT_EQ(FullCalculationOnLoad(FormulaInA1(std::nullopt)), "1");
 }
 
-TEST(WorkbookPart, FormulasWithResultsAreNotRecalculatedOnOpening) {
-    EXPECT_EQ(FullCalculationOnLoad(FormulaInA1(3.0)), "");
+TEST(WorkbookPart, FormulaWithAKeptResultIsStillRecalculatedOnOpening) {
+    EXPECT_EQ(FullCalculationOnLoad(FormulaInA1(3.0)), "1");
+}
+
+TEST(WorkbookPart, WorkbookWithoutFormulasIsNotRecalculatedOnOpening) {
+    WorkbookDocument document = FormulaInA1(3.0);
+    document.sheets[0].formulas.clear();
+    document.sheets[0].rows[0].cells[0].formula = NoFormula;
+    EXPECT_EQ(FullCalculationOnLoad(document), "");
 }
 
 }  // namespace
