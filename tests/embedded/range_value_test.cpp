@@ -122,6 +122,24 @@ TEST_F(EngineTest, SettingEmptyClearsTheValue) {
     EXPECT_TRUE(At("A1")->Value().IsEmpty());
 }
 
+TEST_F(EngineTest, SettingEmptyOnTheWholeSheetClearsValuesAndKeepsFormats) {
+    At("B2:C3")->SetValue(3.0);
+    At("B2")->Font()->SetBold(true);
+    sheet->Cells()->SetValue(Variant());
+    EXPECT_TRUE(At("B2")->Value().IsEmpty());
+    EXPECT_TRUE(At("C3")->Value().IsEmpty());
+    EXPECT_EQ(At("B2")->Font()->Bold(), Variant(true));
+}
+
+TEST_F(EngineTest, AWriteTooLargeToStoreIsRefusedAndChangesNothing) {
+    At("A1")->SetValue(1.0);
+    EXPECT_EQ(ErrorCodeOf([&] { sheet->Cells()->SetValue(5.0); }), static_cast<int32_t>(0x800A0007));
+    EXPECT_EQ(At("A1")->Value(), Variant(1.0));
+    EXPECT_TRUE(At("B1")->Value().IsEmpty());
+    sheet->Columns(2)->SetValue(5.0);
+    EXPECT_EQ(At("B1048576")->Value(), Variant(5.0));
+}
+
 TEST_F(EngineTest, TextUsesTheNumberFormat) {
     At("A1")->SetValue(1234.567);
     EXPECT_EQ(At("A1")->Text(), Variant("1234.567"));

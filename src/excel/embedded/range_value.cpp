@@ -5,8 +5,12 @@
 #include "excel/embedded/cell_value.hpp"
 #include "excel/embedded/engine_errors.hpp"
 
+#include <excel/automation_error.hpp>
 #include <excel/constants.hpp>
 #include <excel/safe_array.hpp>
+
+#include <cstdint>
+#include <vector>
 
 namespace excel::embedded {
 
@@ -43,6 +47,21 @@ private:
 
 void RefuseUnstorable() {
     ThrowRefused("Application-defined or object-defined error");
+}
+
+// Every written position becomes a stored cell. A write larger than this (the whole sheet holds
+// over 17 billion cells) could not be stored, so it fails, as reading such a block does, before it
+// changes anything.
+constexpr int64_t MaxCellsPerWrite = int64_t{1} << 27;
+
+void RefuseWritesBeyondMemory(const std::vector<CellBlock>& areas) {
+    int64_t cells = 0;
+    for (const CellBlock& area : areas) {
+        cells += area.CellCount();
+    }
+    if (cells > MaxCellsPerWrite) {
+        ThrowRuntimeError(7);
+    }
 }
 
 }  // namespace
@@ -84,7 +103,12 @@ void RangeView::writeValues(const Variant& value, bool plain) {
         }
     } else if (!IsStorableValue(value)) {
         RefuseUnstorable();
+    } else if (value.IsEmpty()) {
+        // Writing Empty clears the values, touching only the cells that are stored.
+        ClearContents();
+        return;
     }
+    RefuseWritesBeyondMemory(cells_.areas);
     CellValueWriter writer(owner);
     const Variant notAvailable(ErrorValue{ErrorValueCode(xlErrNA)});
     for (const CellBlock& area : cells_.areas) {
