@@ -140,6 +140,20 @@ TEST_F(EngineTest, AWriteTooLargeToStoreIsRefusedAndChangesNothing) {
     EXPECT_EQ(At("B1048576")->Value(), Variant(5.0));
 }
 
+TEST_F(EngineTest, TextOfSeveralCellsIsTheirCommonTextOrNull) {
+    At("B2:C3")->SetValue(7.0);
+    EXPECT_EQ(At("B2:C3")->Text(), Variant("7"));
+    At("C3")->SetNumberFormat("0.0");
+    EXPECT_TRUE(At("B2:C3")->Text().IsNull());
+    EXPECT_TRUE(At("B2:D3")->Text().IsNull());
+    EXPECT_EQ(At("E1:F9")->Text(), Variant(""));
+    At("E1")->Font()->SetBold(true);
+    EXPECT_EQ(At("E1:F9")->Text(), Variant(""));
+    EXPECT_TRUE(sheet->Cells()->Text().IsNull());
+    sheet->Cells()->ClearContents();
+    EXPECT_EQ(sheet->Cells()->Text(), Variant(""));
+}
+
 TEST_F(EngineTest, TextUsesTheNumberFormat) {
     At("A1")->SetValue(1234.567);
     EXPECT_EQ(At("A1")->Text(), Variant("1234.567"));

@@ -10,6 +10,8 @@
 #include <excel/safe_array.hpp>
 
 #include <cstdint>
+#include <optional>
+#include <string>
 #include <vector>
 
 namespace excel::embedded {
@@ -170,26 +172,35 @@ void RangeView::SetFormula(const Variant& formula) {
 }
 
 Variant RangeView::Text() {
+    // A position holding no cell shows "" whatever its format, so the stored cells decide the
+    // answer and the empty positions of a large range need not be visited one by one.
     const WorkbookModel& owner = book();
-    const CellStore& store = cells_.sheet->Cells();
     std::optional<std::string> common;
+    bool differs = false;
+    int64_t positions = 0;
+    int64_t stored = 0;
     for (const CellBlock& area : cells_.areas) {
-        for (int32_t row = area.top; row <= area.bottom; ++row) {
-            const RowData* data = store.FindRow(row);
-            for (int32_t column = area.left; column <= area.right; ++column) {
-                const Cell* cell = data ? data->Find(column) : nullptr;
-                const uint32_t format = cells_.sheet->ResolvedFormat(row, column);
-                std::string text = DisplayText(ContentOf(cell, owner.Strings(), owner.OpenedFormulas()),
-                                               owner.Formats().Get(format).numberFormat);
-                if (!common) {
-                    common = std::move(text);
-                } else if (*common != text) {
-                    return Variant::Null();
-                }
+        positions += area.CellCount();
+        cells_.sheet->ForEachStoredCell(area, [&](int32_t row, Cell& cell) {
+            ++stored;
+            if (differs) {
+                return;
             }
-        }
+            std::string text =
+                DisplayText(ContentOf(&cell, owner.Strings(), owner.OpenedFormulas()),
+                            owner.Formats().Get(cells_.sheet->ResolvedFormat(row, cell.column)).numberFormat);
+            if (!common) {
+                common = std::move(text);
+            } else if (*common != text) {
+                differs = true;
+            }
+        });
     }
-    return Variant(common.value_or(std::string()));
+    if (stored < positions) {
+        differs = differs || (common && !common->empty());
+        common = std::string();
+    }
+    return differs ? Variant::Null() : Variant(common.value_or(std::string()));
 }
 
 void RangeView::ClearContents() {
