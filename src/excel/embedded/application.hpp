@@ -28,6 +28,8 @@ public:
                                         const std::shared_ptr<excel::Range>& arg2,
                                         const std::vector<std::shared_ptr<excel::Range>>& more) override;
 
+    const void* Identity() const override { return model_.get(); }
+
 private:
     std::shared_ptr<ApplicationModel> model_;
 };

@@ -40,6 +40,8 @@ public:
     void Save() override;
     void Close(const Variant& saveChanges, const Variant& fileName) override;
 
+    const void* Identity() const override { return model_.get(); }
+
 private:
     WorkbookModel& model() const;
 

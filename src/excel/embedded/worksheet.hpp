@@ -45,6 +45,8 @@ public:
     void Select() override;
     void Delete() override;
 
+    const void* Identity() const override { return model_.get(); }
+
 private:
     std::shared_ptr<WorksheetModel> model_;
 };
