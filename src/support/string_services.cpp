@@ -1,0 +1,29 @@
+#include "support/string_services.hpp"
+
+namespace vos {
+
+std::string StringServices::SplitFirstToken(std::string& text, std::string_view delimiter) const {
+    const size_t position = delimiter.empty() ? std::string::npos : text.find(delimiter);
+    if (position == std::string::npos) {
+        std::string token = std::move(text);
+        text.clear();
+        return token;
+    }
+    std::string token = text.substr(0, position);
+    text.erase(0, position + delimiter.size());
+    return token;
+}
+
+bool StringServices::BeginsWith(std::string_view text, std::string_view prefix) const {
+    return text.starts_with(prefix);
+}
+
+std::string StringServices::StripPrefix(std::string_view text, std::string_view prefix) const {
+    return std::string(BeginsWith(text, prefix) ? text.substr(prefix.size()) : text);
+}
+
+bool StringServices::EndsWith(std::string_view text, std::string_view suffix) const {
+    return text.ends_with(suffix);
+}
+
+}  // namespace vos
