@@ -1,0 +1,92 @@
+#include "workbook/creation_tags.hpp"
+
+#include "entry/library_error.hpp"
+#include "support/support_services.hpp"
+#include "support/trim_blanks.hpp"
+
+#include <excel/automation_error.hpp>
+#include <excel/names.hpp>
+#include <excel/sheets.hpp>
+#include <excel/workbook.hpp>
+#include <excel/worksheet.hpp>
+
+#include <algorithm>
+
+namespace vos {
+
+namespace {
+
+// The identifier as a formula's text constant: ="MyApp", with embedded quotes doubled so that
+// evaluating the name gives the identifier back.
+std::string TextConstantFormula(const std::string& identifier) {
+    std::string formula = "=\"";
+    for (char c : identifier) {
+        if (c == '"')
+            formula += '"';
+        formula += c;
+    }
+    return formula + "\"";
+}
+
+std::string TrimmedIdentifierForTagging(const std::string& applicationIdentifier) {
+    std::string identifier = TrimBlanks(applicationIdentifier);
+    if (identifier.empty())
+        RaiseLibraryError(error_code::EmptyArgument, "applicationIdentifier");
+    return identifier;
+}
+
+std::string UpperCaseAscii(std::string text) {
+    std::transform(text.begin(), text.end(), text.begin(),
+                   [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
+    return text;
+}
+
+// The text a tag name evaluates to on the sheet, or "" when the sheet cannot be had, there is no
+// such name, or its value is not text-like.
+template <class SheetSource>
+std::string EvaluatedTag(SheetSource sheet, std::string_view tagName) {
+    try {
+        return sheet()->Evaluate(std::string(tagName)).ToString();
+    } catch (const excel::AutomationError&) {
+        return {};
+    }
+}
+
+bool TagMatches(const std::string& tagValue, const std::string& applicationIdentifier) {
+    if (tagValue.empty())
+        return false;
+    const std::string identifier = TrimBlanks(applicationIdentifier);
+    return identifier.empty() || UpperCaseAscii(tagValue) == UpperCaseAscii(identifier);
+}
+
+}  // namespace
+
+void TagWorkbook(const std::shared_ptr<excel::Workbook>& wb, const std::string& applicationIdentifier) {
+    if (!wb)
+        RaiseLibraryError(error_code::MissingObject, "wb");
+    const std::string identifier = TrimmedIdentifierForTagging(applicationIdentifier);
+    wb->Names()->Add(std::string(WorkbookTagName), TextConstantFormula(identifier), true);
+}
+
+void TagWorksheet(const std::shared_ptr<excel::Worksheet>& ws, const std::string& applicationIdentifier) {
+    if (!ws)
+        RaiseLibraryError(error_code::MissingObject, "ws");
+    const std::string identifier = TrimmedIdentifierForTagging(applicationIdentifier);
+    const std::string qualifier = Support().Sheets().SheetNameQualifier(ws);
+    ws->Parent()->Names()->Add(qualifier + std::string(WorksheetTagName), TextConstantFormula(identifier), true);
+}
+
+bool WorkbookHasTag(const std::shared_ptr<excel::Workbook>& wb, const std::string& applicationIdentifier) {
+    if (!wb)
+        RaiseLibraryError(error_code::MissingObject, "wb");
+    const auto firstSheet = [&] { return wb->Worksheets()->Item(1); };
+    return TagMatches(EvaluatedTag(firstSheet, WorkbookTagName), applicationIdentifier);
+}
+
+bool WorksheetHasTag(const std::shared_ptr<excel::Worksheet>& ws, const std::string& applicationIdentifier) {
+    if (!ws)
+        RaiseLibraryError(error_code::MissingObject, "ws");
+    return TagMatches(EvaluatedTag([&] { return ws; }, WorksheetTagName), applicationIdentifier);
+}
+
+}  // namespace vos
