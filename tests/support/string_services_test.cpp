@@ -1,0 +1,43 @@
+#include "support/support_services.hpp"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const vos::StringServices& strings = vos::Support().Strings();
+
+}  // namespace
+
+TEST(StringServices, SplitFirstTokenAnswersTheTextBeforeTheDelimiterAndKeepsTheRest) {
+    std::string text = "Operator\tJane Doe\tShift 2";
+    EXPECT_EQ(strings.SplitFirstToken(text, "\t"), "Operator");
+    EXPECT_EQ(text, "Jane Doe\tShift 2");
+    EXPECT_EQ(strings.SplitFirstToken(text, "\t"), "Jane Doe");
+    EXPECT_EQ(text, "Shift 2");
+}
+
+TEST(StringServices, SplitFirstTokenWithoutADelimiterAnswersTheWholeText) {
+    std::string text = "Only a value";
+    EXPECT_EQ(strings.SplitFirstToken(text, "\t"), "Only a value");
+    EXPECT_EQ(text, "");
+}
+
+TEST(StringServices, SplitFirstTokenAtALeadingDelimiterAnswersEmpty) {
+    std::string text = "\nsecond line";
+    EXPECT_EQ(strings.SplitFirstToken(text, "\n"), "");
+    EXPECT_EQ(text, "second line");
+}
+
+TEST(StringServices, PrefixAndSuffixTestsAreExact) {
+    EXPECT_TRUE(strings.BeginsWith("[LOCAL]0,00", "[LOCAL]"));
+    EXPECT_FALSE(strings.BeginsWith("[local]0,00", "[LOCAL]"));
+    EXPECT_FALSE(strings.BeginsWith("[LOC", "[LOCAL]"));
+    EXPECT_TRUE(strings.EndsWith("Date:", ":"));
+    EXPECT_FALSE(strings.EndsWith("Date", ":"));
+    EXPECT_FALSE(strings.EndsWith("", ":"));
+}
+
+TEST(StringServices, StripPrefixRemovesOnlyALeadingMarker) {
+    EXPECT_EQ(strings.StripPrefix("[LOCAL]0,00", "[LOCAL]"), "0,00");
+    EXPECT_EQ(strings.StripPrefix("0,00[LOCAL]", "[LOCAL]"), "0,00[LOCAL]");
+}
