@@ -46,7 +46,9 @@ std::string UpperCaseAscii(std::string text) {
 template <class SheetSource>
 std::string EvaluatedTag(SheetSource sheet, std::string_view tagName) {
     try {
-        return sheet()->Evaluate(std::string(tagName)).ToString();
+        // An error value (#NAME? for a missing name) does not convert to text: no tag.
+        const excel::Variant value = sheet()->Evaluate(std::string(tagName));
+        return value.IsError() ? std::string() : value.ToString();
     } catch (const excel::AutomationError&) {
         return {};
     }
