@@ -1,7 +1,9 @@
 #include "report_fixture.hpp"
 
 #include "entry/unit_testing_mode.hpp"
+#include "support/support_services.hpp"
 
+#include <array>
 #include <atomic>
 #include <barrier>
 #include <thread>
@@ -39,11 +41,14 @@ TEST_F(UnitTestingModeTest, EachThreadHasItsOwnFlag) {
 
 TEST_F(UnitTestingModeTest, TwoThreadsBuildTwoWorkbooksAtOnceEachWithItsOwnMode) {
     // Both threads switch their mode, then wait for each other before reading it back, so the
-    // two flags are live at the same time.
+    // two flags, and the two threads' support services, are live at the same time.
     std::barrier bothSwitched(2);
     std::atomic<int> failures{0};
+    std::array<const vos::SupportServices*, 2> supportInstances{};
+    const vos::SupportServices* mainInstance = &vos::Support();
     auto build = [&](bool mode, const std::string& identifier) {
         try {
+            supportInstances[mode ? 0 : 1] = &vos::Support();
             vos::VosExcelReporting entry;
             entry.SetUnitTestingMode(mode);
             auto application = excel::embedded::CreateApplication();
@@ -64,5 +69,8 @@ TEST_F(UnitTestingModeTest, TwoThreadsBuildTwoWorkbooksAtOnceEachWithItsOwnMode)
     first.join();
     second.join();
     EXPECT_EQ(failures.load(), 0);
+    EXPECT_NE(supportInstances[0], supportInstances[1]);
+    EXPECT_NE(supportInstances[0], mainInstance);
+    EXPECT_NE(supportInstances[1], mainInstance);
     EXPECT_FALSE(reporting.UnitTestingMode());
 }
