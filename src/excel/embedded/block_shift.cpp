@@ -26,6 +26,10 @@ std::optional<CellBlock> ShiftBlock(const CellBlock& block, const BlockShift& sh
     }
     const int32_t limit = shift.vertical ? MaxRow : MaxColumn;
     Span along = AlongAxis(block, shift.vertical);
+    // Whole columns stay whole when rows come and go, and whole rows when columns do.
+    if (along.first == 1 && along.last == limit) {
+        return block;
+    }
     if (shift.insert) {
         if (along.first >= shift.at) {
             along.first += shift.count;

@@ -22,7 +22,7 @@ struct BlockShift {
 };
 
 // Where a block ends up: moved, grown, shrunk, or nullopt when all of it was deleted. A block not
-// within the band is unchanged.
+// within the band, or spanning the whole sheet along the shift, is unchanged.
 std::optional<CellBlock> ShiftBlock(const CellBlock& block, const BlockShift& shift);
 
 // Whether a block lies partly inside the band and partly outside it where cells move, so shifting
