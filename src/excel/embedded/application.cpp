@@ -80,11 +80,12 @@ std::shared_ptr<excel::Range> ApplicationView::Union(const std::shared_ptr<excel
             ThrowRefused("Method 'Union' of object '_Application' failed");
         }
         view->Target().Book();
-        if (sheet && view->Target().sheet != sheet) {
+        if (sheet && view->Target().Sheet() != sheet) {
             ThrowRefused("Method 'Union' of object '_Application' failed");
         }
-        sheet = view->Target().sheet;
-        areas.insert(areas.end(), view->Target().areas.begin(), view->Target().areas.end());
+        sheet = view->Target().Sheet();
+        const std::vector<CellBlock>& viewAreas = view->Target().Areas();
+        areas.insert(areas.end(), viewAreas.begin(), viewAreas.end());
     }
     return std::make_shared<RangeView>(RangeCells{sheet, std::move(areas)});
 }

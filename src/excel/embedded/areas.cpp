@@ -8,7 +8,7 @@ namespace excel::embedded {
 
 int32_t AreasView::Count() {
     cells_.Book();
-    return static_cast<int32_t>(cells_.areas.size());
+    return static_cast<int32_t>(cells_.Areas().size());
 }
 
 std::shared_ptr<excel::Range> AreasView::Item(int32_t index) {
@@ -16,7 +16,7 @@ std::shared_ptr<excel::Range> AreasView::Item(int32_t index) {
     if (index < 1 || index > Count()) {
         ThrowRuntimeError(9);
     }
-    return std::make_shared<RangeView>(RangeCells{cells_.sheet, {cells_.areas[static_cast<size_t>(index - 1)]}});
+    return std::make_shared<RangeView>(RangeCells{cells_.Sheet(), {cells_.Areas()[static_cast<size_t>(index - 1)]}});
 }
 
 }  // namespace excel::embedded

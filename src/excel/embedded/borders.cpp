@@ -237,13 +237,14 @@ Variant BordersView::read(Project&& project) {
     WorkbookModel& book = cells_.Book();
     const FormatTable& formats = book.Formats();
     std::vector<ooxml::BorderLine> lines;
-    for (const CellBlock& area : cells_.areas) {
+    for (const CellBlock& area : cells_.Areas()) {
         for (int32_t index : indices_) {
             const BorderPlacement placement = Place(area, index);
             if (placement.outside) {
                 // An edge shows the block's own side, else the touching side of the cell outside.
                 const SidePart& own = placement.read.front();
-                for (const auto& [ownId, touchingId] : FacingFormats(*cells_.sheet, own.block, placement.outside->block)) {
+                for (const auto& [ownId, touchingId] :
+                     FacingFormats(*cells_.Sheet(), own.block, placement.outside->block)) {
                     const ooxml::BorderLine& line = LineOf(formats.Get(ownId).border, own.side);
                     lines.push_back(line.style.empty() ? LineOf(formats.Get(touchingId).border, placement.outside->side)
                                                        : line);
@@ -251,7 +252,7 @@ Variant BordersView::read(Project&& project) {
                 continue;
             }
             for (const SidePart& part : placement.read) {
-                for (uint32_t id : cells_.sheet->DistinctFormats(part.block)) {
+                for (uint32_t id : cells_.Sheet()->DistinctFormats(part.block)) {
                     const ooxml::Border& border = formats.Get(id).border;
                     const bool diagonalShown = index == diagonalDown ? border.diagonalDown : border.diagonalUp;
                     lines.push_back(part.side == Side::Diagonal && !diagonalShown ? ooxml::BorderLine{}
@@ -316,16 +317,16 @@ void BordersView::edit(const std::function<void(ooxml::BorderLine&)>& editLine) 
                 }
             });
         }
-        for (const CellBlock& area : cells_.areas) {
+        for (const CellBlock& area : cells_.Areas()) {
             const BorderPlacement placement = Place(area, index);
             if (placement.outside) {
-                AdoptTouchingLines(*cells_.sheet, book.Formats(), placement.write.front(), *placement.outside);
+                AdoptTouchingLines(*cells_.Sheet(), book.Formats(), placement.write.front(), *placement.outside);
             }
             for (const SidePart& part : placement.write) {
-                cells_.sheet->ApplyFormat(part.block, changes[static_cast<size_t>(part.side)]);
+                cells_.Sheet()->ApplyFormat(part.block, changes[static_cast<size_t>(part.side)]);
             }
             if (placement.outside) {
-                ClearTouchingSides(*cells_.sheet, book.Formats(), *placement.outside);
+                ClearTouchingSides(*cells_.Sheet(), book.Formats(), *placement.outside);
             }
         }
     }

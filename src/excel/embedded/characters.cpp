@@ -5,6 +5,8 @@
 #include "excel/embedded/rich_text.hpp"
 #include "excel/embedded/workbook_model.hpp"
 
+#include <algorithm>
+
 namespace excel::embedded {
 
 namespace {
@@ -32,42 +34,40 @@ Span SpanOf(const ooxml::SharedString& text, int32_t start, int32_t length) {
 
 class CharactersFontTarget final : public FontTarget {
 public:
-    CharactersFontTarget(std::shared_ptr<WorksheetModel> sheet, int32_t row, int32_t column, int32_t start,
-                         int32_t length)
-        : sheet_(std::move(sheet)), row_(row), column_(column), start_(start), length_(length) {}
+    CharactersFontTarget(RangeCells cell, int32_t start, int32_t length)
+        : cell_(std::move(cell)), start_(start), length_(length) {}
 
     std::vector<ooxml::Font> Fonts() override {
-        const WorkbookModel& book = sheet_->Book();
-        const ooxml::Font& cellFont = book.Formats().Get(sheet_->ResolvedFormat(row_, column_)).font;
-        const Cell* cell = sheet_->Cells().Find(row_, column_);
-        const ooxml::SharedString text = CellText(book, cell);
+        const WorkbookModel& book = cell_.Book();
+        const CellBlock& at = cell_.Areas().front();
+        WorksheetModel& sheet = *cell_.Sheet();
+        const ooxml::Font& cellFont = book.Formats().Get(sheet.ResolvedFormat(at.top, at.left)).font;
+        const ooxml::SharedString text = CellText(book, sheet.Cells().Find(at.top, at.left));
         const Span span = SpanOf(text, start_, length_);
         return FontsOf(text, span.start, span.count, cellFont);
     }
 
     void EditFonts(const std::function<void(ooxml::Font&)>& edit) override {
-        WorkbookModel& book = sheet_->Book();
-        const Cell* cell = sheet_->Cells().Find(row_, column_);
+        WorkbookModel& book = cell_.Book();
+        const CellBlock& at = cell_.Areas().front();
+        WorksheetModel& sheet = *cell_.Sheet();
+        Cell* cell = sheet.Cells().Find(at.top, at.left);
         if (cell == nullptr || cell->kind != CellKind::Text) {
             // Only text holds runs; for anything else Excel formats the whole cell.
-            FormatChange change(book.Formats(), [&](ooxml::CellFormat& format) { edit(format.font); });
-            sheet_->ApplyFormat(CellBlock{row_, column_, row_, column_}, change);
+            cell_.EditFormats([&](ooxml::CellFormat& format) { edit(format.font); });
             return;
         }
         const ooxml::Font cellFont = book.Formats().Get(cell->format).font;
         const ooxml::SharedString text = book.Strings().Get(cell->text);
         const Span span = SpanOf(text, start_, length_);
-        const uint32_t id = book.Strings().Add(WithFont(text, span.start, span.count, edit, cellFont));
-        sheet_->Cells().Find(row_, column_)->text = id;
+        cell->text = book.Strings().Add(WithFont(text, span.start, span.count, edit, cellFont));
         book.SetSaved(false);
     }
 
-    const Palette& Colors() override { return sheet_->Book().Palette(); }
+    const Palette& Colors() override { return cell_.Book().Palette(); }
 
 private:
-    std::shared_ptr<WorksheetModel> sheet_;
-    int32_t row_;
-    int32_t column_;
+    RangeCells cell_;
     int32_t start_;
     int32_t length_;
 };
@@ -75,7 +75,7 @@ private:
 }  // namespace
 
 std::string CharactersView::Text() {
-    const ooxml::SharedString text = CellText(sheet_->Book(), sheet_->Cells().Find(row_, column_));
+    const ooxml::SharedString text = currentText();
     const Span span = SpanOf(text, start_, length_);
     return CharactersOf(text, span.start, span.count);
 }
@@ -93,21 +93,20 @@ void CharactersView::SetCaption(const std::string& text) {
 }
 
 int32_t CharactersView::Count() {
-    const ooxml::SharedString text = CellText(sheet_->Book(), sheet_->Cells().Find(row_, column_));
-    return static_cast<int32_t>(SpanOf(text, start_, length_).count);
+    return static_cast<int32_t>(SpanOf(currentText(), start_, length_).count);
 }
 
 std::shared_ptr<excel::Font> CharactersView::Font() {
-    sheet_->Book();
-    return std::make_shared<FontView>(std::make_shared<CharactersFontTarget>(sheet_, row_, column_, start_, length_));
+    cell_.Book();
+    return std::make_shared<FontView>(std::make_shared<CharactersFontTarget>(cell_, start_, length_));
 }
 
 void CharactersView::Insert(const std::string& text) {
-    WorkbookModel& book = sheet_->Book();
-    const ooxml::SharedString current = CellText(book, sheet_->Cells().Find(row_, column_));
+    WorkbookModel& book = cell_.Book();
+    const ooxml::SharedString current = currentText();
     const Span span = SpanOf(current, start_, length_);
     const uint32_t id = book.Strings().Add(WithReplaced(current, span.start, span.count, text));
-    sheet_->WriteCells(CellBlock{row_, column_, row_, column_}, [&](int32_t, int32_t, Cell& cell) {
+    cell_.Sheet()->WriteCells(cell_.Areas().front(), [&](int32_t, int32_t, Cell& cell) {
         cell.kind = CellKind::Text;
         cell.text = id;
     });
@@ -116,6 +115,12 @@ void CharactersView::Insert(const std::string& text) {
 
 void CharactersView::Delete() {
     Insert("");
+}
+
+ooxml::SharedString CharactersView::currentText() const {
+    const WorkbookModel& book = cell_.Book();
+    const CellBlock& at = cell_.Areas().front();
+    return CellText(book, cell_.Sheet()->Cells().Find(at.top, at.left));
 }
 
 }  // namespace excel::embedded

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "excel/embedded/worksheet_model.hpp"
+#include "excel/embedded/range_cells.hpp"
+#include "ooxml/workbook_document.hpp"
 
 #include <excel/characters.hpp>
 
@@ -8,11 +9,12 @@
 
 namespace excel::embedded {
 
-// Characters start..start+length-1 of one cell's text (length -1: to the end).
+// Characters start..start+length-1 of one cell's text (length -1: to the end), following the cell
+// wherever inserts and deletes move it.
 class CharactersView final : public excel::Characters {
 public:
-    CharactersView(std::shared_ptr<WorksheetModel> sheet, int32_t row, int32_t column, int32_t start, int32_t length)
-        : sheet_(std::move(sheet)), row_(row), column_(column), start_(start), length_(length) {}
+    CharactersView(RangeCells cell, int32_t start, int32_t length)
+        : cell_(std::move(cell)), start_(start), length_(length) {}
 
     std::string Text() override;
     void SetText(const std::string& text) override;
@@ -24,9 +26,10 @@ public:
     void Delete() override;
 
 private:
-    std::shared_ptr<WorksheetModel> sheet_;
-    int32_t row_;
-    int32_t column_;
+    // The cell's text as rich text; Object required once the cell was deleted.
+    ooxml::SharedString currentText() const;
+
+    RangeCells cell_;
     int32_t start_;
     int32_t length_;
 };

@@ -16,7 +16,7 @@ std::string FormulaFromRefersTo(const Variant& refersTo) {
             ThrowRefused("The formula contains an error.");
         }
         range->Target().Book();
-        return WriteSheetReference(range->Target().sheet->Name(), range->Target().areas);
+        return WriteSheetReference(range->Target().Sheet()->Name(), range->Target().Areas());
     }
     switch (refersTo.Type()) {
         case VarType::Empty:

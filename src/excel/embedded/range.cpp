@@ -59,7 +59,7 @@ std::shared_ptr<RangeView> RangeView::Make(const std::shared_ptr<WorksheetModel>
 
 std::shared_ptr<RangeView> RangeView::relative(int32_t top, int32_t left, int32_t bottom, int32_t right) const {
     book();
-    return Make(cells_.sheet, {CellBlock{top, left, bottom, right}});
+    return Make(cells_.Sheet(), {CellBlock{top, left, bottom, right}});
 }
 
 std::shared_ptr<excel::Application> RangeView::Application() {
@@ -72,7 +72,7 @@ std::shared_ptr<excel::Worksheet> RangeView::Parent() {
 
 std::shared_ptr<excel::Worksheet> RangeView::Worksheet() {
     book();
-    return std::make_shared<WorksheetView>(cells_.sheet);
+    return std::make_shared<WorksheetView>(cells_.Sheet());
 }
 
 std::shared_ptr<excel::Range> RangeView::Cells() {
@@ -131,7 +131,7 @@ std::shared_ptr<excel::Range> RangeView::GetRange(const std::string& address) {
         areas.push_back(CellBlock{area.top + first().top - 1, area.left + first().left - 1,
                                   area.bottom + first().top - 1, area.right + first().left - 1});
     }
-    return Make(cells_.sheet, std::move(areas));
+    return Make(cells_.Sheet(), std::move(areas));
 }
 
 std::shared_ptr<excel::Areas> RangeView::Areas() {
@@ -142,19 +142,19 @@ std::shared_ptr<excel::Areas> RangeView::Areas() {
 std::shared_ptr<excel::Range> RangeView::EntireRow() {
     book();
     std::vector<CellBlock> areas;
-    for (const CellBlock& area : cells_.areas) {
+    for (const CellBlock& area : cells_.Areas()) {
         areas.push_back(CellBlock{area.top, 1, area.bottom, MaxColumn});
     }
-    return Make(cells_.sheet, std::move(areas), Listing::Rows);
+    return Make(cells_.Sheet(), std::move(areas), Listing::Rows);
 }
 
 std::shared_ptr<excel::Range> RangeView::EntireColumn() {
     book();
     std::vector<CellBlock> areas;
-    for (const CellBlock& area : cells_.areas) {
+    for (const CellBlock& area : cells_.Areas()) {
         areas.push_back(CellBlock{1, area.left, MaxRow, area.right});
     }
-    return Make(cells_.sheet, std::move(areas), Listing::Columns);
+    return Make(cells_.Sheet(), std::move(areas), Listing::Columns);
 }
 
 std::shared_ptr<excel::Range> RangeView::Resize(const Variant& rowSize, const Variant& columnSize) {
@@ -170,17 +170,17 @@ std::shared_ptr<excel::Range> RangeView::Resize(const Variant& rowSize, const Va
 std::shared_ptr<excel::Range> RangeView::Offset(int32_t rowOffset, int32_t columnOffset) {
     book();
     std::vector<CellBlock> areas;
-    for (const CellBlock& area : cells_.areas) {
+    for (const CellBlock& area : cells_.Areas()) {
         areas.push_back(CellBlock{area.top + rowOffset, area.left + columnOffset, area.bottom + rowOffset,
                                   area.right + columnOffset});
     }
-    return Make(cells_.sheet, std::move(areas));
+    return Make(cells_.Sheet(), std::move(areas));
 }
 
 std::shared_ptr<excel::Range> RangeView::MergeArea() {
     book();
-    const auto merge = cells_.sheet->MergeAt(first().top, first().left);
-    return Make(cells_.sheet, {merge.value_or(CellBlock{first().top, first().left, first().top, first().left})});
+    const auto merge = cells_.Sheet()->MergeAt(first().top, first().left);
+    return Make(cells_.Sheet(), {merge.value_or(CellBlock{first().top, first().left, first().top, first().left})});
 }
 
 int64_t RangeView::CountLarge() {
@@ -192,7 +192,7 @@ int64_t RangeView::CountLarge() {
         return first().Columns();
     }
     int64_t count = 0;
-    for (const CellBlock& area : cells_.areas) {
+    for (const CellBlock& area : cells_.Areas()) {
         count += area.CellCount();
     }
     return count;
@@ -220,14 +220,14 @@ std::string RangeView::Address(bool rowAbsolute, bool columnAbsolute, int32_t re
     WorkbookModel& owner = book();
     std::string prefix;
     if (external) {
-        const std::string qualified = "[" + owner.Name() + "]" + cells_.sheet->Name();
-        prefix = (SheetNameNeedsQuotes(cells_.sheet->Name()) || owner.Name().find(' ') != std::string::npos
+        const std::string qualified = "[" + owner.Name() + "]" + cells_.Sheet()->Name();
+        prefix = (SheetNameNeedsQuotes(cells_.Sheet()->Name()) || owner.Name().find(' ') != std::string::npos
                       ? QualifiedSheetName(qualified)
                       : qualified) +
                  "!";
     }
     std::string address;
-    for (const CellBlock& area : cells_.areas) {
+    for (const CellBlock& area : cells_.Areas()) {
         if (!address.empty()) {
             address += ',';
         }
@@ -239,22 +239,22 @@ std::string RangeView::Address(bool rowAbsolute, bool columnAbsolute, int32_t re
 
 double RangeView::Left() {
     book();
-    return cells_.sheet->ColumnsPoints(1, first().left - 1);
+    return cells_.Sheet()->ColumnsPoints(1, first().left - 1);
 }
 
 double RangeView::Top() {
     book();
-    return cells_.sheet->RowsPoints(1, first().top - 1);
+    return cells_.Sheet()->RowsPoints(1, first().top - 1);
 }
 
 double RangeView::Width() {
     book();
-    return cells_.sheet->ColumnsPoints(first().left, first().right);
+    return cells_.Sheet()->ColumnsPoints(first().left, first().right);
 }
 
 double RangeView::Height() {
     book();
-    return cells_.sheet->RowsPoints(first().top, first().bottom);
+    return cells_.Sheet()->RowsPoints(first().top, first().bottom);
 }
 
 std::shared_ptr<excel::Interior> RangeView::Interior() {
@@ -300,12 +300,13 @@ std::shared_ptr<excel::Characters> RangeView::Characters(const Variant& start, c
     if (from < 1 || (!length.IsEmpty() && count < 0)) {
         ThrowRefused("Unable to get the Characters property of the Range class");
     }
-    return std::make_shared<CharactersView>(cells_.sheet, first().top, first().left, from, count);
+    const CellBlock cell{first().top, first().left, first().top, first().left};
+    return std::make_shared<CharactersView>(RangeCells{cells_.Sheet(), {cell}}, from, count);
 }
 
 void RangeView::shift(const Variant& direction, bool insert, bool formatFromAfter) {
     WorkbookModel& owner = book();
-    if (cells_.areas.size() != 1) {
+    if (cells_.Areas().size() != 1) {
         ThrowRefused("This action won't work on multiple selections.");
     }
     bool vertical = first().Rows() <= first().Columns();
@@ -320,7 +321,7 @@ void RangeView::shift(const Variant& direction, bool insert, bool formatFromAfte
     }
     BlockShift blockShift = WorksheetModel::ShiftFor(first(), vertical, insert);
     blockShift.formatFromAfter = formatFromAfter;
-    owner.ShiftCells(*cells_.sheet, blockShift);
+    owner.ShiftCells(*cells_.Sheet(), blockShift);
 }
 
 void RangeView::Insert(const Variant& shiftDirection, const Variant& copyOrigin) {
@@ -334,8 +335,8 @@ void RangeView::Delete(const Variant& shiftDirection) {
 
 void RangeView::Select() {
     WorkbookModel& owner = book();
-    owner.ActivateSheet(*cells_.sheet);
-    cells_.sheet->Settings().activeCell =
+    owner.ActivateSheet(*cells_.Sheet());
+    cells_.Sheet()->Settings().activeCell =
         FormatBlock({first().top, first().left, first().top, first().left}, false, false);
 }
 

@@ -104,7 +104,7 @@ public:
     void Activate() override;
 
 private:
-    const CellBlock& first() const { return cells_.areas.front(); }
+    const CellBlock& first() const { return cells_.Areas().front(); }
     WorkbookModel& book() const { return cells_.Book(); }
     std::shared_ptr<RangeView> relative(int32_t top, int32_t left, int32_t bottom, int32_t right) const;
     Variant readValues(bool convertDates);

@@ -162,9 +162,9 @@ Variant RangeView::MergeCells() {
     book();
     int64_t merged = 0;
     int64_t total = 0;
-    for (const CellBlock& area : cells_.areas) {
+    for (const CellBlock& area : cells_.Areas()) {
         total += area.CellCount();
-        for (const CellBlock& merge : cells_.sheet->Merges()) {
+        for (const CellBlock& merge : cells_.Sheet()->Merges()) {
             if (merge.Intersects(area)) {
                 const CellBlock overlap{std::max(merge.top, area.top), std::max(merge.left, area.left),
                                         std::min(merge.bottom, area.bottom), std::min(merge.right, area.right)};
@@ -188,13 +188,13 @@ void RangeView::SetMergeCells(bool merge) {
 
 void RangeView::Merge(bool across) {
     WorkbookModel& owner = book();
-    for (const CellBlock& area : cells_.areas) {
+    for (const CellBlock& area : cells_.Areas()) {
         if (!across) {
-            cells_.sheet->Merge(area);
+            cells_.Sheet()->Merge(area);
             continue;
         }
         for (int32_t row = area.top; row <= area.bottom; ++row) {
-            cells_.sheet->Merge(CellBlock{row, area.left, row, area.right});
+            cells_.Sheet()->Merge(CellBlock{row, area.left, row, area.right});
         }
     }
     owner.SetSaved(false);
@@ -202,8 +202,8 @@ void RangeView::Merge(bool across) {
 
 void RangeView::UnMerge() {
     WorkbookModel& owner = book();
-    for (const CellBlock& area : cells_.areas) {
-        cells_.sheet->Unmerge(area);
+    for (const CellBlock& area : cells_.Areas()) {
+        cells_.Sheet()->Unmerge(area);
     }
     owner.SetSaved(false);
 }
@@ -211,9 +211,9 @@ void RangeView::UnMerge() {
 Variant RangeView::ColumnWidth() {
     book();
     std::set<double> widths;
-    for (const CellBlock& area : cells_.areas) {
+    for (const CellBlock& area : cells_.Areas()) {
         for (int32_t column = area.left; column <= area.right && widths.size() < 2; ++column) {
-            widths.insert(cells_.sheet->ColumnWidthChars(column));
+            widths.insert(cells_.Sheet()->ColumnWidthChars(column));
         }
     }
     return widths.size() == 1 ? Variant(*widths.begin()) : Variant::Null();
@@ -224,9 +224,9 @@ void RangeView::SetColumnWidth(double width) {
     if (!(width >= 0.0 && width <= 255.0)) {
         ThrowRefused("Unable to set the ColumnWidth property of the Range class");
     }
-    for (const CellBlock& area : cells_.areas) {
+    for (const CellBlock& area : cells_.Areas()) {
         for (int32_t column = area.left; column <= area.right; ++column) {
-            cells_.sheet->Columns().Edit(column).width = width;
+            cells_.Sheet()->Columns().Edit(column).width = width;
         }
     }
     owner.SetSaved(false);
@@ -234,13 +234,13 @@ void RangeView::SetColumnWidth(double width) {
 
 Variant RangeView::RowHeight() {
     book();
-    const double standard = cells_.sheet->Settings().defaultRowHeight;
+    const double standard = cells_.Sheet()->Settings().defaultRowHeight;
     std::set<double> heights;
-    for (const CellBlock& area : cells_.areas) {
-        const auto [firstRow, lastRow] = cells_.sheet->Cells().RowSpan(area.top, area.bottom);
+    for (const CellBlock& area : cells_.Areas()) {
+        const auto [firstRow, lastRow] = cells_.Sheet()->Cells().RowSpan(area.top, area.bottom);
         int64_t custom = 0;
         for (size_t i = firstRow; i < lastRow; ++i) {
-            const RowData& row = cells_.sheet->Cells().Rows()[i];
+            const RowData& row = cells_.Sheet()->Cells().Rows()[i];
             if (row.hidden || row.HasCustomHeight()) {
                 heights.insert(row.hidden ? 0.0 : row.height);
                 ++custom;
@@ -258,8 +258,8 @@ void RangeView::SetRowHeight(double height) {
     if (!(height >= 0.0 && height <= 409.5)) {
         ThrowRefused("Unable to set the RowHeight property of the Range class");
     }
-    WorksheetModel& sheet = *cells_.sheet;
-    for (const CellBlock& area : cells_.areas) {
+    WorksheetModel& sheet = *cells_.Sheet();
+    for (const CellBlock& area : cells_.Areas()) {
         if (WholeColumns(area)) {
             // Every row: the sheet's default height changes and no row keeps its own.
             sheet.Settings().defaultRowHeight = height;
@@ -279,15 +279,15 @@ void RangeView::SetRowHeight(double height) {
 Variant RangeView::Hidden() {
     book();
     std::set<bool> states;
-    for (const CellBlock& area : cells_.areas) {
+    for (const CellBlock& area : cells_.Areas()) {
         if (WholeRows(area)) {
             for (int32_t row = area.top; row <= area.bottom && states.size() < 2; ++row) {
-                const RowData* data = cells_.sheet->Cells().FindRow(row);
+                const RowData* data = cells_.Sheet()->Cells().FindRow(row);
                 states.insert(data != nullptr && data->hidden);
             }
         } else if (WholeColumns(area)) {
             for (int32_t column = area.left; column <= area.right; ++column) {
-                states.insert(cells_.sheet->Columns().Get(column).hidden);
+                states.insert(cells_.Sheet()->Columns().Get(column).hidden);
             }
         } else {
             ThrowRefused("Unable to get the Hidden property of the Range class");
@@ -298,21 +298,21 @@ Variant RangeView::Hidden() {
 
 void RangeView::SetHidden(bool hidden) {
     WorkbookModel& owner = book();
-    for (const CellBlock& area : cells_.areas) {
+    for (const CellBlock& area : cells_.Areas()) {
         if (!WholeRows(area) && !WholeColumns(area)) {
             ThrowRefused("Unable to set the Hidden property of the Range class");
         }
     }
-    for (const CellBlock& area : cells_.areas) {
+    for (const CellBlock& area : cells_.Areas()) {
         if (WholeColumns(area)) {
             for (int32_t column = area.left; column <= area.right; ++column) {
-                cells_.sheet->Columns().Edit(column).hidden = hidden;
+                cells_.Sheet()->Columns().Edit(column).hidden = hidden;
             }
             continue;
         }
-        const size_t firstRow = cells_.sheet->Cells().EnsureRows(area.top, area.bottom);
+        const size_t firstRow = cells_.Sheet()->Cells().EnsureRows(area.top, area.bottom);
         for (size_t i = firstRow; i < firstRow + static_cast<size_t>(area.Rows()); ++i) {
-            cells_.sheet->Cells().Rows()[i].hidden = hidden;
+            cells_.Sheet()->Cells().Rows()[i].hidden = hidden;
         }
     }
     owner.SetSaved(false);

@@ -72,7 +72,7 @@ Variant RangeView::readValues(bool convertDates) {
     const WorkbookModel& owner = book();
     CellValueReader reader(owner, convertDates);
     const CellBlock& block = first();
-    const CellStore& store = cells_.sheet->Cells();
+    const CellStore& store = cells_.Sheet()->Cells();
     if (block.CellCount() == 1) {
         return reader.Read(store.Find(block.top, block.left));
     }
@@ -110,18 +110,18 @@ void RangeView::writeValues(const Variant& value, bool plain) {
         ClearContents();
         return;
     }
-    RefuseWritesBeyondMemory(cells_.areas);
+    RefuseWritesBeyondMemory(cells_.Areas());
     CellValueWriter writer(owner);
     const Variant notAvailable(ErrorValue{ErrorValueCode(xlErrNA)});
-    for (const CellBlock& area : cells_.areas) {
+    for (const CellBlock& area : cells_.Areas()) {
         if (!value.IsArray()) {
-            cells_.sheet->WriteCells(area, [&](int32_t, int32_t, Cell& cell) {
+            cells_.Sheet()->WriteCells(area, [&](int32_t, int32_t, Cell& cell) {
                 plain ? writer.StorePlain(cell, value) : writer.Store(cell, value);
             });
             continue;
         }
         const ArrayShape shape(value.Array());
-        cells_.sheet->WriteCells(area, [&](int32_t row, int32_t column, Cell& cell) {
+        cells_.Sheet()->WriteCells(area, [&](int32_t row, int32_t column, Cell& cell) {
             const Variant* element =
                 shape.At(static_cast<uint32_t>(row - area.top), static_cast<uint32_t>(column - area.left));
             const Variant& stored = element ? *element : notAvailable;
@@ -151,7 +151,7 @@ Variant RangeView::Formula() {
     const WorkbookModel& owner = book();
     CellValueReader reader(owner, false);
     const CellBlock& block = first();
-    const CellStore& store = cells_.sheet->Cells();
+    const CellStore& store = cells_.Sheet()->Cells();
     if (block.CellCount() == 1) {
         return reader.ReadFormula(store.Find(block.top, block.left));
     }
@@ -179,16 +179,16 @@ Variant RangeView::Text() {
     bool differs = false;
     int64_t positions = 0;
     int64_t stored = 0;
-    for (const CellBlock& area : cells_.areas) {
+    for (const CellBlock& area : cells_.Areas()) {
         positions += area.CellCount();
-        cells_.sheet->ForEachStoredCell(area, [&](int32_t row, Cell& cell) {
+        cells_.Sheet()->ForEachStoredCell(area, [&](int32_t row, Cell& cell) {
             ++stored;
             if (differs) {
                 return;
             }
             std::string text =
                 DisplayText(ContentOf(&cell, owner.Strings(), owner.OpenedFormulas()),
-                            owner.Formats().Get(cells_.sheet->ResolvedFormat(row, cell.column)).numberFormat);
+                            owner.Formats().Get(cells_.Sheet()->ResolvedFormat(row, cell.column)).numberFormat);
             if (!common) {
                 common = std::move(text);
             } else if (*common != text) {
@@ -205,16 +205,16 @@ Variant RangeView::Text() {
 
 void RangeView::ClearContents() {
     WorkbookModel& owner = book();
-    for (const CellBlock& area : cells_.areas) {
-        cells_.sheet->ForEachStoredCell(area, [](int32_t, Cell& cell) { cell.ClearValue(); });
+    for (const CellBlock& area : cells_.Areas()) {
+        cells_.Sheet()->ForEachStoredCell(area, [](int32_t, Cell& cell) { cell.ClearValue(); });
     }
     owner.SetSaved(false);
 }
 
 void RangeView::ClearFormats() {
     book();
-    for (const CellBlock& area : cells_.areas) {
-        cells_.sheet->Unmerge(area);
+    for (const CellBlock& area : cells_.Areas()) {
+        cells_.Sheet()->Unmerge(area);
     }
     cells_.EditFormats([](ooxml::CellFormat& format) { format = ooxml::CellFormat{}; });
 }

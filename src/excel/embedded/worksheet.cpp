@@ -86,7 +86,7 @@ std::shared_ptr<excel::Range> WorksheetView::Range(const std::string& address) {
     // A defined name referring to cells of this sheet.
     const Variant evaluated = EvaluateExpression(model_, address);
     if (evaluated.IsObject()) {
-        if (auto range = evaluated.As<RangeView>(); range && range->Target().sheet == model_) {
+        if (auto range = evaluated.As<RangeView>(); range && range->Target().Sheet() == model_) {
             return range;
         }
     }
@@ -98,12 +98,12 @@ std::shared_ptr<excel::Range> WorksheetView::Range(const std::shared_ptr<excel::
     Model();
     const auto* first = dynamic_cast<const RangeView*>(cell1.get());
     const auto* second = dynamic_cast<const RangeView*>(cell2.get());
-    if (!first || !second || first->Target().sheet != model_ || second->Target().sheet != model_) {
+    if (!first || !second || first->Target().Sheet() != model_ || second->Target().Sheet() != model_) {
         ThrowRefused("Method 'Range' of object '_Worksheet' failed");
     }
-    CellBlock box = first->Target().areas.front();
+    CellBlock box = first->Target().Areas().front();
     for (const auto* part : {first, second}) {
-        for (const CellBlock& area : part->Target().areas) {
+        for (const CellBlock& area : part->Target().Areas()) {
             box = CellBlock{std::min(box.top, area.top), std::min(box.left, area.left),
                             std::max(box.bottom, area.bottom), std::max(box.right, area.right)};
         }

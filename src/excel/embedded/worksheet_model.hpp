@@ -83,6 +83,8 @@ public:
     // Insert and Delete; each validates before changing anything and throws Refused when nonblank
     // cells would leave the sheet or a merged block would be cut.
     void ShiftCells(const BlockShift& shift);
+    // Every shift applied so far, oldest first; views replay the ones newer than they are.
+    const std::vector<BlockShift>& ShiftsApplied() const { return shiftsApplied_; }
 
 private:
     void applyToWholeRows(int32_t top, int32_t bottom, FormatChange& change);
@@ -99,6 +101,7 @@ private:
     CellStore cells_;
     ColumnStore columns_;
     std::vector<CellBlock> merges_;
+    std::vector<BlockShift> shiftsApplied_;
 };
 
 }  // namespace excel::embedded

@@ -70,6 +70,7 @@ void WorksheetModel::ShiftCells(const BlockShift& shift) {
     if (shift.insert) {
         copyFormatsIntoInserted(shift);
     }
+    shiftsApplied_.push_back(shift);
 }
 
 void WorksheetModel::moveCells(const BlockShift& shift) {
