@@ -1,5 +1,7 @@
 #include "support/sheet_services.hpp"
 
+#include "support/support_services.hpp"
+
 #include <excel/application.hpp>
 #include <excel/automation_error.hpp>
 #include <excel/workbook.hpp>
@@ -164,13 +166,7 @@ std::string SheetServices::SheetNameQualifier(const std::shared_ptr<excel::Works
     const std::string name = sheet->Name();
     if (!SheetNameNeedsQuotes(name))
         return name + "!";
-    std::string quoted = "'";
-    for (char c : name) {
-        if (c == '\'')
-            quoted += '\'';
-        quoted += c;
-    }
-    return quoted + "'!";
+    return StringServices().Quoted(name, '\'') + "!";
 }
 
 int32_t SheetServices::ExcelMajorVersion(const std::shared_ptr<excel::Application>& application) const {

@@ -26,4 +26,15 @@ bool StringServices::EndsWith(std::string_view text, std::string_view suffix) co
     return text.ends_with(suffix);
 }
 
+std::string StringServices::Quoted(std::string_view text, char quote) const {
+    std::string quoted(1, quote);
+    for (char c : text) {
+        if (c == quote)
+            quoted += quote;
+        quoted += c;
+    }
+    quoted += quote;
+    return quoted;
+}
+
 }  // namespace vos

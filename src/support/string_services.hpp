@@ -15,6 +15,9 @@ public:
     // The text without the prefix; a text that does not begin with it comes back unchanged.
     std::string StripPrefix(std::string_view text, std::string_view prefix) const;
     bool EndsWith(std::string_view text, std::string_view suffix) const;
+    // The text between two quote characters, each quote inside it doubled, as formulas quote
+    // texts ("say ""hi""") and sheet names ('it''s').
+    std::string Quoted(std::string_view text, char quote) const;
 };
 
 }  // namespace vos

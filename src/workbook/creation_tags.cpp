@@ -19,13 +19,7 @@ namespace {
 // The identifier as a formula's text constant: ="MyApp", with embedded quotes doubled so that
 // evaluating the name gives the identifier back.
 std::string TextConstantFormula(const std::string& identifier) {
-    std::string formula = "=\"";
-    for (char c : identifier) {
-        if (c == '"')
-            formula += '"';
-        formula += c;
-    }
-    return formula + "\"";
+    return "=" + Support().Strings().Quoted(identifier, '"');
 }
 
 std::string TrimmedIdentifierForTagging(const std::string& applicationIdentifier) {

@@ -99,12 +99,7 @@ bool ReportWorksheet::HasAvailableSpace(int32_t numRows, int32_t numColumns) {
         RaiseLibraryError(error_code::OutOfRange, "numRows");
     if (numColumns < 1)
         RaiseLibraryError(error_code::OutOfRange, "numColumns");
-    if (!currentCell_)
-        return false;
-    const auto& ranges = Support().Ranges();
-    if (CheckedSum(currentCell_->Row(), numRows) > ranges.LastRowOfRange(limitingRange_))
-        return false;
-    return CheckedSum(currentCell_->Column(), numColumns) <= ranges.LastColumnOfRange(limitingRange_);
+    return currentCell_ && CursorStaysInsideAfter(numRows, numColumns);
 }
 
 void ReportWorksheet::AddSeparatorRows(int32_t numRows) {
@@ -126,13 +121,16 @@ void ReportWorksheet::AdvanceCurrentCell(int32_t numRows, int32_t numColumns) {
         RaiseLibraryError(error_code::OutOfRange, "numColumns");
     if (!currentCell_)
         RaiseLibraryError(error_code::PropertyNotSet, "CurrentCell");
+    currentCell_ = CursorStaysInsideAfter(numRows, numColumns)
+                       ? Support().Ranges().RangeOffset(currentCell_, numRows, numColumns)
+                       : nullptr;
+}
+
+// Whether moving the cursor that many rows down and columns right keeps it inside the limiting range.
+bool ReportWorksheet::CursorStaysInsideAfter(int32_t numRows, int32_t numColumns) const {
     const auto& ranges = Support().Ranges();
-    if (CheckedSum(currentCell_->Row(), numRows) > ranges.LastRowOfRange(limitingRange_) ||
-        CheckedSum(currentCell_->Column(), numColumns) > ranges.LastColumnOfRange(limitingRange_)) {
-        currentCell_ = nullptr;
-        return;
-    }
-    currentCell_ = ranges.RangeOffset(currentCell_, numRows, numColumns);
+    return CheckedSum(currentCell_->Row(), numRows) <= ranges.LastRowOfRange(limitingRange_) &&
+           CheckedSum(currentCell_->Column(), numColumns) <= ranges.LastColumnOfRange(limitingRange_);
 }
 
 void ReportWorksheet::RequireAvailableSpace(int32_t numRows, int32_t numColumns) {

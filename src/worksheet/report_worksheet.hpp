@@ -37,6 +37,8 @@ public:
     void RequireAvailableSpace(int32_t numRows, int32_t numColumns);
 
 private:
+    bool CursorStaysInsideAfter(int32_t numRows, int32_t numColumns) const;
+
     std::shared_ptr<ReportWorkbook> parentWorkbook_;
     std::shared_ptr<excel::Worksheet> excelWorksheet_;
     std::string applicationIdentifier_;

@@ -41,3 +41,10 @@ TEST(StringServices, StripPrefixRemovesOnlyALeadingMarker) {
     EXPECT_EQ(strings.StripPrefix("[LOCAL]0,00", "[LOCAL]"), "0,00");
     EXPECT_EQ(strings.StripPrefix("0,00[LOCAL]", "[LOCAL]"), "0,00[LOCAL]");
 }
+
+TEST(StringServices, QuotedDoublesTheQuoteInside) {
+    EXPECT_EQ(strings.Quoted("MyApp", '"'), "\"MyApp\"");
+    EXPECT_EQ(strings.Quoted("say \"hi\"", '"'), "\"say \"\"hi\"\"\"");
+    EXPECT_EQ(strings.Quoted("it's", '\''), "'it''s'");
+    EXPECT_EQ(strings.Quoted("", '\''), "''");
+}
