@@ -52,7 +52,8 @@ void RequireSheets(excel::Workbook& book, const std::vector<std::string>& expect
     Step("sheets now: " + Listed(actual));
 }
 
-// Each value goes into the cell at the layout cursor, with two empty rows before the next one.
+// Each value goes into the cell at the layout cursor, which then moves two rows down: one empty row
+// separates the values.
 void WriteAtCursor(vos::VosExcelReportWorksheet& sheet, const std::vector<excel::Variant>& values) {
     for (const auto& value : values) {
         sheet.CurrentCell()->SetValue(value);
