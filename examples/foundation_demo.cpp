@@ -5,6 +5,8 @@
 #include <excel/embedded.hpp>
 #include <excel/excel.hpp>
 
+#include "run_example.hpp"
+
 #include <array>
 #include <cstdint>
 #include <exception>
@@ -176,9 +178,7 @@ void WriteRegionsSheet(excel::Workbook& book, excel::Worksheet& sheet) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    const std::filesystem::path target = std::filesystem::absolute(argc > 1 ? argv[1] : "out/foundation_demo.xlsx");
-    try {
-        std::filesystem::create_directories(target.parent_path());
+    return RunExample(argc, argv, "out/foundation_demo.xlsx", [](const std::filesystem::path& target) {
         auto app = excel::embedded::CreateApplication();
         app->SetSheetsInNewWorkbook(2);
         auto book = app->Workbooks()->Add();
@@ -186,12 +186,5 @@ int main(int argc, char** argv) {
         WriteSalesSheet(*book, *book->Worksheets(1));
         book->SaveAs(target.string());
         std::cout << "wrote " << target.string() << '\n';
-        return 0;
-    } catch (const excel::AutomationError& error) {
-        std::cerr << "automation error 0x" << std::hex << static_cast<uint32_t>(error.code()) << ": " << error.what()
-                  << '\n';
-    } catch (const std::exception& error) {
-        std::cerr << "error: " << error.what() << '\n';
-    }
-    return 1;
+    });
 }

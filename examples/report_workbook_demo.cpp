@@ -7,6 +7,8 @@
 #include <excel/embedded.hpp>
 #include <vos/reporting.hpp>
 
+#include "run_example.hpp"
+
 #include <algorithm>
 #include <cstdint>
 #include <exception>
@@ -140,17 +142,5 @@ void Run(const std::filesystem::path& target) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    const std::filesystem::path target =
-        std::filesystem::absolute(argc > 1 ? argv[1] : "out/report_workbook_demo.xlsx");
-    try {
-        std::filesystem::create_directories(target.parent_path());
-        Run(target);
-        return 0;
-    } catch (const excel::AutomationError& error) {
-        std::cerr << "automation error 0x" << std::hex << static_cast<uint32_t>(error.code()) << ": " << error.what()
-                  << '\n';
-    } catch (const std::exception& error) {
-        std::cerr << "error: " << error.what() << '\n';
-    }
-    return 1;
+    return RunExample(argc, argv, "out/report_workbook_demo.xlsx", Run);
 }
