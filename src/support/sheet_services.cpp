@@ -67,17 +67,6 @@ std::string CleanedSheetName(const std::string& wantedName) {
     return name.empty() ? std::string(NameForEmptyWish) : std::string(name);
 }
 
-bool EqualsIgnoringAsciiCase(std::string_view a, std::string_view b) {
-    if (a.size() != b.size())
-        return false;
-    for (size_t i = 0; i < a.size(); ++i) {
-        auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
-        if (lower(a[i]) != lower(b[i]))
-            return false;
-    }
-    return true;
-}
-
 bool IsAsciiLetter(char c) {
     return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
 }
@@ -129,7 +118,7 @@ bool SheetNameNeedsQuotes(std::string_view name) {
 std::string SheetServices::MakeValidSheetName(const std::shared_ptr<excel::Workbook>& workbook,
                                               const std::string& wantedName) const {
     const std::string base = CleanedSheetName(wantedName);
-    if (!EqualsIgnoringAsciiCase(base, ReservedSheetName) && !WorkbookHasSheet(workbook, base))
+    if (!Support().Strings().EqualIgnoringCase(base, ReservedSheetName) && !WorkbookHasSheet(workbook, base))
         return base;
     for (int number = 2;; ++number) {
         const std::string suffix = " (" + std::to_string(number) + ")";

@@ -1,5 +1,7 @@
 #include "support/string_services.hpp"
 
+#include <algorithm>
+
 namespace vos {
 
 std::string StringServices::SplitFirstToken(std::string& text, std::string_view delimiter) const {
@@ -24,6 +26,12 @@ std::string StringServices::StripPrefix(std::string_view text, std::string_view 
 
 bool StringServices::EndsWith(std::string_view text, std::string_view suffix) const {
     return text.ends_with(suffix);
+}
+
+bool StringServices::EqualIgnoringCase(std::string_view first, std::string_view second) const {
+    const auto upper = [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; };
+    return first.size() == second.size() &&
+           std::equal(first.begin(), first.end(), second.begin(), [&](char a, char b) { return upper(a) == upper(b); });
 }
 
 std::string StringServices::Quoted(std::string_view text, char quote) const {

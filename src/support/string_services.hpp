@@ -15,6 +15,8 @@ public:
     // The text without the prefix; a text that does not begin with it comes back unchanged.
     std::string StripPrefix(std::string_view text, std::string_view prefix) const;
     bool EndsWith(std::string_view text, std::string_view suffix) const;
+    // Whether the texts are equal once both are in upper case; letters outside ASCII compare exactly.
+    bool EqualIgnoringCase(std::string_view first, std::string_view second) const;
     // The text between two quote characters, each quote inside it doubled, as formulas quote
     // texts ("say ""hi""") and sheet names ('it''s').
     std::string Quoted(std::string_view text, char quote) const;

@@ -10,8 +10,6 @@
 #include <excel/workbook.hpp>
 #include <excel/worksheet.hpp>
 
-#include <algorithm>
-
 namespace vos {
 
 namespace {
@@ -27,12 +25,6 @@ std::string TrimmedIdentifierForTagging(const std::string& applicationIdentifier
     if (identifier.empty())
         RaiseLibraryError(error_code::EmptyArgument, "applicationIdentifier");
     return identifier;
-}
-
-std::string UpperCaseAscii(std::string text) {
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
-    return text;
 }
 
 // The text a tag name evaluates to on the sheet, or "" when the sheet cannot be had, there is no
@@ -52,7 +44,7 @@ bool TagMatches(const std::string& tagValue, const std::string& applicationIdent
     if (tagValue.empty())
         return false;
     const std::string identifier = TrimBlanks(applicationIdentifier);
-    return identifier.empty() || UpperCaseAscii(tagValue) == UpperCaseAscii(identifier);
+    return identifier.empty() || Support().Strings().EqualIgnoringCase(tagValue, identifier);
 }
 
 }  // namespace

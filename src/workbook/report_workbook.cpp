@@ -52,7 +52,7 @@ std::shared_ptr<VosExcelReportWorksheet> ReportWorkbook::NewReportWorksheet(cons
     if (wantedName.empty())
         RaiseLibraryError(error_code::EmptyArgument, "worksheetName");
     const auto sheet = AddSheetAtEnd();
-    sheet->SetName(Support().Sheets().MakeValidSheetName(excelWorkbook_, wantedName));
+    sheet->SetName(ReportSheetName(wantedName));
     if (!firstWorksheetCreated_)
         firstWorksheetCreated_ = sheet;
     auto reportSheet = std::make_shared<ReportWorksheet>();
@@ -103,6 +103,16 @@ void ReportWorkbook::RemovePlaceholderSheet() {
     } catch (const excel::AutomationError&) {
         // No placeholder, or it is the last sheet: either way there is nothing to remove.
     }
+}
+
+// A valid, unused name for a new report sheet. It is never the placeholder's name, even when no
+// placeholder exists now: removing the placeholder would then remove the report sheet itself.
+std::string ReportWorkbook::ReportSheetName(const std::string& wantedName) const {
+    const auto& support = Support();
+    const std::string name = support.Sheets().MakeValidSheetName(excelWorkbook_, wantedName);
+    if (!support.Strings().EqualIgnoringCase(name, PlaceholderSheetName))
+        return name;
+    return support.Sheets().MakeValidSheetName(excelWorkbook_, name + " (2)");
 }
 
 // A new worksheet behind the very last sheet of the workbook, of whatever kind that sheet is.

@@ -36,6 +36,7 @@ public:
     void RemovePlaceholderSheet();
 
 private:
+    std::string ReportSheetName(const std::string& wantedName) const;
     std::shared_ptr<excel::Worksheet> AddSheetAtEnd();
 
     std::shared_ptr<excel::Workbook> excelWorkbook_;

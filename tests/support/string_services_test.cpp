@@ -48,3 +48,10 @@ TEST(StringServices, QuotedDoublesTheQuoteInside) {
     EXPECT_EQ(strings.Quoted("it's", '\''), "'it''s'");
     EXPECT_EQ(strings.Quoted("", '\''), "''");
 }
+
+TEST(StringServices, EqualIgnoringCaseFoldsAsciiLetters) {
+    EXPECT_TRUE(strings.EqualIgnoringCase("MyApp", "mYaPP"));
+    EXPECT_FALSE(strings.EqualIgnoringCase("MyApp", "MyApp "));
+    EXPECT_FALSE(strings.EqualIgnoringCase("My_App", "My-App"));
+    EXPECT_TRUE(strings.EqualIgnoringCase("", ""));
+}

@@ -156,3 +156,10 @@ TEST_F(ReportWorkbookTest, TheInitializerRefusesAMissingWorkbookOrIdentifier) {
     ExpectAutomationError([&] { fresh.InitializeWorkbook(book, "", 9); }, vos::error_code::EmptyArgument,
                           "ApplicationIdentifier");
 }
+
+TEST_F(ReportWorkbookTest, AReportSheetNeverTakesThePlaceholdersName) {
+    report->NewReportWorksheet("Data");
+    auto sheet = report->NewReportWorksheet("_reportplaceholder_");
+    EXPECT_EQ(sheet->ExcelWorksheet()->Name(), "_reportplaceholder_ (2)");
+    EXPECT_EQ(SheetNames(book), (std::vector<std::string>{"Data", "_reportplaceholder_ (2)"}));
+}
