@@ -248,8 +248,7 @@ std::shared_ptr<DefinedNameModel> WorkbookModel::AddName(const std::string& name
         return existing;
     }
     auto added = std::make_shared<DefinedNameModel>(DefinedNameModel{bare, formula, scope, visible, false});
-    names_.push_back(added);
-    sortNames();
+    names_.insert(std::upper_bound(names_.begin(), names_.end(), added, NameListedBefore), added);
     saved_ = false;
     return added;
 }
@@ -281,12 +280,24 @@ std::string WorkbookModel::ScopedName(const DefinedNameModel& name) {
     return name.localSheet ? QualifiedSheetName(name.localSheet->Name()) + "!" + name.name : name.name;
 }
 
+// Names are listed as Excel lists them: by name without regard to case, a workbook-level name
+// before sheet-level ones of the same name, and otherwise in the order they came.
+bool WorkbookModel::NameListedBefore(const std::shared_ptr<DefinedNameModel>& a,
+                                     const std::shared_ptr<DefinedNameModel>& b) {
+    const auto lower = [](char c) { return std::tolower(static_cast<unsigned char>(c)); };
+    const auto [left, right] = std::mismatch(a->name.begin(), a->name.end(), b->name.begin(), b->name.end(),
+                                             [&](char x, char y) { return lower(x) == lower(y); });
+    if (left != a->name.end() || right != b->name.end()) {
+        if (left == a->name.end() || right == b->name.end()) {
+            return left == a->name.end();
+        }
+        return lower(*left) < lower(*right);
+    }
+    return a->localSheet == nullptr && b->localSheet != nullptr;
+}
+
 void WorkbookModel::sortNames() {
-    std::stable_sort(names_.begin(), names_.end(), [](const auto& a, const auto& b) {
-        const std::string left = Lowercase(a->name);
-        const std::string right = Lowercase(b->name);
-        return left != right ? left < right : (a->localSheet == nullptr && b->localSheet != nullptr);
-    });
+    std::stable_sort(names_.begin(), names_.end(), NameListedBefore);
 }
 
 void WorkbookModel::ShiftCells(WorksheetModel& sheet, const BlockShift& shift) {

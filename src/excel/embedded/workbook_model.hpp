@@ -88,6 +88,7 @@ public:
     void SetSaved(bool saved) { saved_ = saved; }
 
 private:
+    static bool NameListedBefore(const std::shared_ptr<DefinedNameModel>& a, const std::shared_ptr<DefinedNameModel>& b);
     void sortNames();
 
     ApplicationModel* app_;
