@@ -4,10 +4,12 @@
 
 #include <excel/application.hpp>
 #include <excel/automation_error.hpp>
+#include <excel/sheets.hpp>
 #include <excel/workbook.hpp>
 #include <excel/worksheet.hpp>
 
 #include <charconv>
+#include <unordered_set>
 #include <string_view>
 
 namespace vos {
@@ -67,6 +69,15 @@ std::string CleanedSheetName(const std::string& wantedName) {
     return name.empty() ? std::string(NameForEmptyWish) : std::string(name);
 }
 
+std::string UpperCaseAscii(std::string_view text) {
+    std::string upper(text);
+    for (char& c : upper) {
+        if (c >= 'a' && c <= 'z')
+            c = static_cast<char>(c - 'a' + 'A');
+    }
+    return upper;
+}
+
 bool IsAsciiLetter(char c) {
     return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
 }
@@ -118,13 +129,23 @@ bool SheetNameNeedsQuotes(std::string_view name) {
 std::string SheetServices::MakeValidSheetName(const std::shared_ptr<excel::Workbook>& workbook,
                                               const std::string& wantedName) const {
     const std::string base = CleanedSheetName(wantedName);
-    if (!Support().Strings().EqualIgnoringCase(base, ReservedSheetName) && !WorkbookHasSheet(workbook, base))
+    // The names in use, folded to upper case once, so that finding the next free number costs one
+    // pass over the sheets rather than one lookup per number tried. Excel has the last word on a
+    // candidate, as it also folds the case of letters beyond ASCII.
+    std::unordered_set<std::string> namesInUse{UpperCaseAscii(ReservedSheetName)};
+    const auto sheets = workbook->Sheets();
+    for (int32_t i = 1; i <= sheets->Count(); ++i)
+        namesInUse.insert(UpperCaseAscii(sheets->Item(i)->Name()));
+    const auto isFree = [&](const std::string& candidate) {
+        return !namesInUse.contains(UpperCaseAscii(candidate)) && !WorkbookHasSheet(workbook, candidate);
+    };
+    if (isFree(base))
         return base;
     for (int number = 2;; ++number) {
         const std::string suffix = " (" + std::to_string(number) + ")";
         std::string candidate(CutToUtf16Units(base, MaxSheetNameUnits - suffix.size()));
         candidate += suffix;
-        if (!WorkbookHasSheet(workbook, candidate))
+        if (isFree(candidate))
             return candidate;
     }
 }
