@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 namespace excel::embedded {
@@ -14,13 +15,32 @@ struct ColumnInfo {
     friend bool operator==(const ColumnInfo&, const ColumnInfo&) = default;
 };
 
-// Per-column width, format and visibility. Stored densely once any column is set (16,384 small
-// entries), so whole-sheet formatting and geometry are simple loops.
+// Columns first..last, all with the same info.
+struct ColumnRun {
+    int32_t first = 0;
+    int32_t last = 0;
+    ColumnInfo info;
+
+    int32_t Count() const { return last - first + 1; }
+    friend bool operator==(const ColumnRun&, const ColumnRun&) = default;
+};
+
+// Per-column width, format and visibility, kept as runs of equal info the way a file's column
+// spans are: whole-sheet settings cost one run instead of 16,384 entries, and editing or reading
+// a range of columns costs a step per run, not per column.
 class ColumnStore {
 public:
+    using Change = std::function<void(ColumnInfo&)>;
+    using Visit = std::function<void(int32_t first, int32_t last, const ColumnInfo& info)>;
+
     const ColumnInfo& Get(int32_t column) const;
-    ColumnInfo& Edit(int32_t column);
-    bool Allocated() const { return !columns_.empty(); }
+    // Applies change once to each span of equal info in first..last (default info where no run
+    // is), left to right; adjacent columns left with equal info join one run.
+    void Update(int32_t first, int32_t last, const Change& change);
+    // Visits first..last as spans of equal info, left to right, default spans included.
+    void ForEachSpan(int32_t first, int32_t last, const Visit& visit) const;
+    // The columns whose info is not the default: ascending, disjoint, adjacent runs differ.
+    const std::vector<ColumnRun>& Runs() const { return runs_; }
 
     // Inserts count columns before column at, each a copy of copyFrom's info (0 = default);
     // columns pushed past the last one are dropped.
@@ -29,7 +49,13 @@ public:
     void Remove(int32_t at, int32_t count);
 
 private:
-    std::vector<ColumnInfo> columns_;
+    // Cuts the run holding both column - 1 and column in two; returns the index of the first run
+    // starting at column or later.
+    size_t splitBefore(int32_t column);
+    // Joins runs[index - 1] and runs[index] when they touch and hold equal info.
+    void joinAt(size_t index);
+
+    std::vector<ColumnRun> runs_;
 };
 
 }  // namespace excel::embedded

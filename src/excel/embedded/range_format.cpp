@@ -212,9 +212,9 @@ Variant RangeView::ColumnWidth() {
     book();
     std::set<double> widths;
     for (const CellBlock& area : cells_.Areas()) {
-        for (int32_t column = area.left; column <= area.right && widths.size() < 2; ++column) {
-            widths.insert(cells_.Sheet()->ColumnWidthChars(column));
-        }
+        cells_.Sheet()->Columns().ForEachSpan(area.left, area.right, [&](int32_t first, int32_t, const ColumnInfo&) {
+            widths.insert(cells_.Sheet()->ColumnWidthChars(first));
+        });
     }
     return widths.size() == 1 ? Variant(*widths.begin()) : Variant::Null();
 }
@@ -225,9 +225,7 @@ void RangeView::SetColumnWidth(double width) {
         ThrowRefused("Unable to set the ColumnWidth property of the Range class");
     }
     for (const CellBlock& area : cells_.Areas()) {
-        for (int32_t column = area.left; column <= area.right; ++column) {
-            cells_.Sheet()->Columns().Edit(column).width = width;
-        }
+        cells_.Sheet()->Columns().Update(area.left, area.right, [&](ColumnInfo& info) { info.width = width; });
     }
     owner.SetSaved(false);
 }
@@ -286,9 +284,8 @@ Variant RangeView::Hidden() {
                 states.insert(data != nullptr && data->hidden);
             }
         } else if (WholeColumns(area)) {
-            for (int32_t column = area.left; column <= area.right; ++column) {
-                states.insert(cells_.Sheet()->Columns().Get(column).hidden);
-            }
+            cells_.Sheet()->Columns().ForEachSpan(
+                area.left, area.right, [&](int32_t, int32_t, const ColumnInfo& info) { states.insert(info.hidden); });
         } else {
             ThrowRefused("Unable to get the Hidden property of the Range class");
         }
@@ -305,9 +302,7 @@ void RangeView::SetHidden(bool hidden) {
     }
     for (const CellBlock& area : cells_.Areas()) {
         if (WholeColumns(area)) {
-            for (int32_t column = area.left; column <= area.right; ++column) {
-                cells_.Sheet()->Columns().Edit(column).hidden = hidden;
-            }
+            cells_.Sheet()->Columns().Update(area.left, area.right, [&](ColumnInfo& info) { info.hidden = hidden; });
             continue;
         }
         const size_t firstRow = cells_.Sheet()->Cells().EnsureRows(area.top, area.bottom);

@@ -52,31 +52,19 @@ private:
 };
 
 void ConvertColumns(const WorksheetModel& sheet, ooxml::SheetDocument& out) {
-    const ColumnStore& columns = sheet.Columns();
-    if (!columns.Allocated()) {
-        return;
-    }
-    const ColumnInfo standard{};
-    for (int32_t column = 1; column <= MaxColumn;) {
-        const ColumnInfo& info = columns.Get(column);
-        int32_t last = column;
-        while (last < MaxColumn && columns.Get(last + 1) == info) {
-            ++last;
+    for (const ColumnRun& run : sheet.Columns().Runs()) {
+        const ColumnInfo& info = run.info;
+        ooxml::ColumnRange range;
+        range.first = static_cast<uint32_t>(run.first);
+        range.last = static_cast<uint32_t>(run.last);
+        if (info.HasCustomWidth()) {
+            range.width = FileColumnWidth(info.width);
         }
-        if (!(info == standard)) {
-            ooxml::ColumnRange range;
-            range.first = static_cast<uint32_t>(column);
-            range.last = static_cast<uint32_t>(last);
-            if (info.HasCustomWidth()) {
-                range.width = FileColumnWidth(info.width);
-            }
-            if (info.format != 0) {
-                range.format = info.format;
-            }
-            range.hidden = info.hidden || (info.HasCustomWidth() && info.width == 0.0);
-            out.columns.push_back(range);
+        if (info.format != 0) {
+            range.format = info.format;
         }
-        column = last + 1;
+        range.hidden = info.hidden || (info.HasCustomWidth() && info.width == 0.0);
+        out.columns.push_back(range);
     }
 }
 
@@ -227,14 +215,14 @@ void LoadSheet(WorksheetModel& sheet, const ooxml::SheetDocument& in, const std:
     settings.activeCell = in.activeCell;
     auto formatId = [&](uint32_t index) { return index < formatIds.size() ? formatIds[index] : 0u; };
     for (const ooxml::ColumnRange& range : in.columns) {
-        for (uint32_t column = range.first; column <= range.last && column <= MaxColumn; ++column) {
-            ColumnInfo& info = sheet.Columns().Edit(static_cast<int32_t>(column));
+        const auto last = static_cast<int32_t>(std::min<uint32_t>(range.last, MaxColumn));
+        sheet.Columns().Update(static_cast<int32_t>(range.first), last, [&](ColumnInfo& info) {
             if (range.width) {
                 info.width = ColumnWidthFromFile(*range.width);
             }
             info.format = range.format ? formatId(*range.format) : 0;
             info.hidden = range.hidden;
-        }
+        });
     }
     auto& rows = sheet.Cells().Rows();
     rows.reserve(in.rows.size());

@@ -58,10 +58,7 @@ void WorksheetModel::ApplyFormat(const CellBlock& block, FormatChange& change) {
 }
 
 void WorksheetModel::applyToWholeSheet(FormatChange& change) {
-    for (int32_t column = 1; column <= MaxColumn; ++column) {
-        ColumnInfo& info = columns_.Edit(column);
-        info.format = change.Apply(info.format);
-    }
+    columns_.Update(1, MaxColumn, [&](ColumnInfo& info) { info.format = change.Apply(info.format); });
     for (RowData& row : cells_.Rows()) {
         if (row.hasFormat) {
             row.format = change.Apply(row.format);
@@ -75,31 +72,26 @@ void WorksheetModel::applyToWholeSheet(FormatChange& change) {
 void WorksheetModel::applyToWholeRows(int32_t top, int32_t bottom, FormatChange& change) {
     // A row without its own format shows its columns' formats. It takes the change of the most
     // common column format; positions under columns whose change differs become cells.
-    uint32_t base = 0;
-    std::vector<std::pair<int32_t, uint32_t>> exceptions;
-    if (columns_.Allocated()) {
-        // Few distinct column formats in practice: count them in a small list.
-        std::vector<std::pair<uint32_t, int32_t>> counts;
-        for (int32_t column = 1; column <= MaxColumn; ++column) {
-            const uint32_t format = columns_.Get(column).format;
-            auto it =
-                std::find_if(counts.begin(), counts.end(), [&](const auto& entry) { return entry.first == format; });
-            if (it == counts.end()) {
-                counts.emplace_back(format, 1);
-            } else {
-                ++it->second;
-            }
+    // Few distinct column formats in practice: count them in a small list.
+    std::vector<std::pair<uint32_t, int32_t>> counts;
+    columns_.ForEachSpan(1, MaxColumn, [&](int32_t first, int32_t last, const ColumnInfo& info) {
+        auto it =
+            std::find_if(counts.begin(), counts.end(), [&](const auto& entry) { return entry.first == info.format; });
+        if (it == counts.end()) {
+            counts.emplace_back(info.format, last - first + 1);
+        } else {
+            it->second += last - first + 1;
         }
-        base = std::max_element(counts.begin(), counts.end(), [](const auto& a, const auto& b) {
-                   return a.second < b.second;
-               })->first;
-        for (int32_t column = 1; column <= MaxColumn; ++column) {
-            const uint32_t format = columns_.Get(column).format;
-            if (format != base && change.Apply(format) != change.Apply(base)) {
-                exceptions.emplace_back(column, change.Apply(format));
-            }
+    });
+    const uint32_t base = std::max_element(counts.begin(), counts.end(), [](const auto& a, const auto& b) {
+                              return a.second < b.second;
+                          })->first;
+    std::vector<ColumnRun> exceptions;
+    columns_.ForEachSpan(1, MaxColumn, [&](int32_t first, int32_t last, const ColumnInfo& info) {
+        if (info.format != base && change.Apply(info.format) != change.Apply(base)) {
+            exceptions.push_back(ColumnRun{first, last, ColumnInfo{.format = change.Apply(info.format)}});
         }
-    }
+    });
     const uint32_t changedBase = change.Apply(base);
     const size_t first = cells_.EnsureRows(top, bottom);
     auto& rows = cells_.Rows();
@@ -114,20 +106,19 @@ void WorksheetModel::applyToWholeRows(int32_t top, int32_t bottom, FormatChange&
         }
         row.hasFormat = true;
         row.format = changedBase;
-        for (const auto& [column, format] : exceptions) {
-            auto it = row.LowerBound(column);
-            if (it == row.cells.end() || it->column != column) {
-                row.cells.insert(it, Cell::Blank(column, format));
+        for (const ColumnRun& exception : exceptions) {
+            for (int32_t column = exception.first; column <= exception.last; ++column) {
+                auto it = row.LowerBound(column);
+                if (it == row.cells.end() || it->column != column) {
+                    row.cells.insert(it, Cell::Blank(column, exception.info.format));
+                }
             }
         }
     }
 }
 
 void WorksheetModel::applyToWholeColumns(int32_t left, int32_t right, FormatChange& change) {
-    for (int32_t column = left; column <= right; ++column) {
-        ColumnInfo& info = columns_.Edit(column);
-        info.format = change.Apply(info.format);
-    }
+    columns_.Update(left, right, [&](ColumnInfo& info) { info.format = change.Apply(info.format); });
     for (RowData& row : cells_.Rows()) {
         if (!row.hasFormat) {
             for (Cell& cell : row.CellsIn(left, right)) {
@@ -161,13 +152,8 @@ std::vector<uint32_t> WorksheetModel::DistinctFormats(const CellBlock& block) co
             return;
         }
         columnFormatsAdded = true;
-        if (!columns_.Allocated()) {
-            add(0);
-            return;
-        }
-        for (int32_t column = block.left; column <= block.right; ++column) {
-            add(columns_.Get(column).format);
-        }
+        columns_.ForEachSpan(block.left, block.right,
+                             [&](int32_t, int32_t, const ColumnInfo& info) { add(info.format); });
     };
     const auto [first, last] = cells_.RowSpan(block.top, block.bottom);
     if (static_cast<int64_t>(last - first) < block.Rows()) {
@@ -265,24 +251,27 @@ void WorksheetModel::Unmerge(const CellBlock& block) {
 }
 
 double WorksheetModel::ColumnWidthChars(int32_t column) const {
-    const ColumnInfo& info = columns_.Get(column);
-    return info.HasCustomWidth() ? info.width : settings_.standardWidth;
+    return widthChars(columns_.Get(column));
 }
 
 double WorksheetModel::ColumnPoints(int32_t column) const {
-    const ColumnInfo& info = columns_.Get(column);
-    return info.hidden ? 0.0 : ColumnWidthToPoints(ColumnWidthChars(column));
+    return points(columns_.Get(column));
 }
 
 double WorksheetModel::ColumnsPoints(int32_t left, int32_t right) const {
-    if (!columns_.Allocated()) {
-        return (right - left + 1) * ColumnWidthToPoints(settings_.standardWidth);
-    }
-    double points = 0.0;
-    for (int32_t column = left; column <= right; ++column) {
-        points += ColumnPoints(column);
-    }
-    return points;
+    double sum = 0.0;
+    columns_.ForEachSpan(left, right, [&](int32_t first, int32_t last, const ColumnInfo& info) {
+        sum += (last - first + 1) * points(info);
+    });
+    return sum;
+}
+
+double WorksheetModel::widthChars(const ColumnInfo& info) const {
+    return info.HasCustomWidth() ? info.width : settings_.standardWidth;
+}
+
+double WorksheetModel::points(const ColumnInfo& info) const {
+    return info.hidden ? 0.0 : ColumnWidthToPoints(widthChars(info));
 }
 
 double WorksheetModel::RowsPoints(int32_t top, int32_t bottom) const {

@@ -90,6 +90,8 @@ private:
     void applyToWholeRows(int32_t top, int32_t bottom, FormatChange& change);
     void applyToWholeColumns(int32_t left, int32_t right, FormatChange& change);
     void applyToWholeSheet(FormatChange& change);
+    double widthChars(const ColumnInfo& info) const;
+    double points(const ColumnInfo& info) const;
     void moveCells(const BlockShift& shift);
     void moveCellsAcross(const BlockShift& shift);
     void moveCellsAlongColumns(const BlockShift& shift);
