@@ -1,5 +1,7 @@
 #include "excel/embedded/workbook_document_conversion.hpp"
 #include "excel/embedded/application_model.hpp"
+#include "excel/embedded/cell_address.hpp"
+#include "excel/embedded/geometry.hpp"
 #include "excel/embedded/workbook_model.hpp"
 
 #include <gtest/gtest.h>
@@ -39,6 +41,31 @@ TEST(WorkbookDocumentConversion, NameDefinedTwiceInOneScopeKeepsItsFirstDefiniti
             EXPECT_EQ(name.formula, "Data!$A$1:$B$2");
         }
     }
+}
+
+TEST(WorkbookDocumentConversion, ColumnSpansLoadAsRunsAndSaveAsOneElementPerRun) {
+    ooxml::WorkbookDocument document = TwoSheetDocument();
+    ooxml::ColumnRange wide;
+    wide.first = 1;
+    wide.last = 4;
+    wide.width = FileColumnWidth(20.0);
+    ooxml::ColumnRange rest = wide;
+    rest.first = 5;
+    rest.last = 16384;
+    rest.width = FileColumnWidth(8.45);
+    document.sheets[0].columns = {wide, rest};
+    auto app = std::make_shared<ApplicationModel>();
+    auto book = std::make_shared<WorkbookModel>(*app, "Columns.xlsx");
+    LoadDocument(*book, document);
+
+    const ColumnStore& columns = book->Sheets()[0]->Columns();
+    ASSERT_EQ(columns.Runs().size(), 2u);
+    EXPECT_EQ(columns.Runs()[1].first, 5);
+    EXPECT_EQ(columns.Runs()[1].last, MaxColumn);
+    EXPECT_EQ(columns.Get(MaxColumn), columns.Get(5));
+
+    const ooxml::WorkbookDocument saved = ToDocument(*book, "test");
+    EXPECT_EQ(saved.sheets[0].columns, document.sheets[0].columns);
 }
 
 }  // namespace
