@@ -133,4 +133,51 @@ inline constexpr int32_t xlErrName = 2029;
 inline constexpr int32_t xlErrNum = 2036;
 inline constexpr int32_t xlErrNA = 2042;
 
+// MsoTriState
+inline constexpr int32_t msoTrue = -1;
+inline constexpr int32_t msoFalse = 0;
+
+// MsoTextOrientation
+inline constexpr int32_t msoTextOrientationHorizontal = 1;
+
+// XlPlacement: how a shape follows the cells beneath it
+inline constexpr int32_t xlMoveAndSize = 1;
+inline constexpr int32_t xlMove = 2;
+inline constexpr int32_t xlFreeFloating = 3;
+
+// MsoShapeType
+inline constexpr int32_t msoComment = 4;
+inline constexpr int32_t msoTextBox = 17;
+
+// MsoThemeColorIndex: the theme's scheme colours as drawing objects name them
+inline constexpr int32_t msoNotThemeColor = 0;
+inline constexpr int32_t msoThemeColorDark1 = 1;
+inline constexpr int32_t msoThemeColorLight1 = 2;
+inline constexpr int32_t msoThemeColorDark2 = 3;
+inline constexpr int32_t msoThemeColorLight2 = 4;
+inline constexpr int32_t msoThemeColorAccent1 = 5;
+inline constexpr int32_t msoThemeColorAccent2 = 6;
+inline constexpr int32_t msoThemeColorAccent3 = 7;
+inline constexpr int32_t msoThemeColorAccent4 = 8;
+inline constexpr int32_t msoThemeColorAccent5 = 9;
+inline constexpr int32_t msoThemeColorAccent6 = 10;
+inline constexpr int32_t msoThemeColorHyperlink = 11;
+inline constexpr int32_t msoThemeColorFollowedHyperlink = 12;
+inline constexpr int32_t msoThemeColorText1 = 13;
+inline constexpr int32_t msoThemeColorBackground1 = 14;
+inline constexpr int32_t msoThemeColorText2 = 15;
+inline constexpr int32_t msoThemeColorBackground2 = 16;
+
+// XlHAlign / XlVAlign of a shape's text
+inline constexpr int32_t xlHAlignLeft = -4131;
+inline constexpr int32_t xlHAlignCenter = -4108;
+inline constexpr int32_t xlHAlignRight = -4152;
+inline constexpr int32_t xlHAlignJustify = -4130;
+inline constexpr int32_t xlHAlignDistributed = -4117;
+inline constexpr int32_t xlVAlignTop = -4160;
+inline constexpr int32_t xlVAlignCenter = -4108;
+inline constexpr int32_t xlVAlignBottom = -4107;
+inline constexpr int32_t xlVAlignJustify = -4130;
+inline constexpr int32_t xlVAlignDistributed = -4117;
+
 }  // namespace excel

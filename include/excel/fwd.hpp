@@ -22,5 +22,13 @@ class Border;
 class Characters;
 class Names;
 class Name;
+class Shapes;
+class Shape;
+class TextFrame;
+class TextFrame2;
+class FillFormat;
+class LineFormat;
+class ColorFormat;
+class Comment;
 
 }  // namespace excel

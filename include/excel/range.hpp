@@ -105,6 +105,13 @@ public:
     // The characters start..start+length-1 (1-based) of the cell's text.
     virtual std::shared_ptr<excel::Characters> Characters(const Variant& start = {}, const Variant& length = {}) = 0;
 
+    // A comment on the range's first cell; refused when that cell has one already. A comment
+    // moves with its cell and goes with it when the cell is deleted or cleared with Clear.
+    virtual std::shared_ptr<excel::Comment> AddComment(const Variant& text = {}) = 0;
+    // The first cell's comment, or none.
+    virtual std::shared_ptr<excel::Comment> Comment() = 0;
+    virtual void ClearComments() = 0;
+
     // Inserts cells of this range's shape, shifting the others; whole rows or columns shift down
     // or right whatever the shift argument says.
     virtual void Insert(const Variant& shift = {}, const Variant& copyOrigin = {}) = 0;

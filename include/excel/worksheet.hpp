@@ -40,6 +40,8 @@ public:
     // A name local to this sheet is found before a workbook-level one of the same name.
     virtual Variant Evaluate(const std::string& expression) = 0;
 
+    virtual std::shared_ptr<excel::Shapes> Shapes() = 0;
+
     virtual std::shared_ptr<excel::PageSetup> PageSetup() = 0;
     virtual bool DisplayPageBreaks() = 0;
     virtual void SetDisplayPageBreaks(bool display) = 0;

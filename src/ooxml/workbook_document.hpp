@@ -3,6 +3,7 @@
 // The workbook as an .xlsx package stores it: plain values, no behaviour. The engine fills one to
 // save and receives one from opening; the package writer and reader know nothing else of it.
 
+#include <array>
 #include <cstdint>
 #include <ctime>
 #include <map>
@@ -147,6 +148,66 @@ struct CellBlock {
     friend bool operator==(const CellBlock&, const CellBlock&) = default;
 };
 
+// A corner of a drawing object as anchors store it: a cell (0-based) and an offset into it in EMU
+// (12,700 per point).
+struct CellAnchor {
+    uint32_t column = 0;
+    int64_t columnOffset = 0;
+    uint32_t row = 0;
+    int64_t rowOffset = 0;
+
+    friend bool operator==(const CellAnchor&, const CellAnchor&) = default;
+};
+
+// A text box of a sheet's drawing. Colours use the cell colour model: Theme colours carry the
+// file's theme index (0 lt1, 1 dk1, 2 lt2, 3 dk2, 4..9 accent1..6, 10 hlink, 11 folHlink) and their
+// tint, which the drawing stores as luminance modulation and offset.
+struct TextBoxShape {
+    uint32_t id = 2;     // unique among the drawing's objects
+    std::string name;    // "TextBox 1"
+    std::string editAs = "twoCell";  // "twoCell" (move and size), "oneCell" (move), "absolute"
+    CellAnchor from;
+    CellAnchor to;
+    int64_t x = 0, y = 0, width = 0, height = 0;  // EMU from the sheet's top-left corner
+    std::optional<Color> fill;      // none: no fill
+    std::optional<Color> line;      // none: no outline
+    int64_t lineWidth = 9525;       // EMU
+    int64_t insetLeft = 91440, insetTop = 45720, insetRight = 91440, insetBottom = 45720;  // EMU
+    bool wrap = true;
+    bool autoFit = false;               // the shape is sized to its text
+    std::string verticalAnchor = "t";   // "t", "ctr", "b", "just", "dist"
+    std::string alignment = "l";        // of every paragraph: "l", "ctr", "r", "just", "dist"
+    std::string macro;                  // run on click; "" for none
+    bool hidden = false;
+    // The text; a line feed separates paragraphs. A run without a font takes the default
+    // (the theme's minor font, 11 points, Text 1).
+    SharedString text;
+};
+
+// The legacy (VML) anchor of a comment's shape: cells 0-based, offsets in pixels.
+struct LegacyAnchor {
+    uint32_t leftColumn = 0, leftOffset = 0, topRow = 0, topOffset = 0;
+    uint32_t rightColumn = 0, rightOffset = 0, bottomRow = 0, bottomOffset = 0;
+
+    friend bool operator==(const LegacyAnchor&, const LegacyAnchor&) = default;
+};
+
+// A cell comment: its text in the comments part, its shape in the legacy VML drawing.
+struct CellComment {
+    uint32_t row = 1, column = 1;  // 1-based
+    std::string author;
+    SharedString text;             // runs with their fonts
+    bool visible = false;
+    double left = 0, top = 0, width = 96, height = 55.5;  // points from the sheet's top-left corner
+    LegacyAnchor anchor;
+    bool moveWithCells = true;
+    bool sizeWithCells = true;
+    uint32_t fillRgb = 0xFFFFE1;   // 0x00RRGGBB
+    uint32_t lineRgb = 0x000000;
+    double lineWeight = 0.75;      // points
+    std::optional<std::array<double, 4>> insets;  // left, top, right, bottom in points; none = automatic
+};
+
 struct SheetDocument {
     std::string name;
     std::string state = "visible";  // "visible", "hidden", "veryHidden"
@@ -162,6 +223,8 @@ struct SheetDocument {
     std::vector<std::string> formulas;  // without the leading "="
     std::map<uint32_t, CellBlock> arrayFormulas;  // formula index -> the block an array formula fills
     std::vector<CellBlock> merges;
+    std::vector<TextBoxShape> textBoxes;  // in z-order, bottom first
+    std::vector<CellComment> comments;    // in row, then column order
 };
 
 struct DefinedName {

@@ -345,3 +345,10 @@ void RangeView::Activate() {
 }
 
 }  // namespace excel::embedded
+
+// TEMPORARY until comments land in the engine.
+namespace excel::embedded {
+std::shared_ptr<excel::Comment> RangeView::AddComment(const Variant&) { ThrowRefused(); }
+std::shared_ptr<excel::Comment> RangeView::Comment() { ThrowRefused(); }
+void RangeView::ClearComments() { ThrowRefused(); }
+}  // namespace excel::embedded

@@ -97,6 +97,9 @@ public:
     void BorderAround(const Variant& lineStyle, int32_t weight, int32_t colorIndex, const Variant& color,
                       const Variant& themeColor) override;
     std::shared_ptr<excel::Characters> Characters(const Variant& start, const Variant& length) override;
+    std::shared_ptr<excel::Comment> AddComment(const Variant& text) override;
+    std::shared_ptr<excel::Comment> Comment() override;
+    void ClearComments() override;
 
     void Insert(const Variant& shift, const Variant& copyOrigin) override;
     void Delete(const Variant& shift) override;

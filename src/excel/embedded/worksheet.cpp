@@ -177,3 +177,8 @@ void WorksheetView::Delete() {
 }
 
 }  // namespace excel::embedded
+
+// TEMPORARY until shapes land in the engine.
+namespace excel::embedded {
+std::shared_ptr<excel::Shapes> WorksheetView::Shapes() { ThrowRefused(); }
+}  // namespace excel::embedded

@@ -35,6 +35,7 @@ public:
 
     Variant Evaluate(const std::string& expression) override;
 
+    std::shared_ptr<excel::Shapes> Shapes() override;
     std::shared_ptr<excel::PageSetup> PageSetup() override;
     bool DisplayPageBreaks() override;
     void SetDisplayPageBreaks(bool display) override;
