@@ -20,30 +20,6 @@ namespace {
 const std::string kApplication = "MyApp";
 const std::string kWorksheetTag = "VostrandReportWorksheetCreatedBy";
 
-// Collects expectations that do not hold, so that one run reports every difference.
-class Failures {
-public:
-    void Expect(bool holds, const std::string& expectation) {
-        ++checked_;
-        if (!holds)
-            failed_.push_back(expectation);
-    }
-
-    void ThrowIfAny() const {
-        for (const auto& expectation : failed_) {
-            std::cerr << "FAIL " << expectation << '\n';
-        }
-        if (!failed_.empty())
-            throw std::runtime_error(std::to_string(failed_.size()) + " of " + std::to_string(checked_) +
-                                     " expectations failed");
-        std::cout << checked_ << " expectations hold\n";
-    }
-
-private:
-    int checked_ = 0;
-    std::vector<std::string> failed_;
-};
-
 // Each value goes into the cell at the layout cursor, which then moves two rows down: one empty row
 // separates the values.
 void WriteAtCursor(vos::VosExcelReportWorksheet& sheet, const std::vector<excel::Variant>& values) {
@@ -78,7 +54,7 @@ void WriteReportWorkbook(vos::VosExcelReporting& reporting, const std::shared_pt
 
 void CheckTagsAfterReopening(vos::VosExcelReporting& reporting, excel::Application& app,
                              const std::filesystem::path& file) {
-    Failures failures;
+    conformance::Failures failures;
     auto book = app.Workbooks()->Open(file.string());
     failures.Expect(reporting.WorkbookHasCreationTag(book, "myapp"), "workbook tagged for myapp (any case)");
     failures.Expect(reporting.WorkbookHasCreationTag(book), "workbook tagged for some application");
