@@ -1,20 +1,24 @@
 #pragma once
 
-#include "excel/embedded/range_cells.hpp"
-#include "ooxml/workbook_document.hpp"
+#include "excel/embedded/rich_text_source.hpp"
 
 #include <excel/characters.hpp>
+#include <excel/variant.hpp>
 
 #include <memory>
 
 namespace excel::embedded {
 
-// Characters start..start+length-1 of one cell's text (length -1: to the end), following the cell
-// wherever inserts and deletes move it.
+// Characters start..start+length-1 (length -1: to the end) of a cell's or a shape's text.
 class CharactersView final : public excel::Characters {
 public:
-    CharactersView(RangeCells cell, int32_t start, int32_t length)
-        : cell_(std::move(cell)), start_(start), length_(length) {}
+    CharactersView(std::shared_ptr<RichTextSource> source, int32_t start, int32_t length)
+        : source_(std::move(source)), start_(start), length_(length) {}
+
+    // The characters the object model's optional start and length address; refused, with the
+    // message naming the owner's class, for a start below 1 or a negative length.
+    static std::shared_ptr<excel::Characters> Make(std::shared_ptr<RichTextSource> source, const Variant& start,
+                                                   const Variant& length, const std::string& ownerClass);
 
     std::string Text() override;
     void SetText(const std::string& text) override;
@@ -26,10 +30,7 @@ public:
     void Delete() override;
 
 private:
-    // The cell's text as rich text; Object required once the cell was deleted.
-    ooxml::SharedString currentText() const;
-
-    RangeCells cell_;
+    std::shared_ptr<RichTextSource> source_;
     int32_t start_;
     int32_t length_;
 };

@@ -1,8 +1,12 @@
 #include "excel/embedded/range.hpp"
 
 #include "excel/embedded/application.hpp"
+#include "excel/embedded/application_model.hpp"
 #include "excel/embedded/areas.hpp"
 #include "excel/embedded/borders.hpp"
+#include "excel/embedded/cell_comment.hpp"
+#include "excel/embedded/cell_rich_text.hpp"
+#include "excel/embedded/comment.hpp"
 #include "excel/embedded/characters.hpp"
 #include "excel/embedded/engine_errors.hpp"
 #include "excel/embedded/font.hpp"
@@ -295,13 +299,38 @@ void RangeView::BorderAround(const Variant& lineStyle, int32_t weight, int32_t c
 
 std::shared_ptr<excel::Characters> RangeView::Characters(const Variant& start, const Variant& length) {
     book();
-    const int32_t from = start.IsEmpty() ? 1 : start.ToInt();
-    const int32_t count = length.IsEmpty() ? -1 : length.ToInt();
-    if (from < 1 || (!length.IsEmpty() && count < 0)) {
-        ThrowRefused("Unable to get the Characters property of the Range class");
-    }
     const CellBlock cell{first().top, first().left, first().top, first().left};
-    return std::make_shared<CharactersView>(RangeCells{cells_.Sheet(), {cell}}, from, count);
+    return CharactersView::Make(std::make_shared<CellRichText>(RangeCells{cells_.Sheet(), {cell}}), start, length,
+                                "Range");
+}
+
+std::shared_ptr<excel::Comment> RangeView::AddComment(const Variant& text) {
+    WorkbookModel& owner = book();
+    WorksheetModel& sheet = *cells_.Sheet();
+    if (sheet.Shapes().CommentAt(first().top, first().left)) {
+        ThrowRefused();
+    }
+    auto shape = AddCellComment(sheet, first().top, first().left, owner.App().userName,
+                                text.IsEmpty() ? std::string() : text.ToString());
+    owner.SetSaved(false);
+    return std::make_shared<CommentView>(ShapeHandle{cells_.Sheet(), shape});
+}
+
+std::shared_ptr<excel::Comment> RangeView::Comment() {
+    book();
+    auto shape = cells_.Sheet()->Shapes().CommentAt(first().top, first().left);
+    if (!shape) {
+        return nullptr;
+    }
+    return std::make_shared<CommentView>(ShapeHandle{cells_.Sheet(), shape});
+}
+
+void RangeView::ClearComments() {
+    WorkbookModel& owner = book();
+    for (const CellBlock& area : cells_.Areas()) {
+        RemoveCellComments(*cells_.Sheet(), area);
+    }
+    owner.SetSaved(false);
 }
 
 void RangeView::shift(const Variant& direction, bool insert, bool formatFromAfter) {
@@ -344,11 +373,4 @@ void RangeView::Activate() {
     Select();
 }
 
-}  // namespace excel::embedded
-
-// TEMPORARY until comments land in the engine.
-namespace excel::embedded {
-std::shared_ptr<excel::Comment> RangeView::AddComment(const Variant&) { ThrowRefused(); }
-std::shared_ptr<excel::Comment> RangeView::Comment() { ThrowRefused(); }
-void RangeView::ClearComments() { ThrowRefused(); }
 }  // namespace excel::embedded

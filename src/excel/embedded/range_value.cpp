@@ -219,9 +219,11 @@ void RangeView::ClearFormats() {
     cells_.EditFormats([](ooxml::CellFormat& format) { format = ooxml::CellFormat{}; });
 }
 
+// Excel's Clear All: contents, formats and comments.
 void RangeView::Clear() {
     ClearContents();
     ClearFormats();
+    ClearComments();
 }
 
 }  // namespace excel::embedded

@@ -6,6 +6,7 @@
 #include "excel/embedded/names.hpp"
 #include "excel/embedded/page_setup.hpp"
 #include "excel/embedded/range.hpp"
+#include "excel/embedded/shapes.hpp"
 #include "excel/embedded/workbook.hpp"
 
 #include <algorithm>
@@ -141,6 +142,11 @@ Variant WorksheetView::Evaluate(const std::string& expression) {
     return EvaluateExpression(model_, expression);
 }
 
+std::shared_ptr<excel::Shapes> WorksheetView::Shapes() {
+    Model();
+    return std::make_shared<ShapesView>(model_);
+}
+
 std::shared_ptr<excel::PageSetup> WorksheetView::PageSetup() {
     Model();
     return std::make_shared<PageSetupView>(model_);
@@ -176,9 +182,4 @@ void WorksheetView::Delete() {
     model_->Book().DeleteSheet(*model_);
 }
 
-}  // namespace excel::embedded
-
-// TEMPORARY until shapes land in the engine.
-namespace excel::embedded {
-std::shared_ptr<excel::Shapes> WorksheetView::Shapes() { ThrowRefused(); }
 }  // namespace excel::embedded

@@ -5,6 +5,7 @@
 #include "excel/embedded/cell_store.hpp"
 #include "excel/embedded/column_store.hpp"
 #include "excel/embedded/format_change.hpp"
+#include "excel/embedded/shape_list.hpp"
 
 #include <cstdint>
 #include <functional>
@@ -29,7 +30,8 @@ struct SheetSettings {
     std::string activeCell = "A1";
 };
 
-// A worksheet's content: cells, row and column formats and sizes, merged blocks, settings.
+// A worksheet's content: cells, row and column formats and sizes, merged blocks, drawing objects,
+// settings.
 // Owned by its workbook; views hold it by shared_ptr and ask Alive() first, because a deleted
 // sheet or a closed workbook leaves them holding a detached model.
 class WorksheetModel : public std::enable_shared_from_this<WorksheetModel> {
@@ -48,6 +50,8 @@ public:
     const CellStore& Cells() const { return cells_; }
     ColumnStore& Columns() { return columns_; }
     const ColumnStore& Columns() const { return columns_; }
+    ShapeList& Shapes() { return shapes_; }
+    const ShapeList& Shapes() const { return shapes_; }
     std::vector<CellBlock>& Merges() { return merges_; }
     const std::vector<CellBlock>& Merges() const { return merges_; }
 
@@ -103,6 +107,7 @@ private:
     CellStore cells_;
     ColumnStore columns_;
     std::vector<CellBlock> merges_;
+    ShapeList shapes_;
     std::vector<BlockShift> shiftsApplied_;
 };
 

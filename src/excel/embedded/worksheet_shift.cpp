@@ -67,6 +67,7 @@ void WorksheetModel::ShiftCells(const BlockShift& shift) {
     }
     moveCells(shift);
     shiftMerges(shift);
+    shapes_.Shift(shift);
     if (shift.insert) {
         copyFormatsIntoInserted(shift);
     }

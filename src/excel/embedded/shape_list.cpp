@@ -1,0 +1,55 @@
+#include "excel/embedded/shape_list.hpp"
+
+#include "excel/embedded/shape_placement.hpp"
+
+#include <algorithm>
+
+namespace excel::embedded {
+
+std::shared_ptr<ShapeModel> ShapeList::Add(int32_t type) {
+    auto shape = std::make_shared<ShapeModel>();
+    ++lastNumber_;
+    shape->id = lastNumber_ + 1;
+    shape->type = type;
+    shape->name = (type == msoComment ? "Comment " : "TextBox ") + std::to_string(lastNumber_);
+    shapes_.push_back(shape);
+    return shape;
+}
+
+void ShapeList::AddOpened(std::shared_ptr<ShapeModel> shape) {
+    lastNumber_ = std::max(lastNumber_, shape->id > 0 ? shape->id - 1 : 0);
+    shapes_.push_back(std::move(shape));
+}
+
+void ShapeList::Remove(ShapeModel& shape) {
+    shape.deleted = true;
+    std::erase_if(shapes_, [&](const auto& held) { return held.get() == &shape; });
+}
+
+std::shared_ptr<ShapeModel> ShapeList::CommentAt(int32_t row, int32_t column) const {
+    for (const auto& shape : shapes_) {
+        if (shape->comment && shape->comment->row == row && shape->comment->column == column) {
+            return shape;
+        }
+    }
+    return nullptr;
+}
+
+void ShapeList::Shift(const BlockShift& shift) {
+    for (const auto& shape : shapes_) {
+        ShiftAnchors(*shape, shift);
+        if (!shape->comment) {
+            continue;
+        }
+        CommentLink& link = *shape->comment;
+        if (auto cell = ShiftBlock(CellBlock{link.row, link.column, link.row, link.column}, shift)) {
+            link.row = cell->top;
+            link.column = cell->left;
+        } else {
+            shape->deleted = true;
+        }
+    }
+    std::erase_if(shapes_, [](const auto& shape) { return shape->deleted; });
+}
+
+}  // namespace excel::embedded
