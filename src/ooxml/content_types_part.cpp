@@ -10,6 +10,17 @@ void ContentTypes::AddOverride(std::string_view partPath, std::string_view conte
     overrides_.push_back({"/" + std::string(partPath), std::string(contentType)});
 }
 
+void ContentTypes::AddPart(std::string_view partPath, std::string_view contentType) {
+    const std::size_t dot = partPath.rfind('.');
+    const std::string_view extension = dot == std::string_view::npos ? std::string_view() : partPath.substr(dot + 1);
+    for (const Mapping& mapping : defaults_) {
+        if (mapping.key == extension && mapping.contentType == contentType) {
+            return;
+        }
+    }
+    AddOverride(partPath, contentType);
+}
+
 void ContentTypes::Write(XmlWriter& xml) const {
     xml.Declaration();
     xml.StartElement("Types");

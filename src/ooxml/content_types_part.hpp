@@ -16,6 +16,9 @@ public:
     void AddDefault(std::string_view extension, std::string_view contentType);
     // partPath without the leading "/".
     void AddOverride(std::string_view partPath, std::string_view contentType);
+    // Declares a part's content type: by the default for its extension when that is the same,
+    // otherwise by an override.
+    void AddPart(std::string_view partPath, std::string_view contentType);
     void Write(XmlWriter& xml) const;
 
 private:

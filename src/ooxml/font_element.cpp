@@ -19,6 +19,40 @@ void ValueElement(XmlWriter& xml, std::string_view element, std::string_view val
     xml.EndElement();
 }
 
+void WriteUnderline(XmlWriter& xml, const Font& font) {
+    if (font.underline == "single") {
+        FlagElement(xml, "u", true);
+    } else if (!font.underline.empty() && font.underline != "none") {
+        ValueElement(xml, "u", font.underline);
+    }
+}
+
+void WriteVerticalAlignment(XmlWriter& xml, const Font& font) {
+    if (!font.vertAlign.empty() && font.vertAlign != "baseline") {
+        ValueElement(xml, "vertAlign", font.vertAlign);
+    }
+}
+
+void WriteSize(XmlWriter& xml, const Font& font) {
+    xml.StartElement("sz");
+    xml.Attribute("val", font.size);
+    xml.EndElement();
+}
+
+void WriteFamily(XmlWriter& xml, const Font& font) {
+    if (font.family != 0) {
+        xml.StartElement("family");
+        xml.Attribute("val", font.family);
+        xml.EndElement();
+    }
+}
+
+void WriteScheme(XmlWriter& xml, const Font& font) {
+    if (!font.scheme.empty() && font.scheme != "none") {
+        ValueElement(xml, "scheme", font.scheme);
+    }
+}
+
 }  // namespace
 
 void WriteFont(XmlWriter& xml, std::string_view element, std::string_view nameElement, const Font& font) {
@@ -26,27 +60,28 @@ void WriteFont(XmlWriter& xml, std::string_view element, std::string_view nameEl
     FlagElement(xml, "b", font.bold);
     FlagElement(xml, "i", font.italic);
     FlagElement(xml, "strike", font.strike);
-    if (font.underline == "single") {
-        FlagElement(xml, "u", true);
-    } else if (!font.underline.empty() && font.underline != "none") {
-        ValueElement(xml, "u", font.underline);
-    }
-    if (!font.vertAlign.empty() && font.vertAlign != "baseline") {
-        ValueElement(xml, "vertAlign", font.vertAlign);
-    }
-    xml.StartElement("sz");
-    xml.Attribute("val", font.size);
-    xml.EndElement();
+    WriteUnderline(xml, font);
+    WriteVerticalAlignment(xml, font);
+    WriteSize(xml, font);
     WriteColor(xml, "color", font.color);
     ValueElement(xml, nameElement, font.name);
-    if (font.family != 0) {
-        xml.StartElement("family");
-        xml.Attribute("val", font.family);
-        xml.EndElement();
-    }
-    if (!font.scheme.empty() && font.scheme != "none") {
-        ValueElement(xml, "scheme", font.scheme);
-    }
+    WriteFamily(xml, font);
+    WriteScheme(xml, font);
+    xml.EndElement();
+}
+
+void WriteRunFont(XmlWriter& xml, const Font& font) {
+    xml.StartElement("rPr");
+    ValueElement(xml, "rFont", font.name);
+    WriteFamily(xml, font);
+    FlagElement(xml, "b", font.bold);
+    FlagElement(xml, "i", font.italic);
+    FlagElement(xml, "strike", font.strike);
+    WriteColor(xml, "color", font.color);
+    WriteSize(xml, font);
+    WriteUnderline(xml, font);
+    WriteVerticalAlignment(xml, font);
+    WriteScheme(xml, font);
     xml.EndElement();
 }
 

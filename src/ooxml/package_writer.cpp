@@ -1,17 +1,21 @@
 #include "ooxml/package_writer.hpp"
 
 #include "ooxml/atomic_file.hpp"
+#include "ooxml/comments_part.hpp"
 #include "ooxml/content_types_part.hpp"
 #include "ooxml/document_properties_part.hpp"
+#include "ooxml/drawing_part.hpp"
 #include "ooxml/package_error.hpp"
 #include "ooxml/package_part.hpp"
 #include "ooxml/shared_strings_part.hpp"
 #include "ooxml/styles_part.hpp"
 #include "ooxml/theme_part.hpp"
+#include "ooxml/vml_drawing_part.hpp"
 #include "ooxml/workbook_part.hpp"
 #include "ooxml/worksheet_part.hpp"
 #include "ooxml/zip_writer.hpp"
 
+#include <algorithm>
 #include <exception>
 #include <fmt/format.h>
 #include <vector>
@@ -46,6 +50,44 @@ void CheckDocument(const WorkbookDocument& document) {
     }
 }
 
+// The drawing and comment parts of the sheets, numbered across the workbook.
+struct DrawingPlan {
+    std::vector<PackagePart> drawings;
+    std::vector<PackagePart> comments;  // each sheet's comments, then their legacy drawing
+    uint32_t drawingCount = 0;
+    uint32_t commentsCount = 0;
+    uint32_t nextVmlIdBlock = 1;
+};
+
+// Plans the parts that hold a sheet's text boxes and comments, related from the sheet's part;
+// returns the ids the worksheet refers to them by.
+SheetDrawingReferences PlanSheetDrawings(const WorkbookDocument& document, const SheetDocument& sheet,
+                                         PackagePart& sheetPart, DrawingPlan& plan) {
+    SheetDrawingReferences references;
+    if (!sheet.textBoxes.empty()) {
+        const std::string drawing = fmt::format("drawings/drawing{}.xml", ++plan.drawingCount);
+        references.drawing = sheetPart.relationships.Add(kDrawingRelationshipType, "../" + drawing);
+        plan.drawings.push_back({"xl/" + drawing, kDrawingContentType,
+                                 [&document, &sheet](XmlWriter& xml) { WriteDrawingPart(xml, document, sheet); }, {}});
+    }
+    if (!sheet.comments.empty()) {
+        ++plan.commentsCount;
+        const std::string vmlDrawing = fmt::format("drawings/vmlDrawing{}.vml", plan.commentsCount);
+        const std::string comments = fmt::format("comments{}.xml", plan.commentsCount);
+        references.legacyDrawing = sheetPart.relationships.Add(kVmlDrawingRelationshipType, "../" + vmlDrawing);
+        sheetPart.relationships.Add(kCommentsRelationshipType, "../" + comments);
+        plan.comments.push_back({"xl/" + comments, kCommentsContentType,
+                                 [&sheet](XmlWriter& xml) { WriteCommentsPart(xml, sheet); }, {}});
+        plan.comments.push_back({"xl/" + vmlDrawing, kVmlDrawingContentType,
+                                 [&sheet, firstIdBlock = plan.nextVmlIdBlock](XmlWriter& xml) {
+                                     WriteVmlDrawingPart(xml, sheet, firstIdBlock);
+                                 },
+                                 {}});
+        plan.nextVmlIdBlock += VmlIdBlockCount(sheet.comments.size());
+    }
+    return references;
+}
+
 // The parts in the order Excel stores them, each relationship added by the part that uses it.
 void PlanPackage(const WorkbookDocument& document, Package& package) {
     package.sharedStrings = BuildSharedStringTable(document);
@@ -53,14 +95,17 @@ void PlanPackage(const WorkbookDocument& document, Package& package) {
     PackagePart workbook{"xl/workbook.xml", kWorkbookContentType, {}, {}};
     std::vector<PackagePart> sheetParts;
     std::vector<std::string> sheetRelationshipIds;
+    DrawingPlan drawingPlan;
     for (std::size_t i = 0; i < document.sheets.size(); ++i) {
         const std::string name = fmt::format("worksheets/sheet{}.xml", i + 1);
         sheetRelationshipIds.push_back(workbook.relationships.Add(kWorksheetRelationshipType, name));
         const SheetDocument& sheet = document.sheets[i];
-        sheetParts.push_back({"xl/" + name, kWorksheetContentType,
-                              [&document, &sheet, &sharedStrings](XmlWriter& xml) {
-                                  WriteWorksheetPart(xml, document, sheet, sharedStrings);
-                              }, {}});
+        PackagePart sheetPart{"xl/" + name, kWorksheetContentType, {}, {}};
+        const SheetDrawingReferences drawings = PlanSheetDrawings(document, sheet, sheetPart, drawingPlan);
+        sheetPart.write = [&document, &sheet, &sharedStrings, drawings](XmlWriter& xml) {
+            WriteWorksheetPart(xml, document, sheet, sharedStrings, drawings);
+        };
+        sheetParts.push_back(std::move(sheetPart));
     }
     workbook.relationships.Add(kThemeRelationshipType, "theme/theme1.xml");
     workbook.relationships.Add(kStylesRelationshipType, "styles.xml");
@@ -89,6 +134,11 @@ void PlanPackage(const WorkbookDocument& document, Package& package) {
                                  },
                                  {}});
     }
+    for (std::vector<PackagePart>* parts : {&drawingPlan.drawings, &drawingPlan.comments}) {
+        for (PackagePart& part : *parts) {
+            package.parts.push_back(std::move(part));
+        }
+    }
     package.parts.push_back({"docProps/core.xml", kCorePropertiesContentType,
                              [&document](XmlWriter& xml) { WriteCorePropertiesPart(xml, document.properties); }, {}});
     package.parts.push_back({"docProps/app.xml", kAppPropertiesContentType,
@@ -113,8 +163,12 @@ void WriteArchive(ZipWriter& zip, const Package& package) {
     ContentTypes contentTypes;
     contentTypes.AddDefault("rels", kRelationshipsContentType);
     contentTypes.AddDefault("xml", "application/xml");
+    if (std::any_of(package.parts.begin(), package.parts.end(),
+                    [](const PackagePart& part) { return part.contentType == kVmlDrawingContentType; })) {
+        contentTypes.AddDefault("vml", kVmlDrawingContentType);
+    }
     for (const PackagePart& part : package.parts) {
-        contentTypes.AddOverride(part.path, part.contentType);
+        contentTypes.AddPart(part.path, part.contentType);
     }
     WriteEntry(zip, std::string(ContentTypes::kPartPath), [&contentTypes](XmlWriter& xml) { contentTypes.Write(xml); });
     WriteRelationships(zip, "", package.relationships);

@@ -52,6 +52,22 @@ void WriteTextElement(XmlWriter& xml, std::string_view text) {
     xml.EndElement();
 }
 
+void WriteStringItem(XmlWriter& xml, std::string_view element, const SharedString& string) {
+    xml.StartElement(element);
+    if (string.runs.empty()) {
+        WriteTextElement(xml, string.text);
+    }
+    for (const TextRun& run : string.runs) {
+        xml.StartElement("r");
+        if (run.font) {
+            WriteRunFont(xml, *run.font);
+        }
+        WriteTextElement(xml, run.text);
+        xml.EndElement();
+    }
+    xml.EndElement();
+}
+
 void WriteSharedStringsPart(XmlWriter& xml, const WorkbookDocument& document, const SharedStringTable& table) {
     xml.Declaration();
     xml.StartElement("sst");
@@ -59,20 +75,7 @@ void WriteSharedStringsPart(XmlWriter& xml, const WorkbookDocument& document, co
     xml.Attribute("count", table.references);
     xml.Attribute("uniqueCount", table.strings.size());
     for (uint32_t index : table.strings) {
-        const SharedString& string = document.strings[index];
-        xml.StartElement("si");
-        if (string.runs.empty()) {
-            WriteTextElement(xml, string.text);
-        }
-        for (const TextRun& run : string.runs) {
-            xml.StartElement("r");
-            if (run.font) {
-                WriteFont(xml, "rPr", "rFont", *run.font);
-            }
-            WriteTextElement(xml, run.text);
-            xml.EndElement();
-        }
-        xml.EndElement();
+        WriteStringItem(xml, "si", document.strings[index]);
     }
     xml.EndElement();
 }

@@ -30,6 +30,10 @@ SharedStringTable BuildSharedStringTable(const WorkbookDocument& document);
 // Writes xl/sharedStrings.xml: the table's strings, rich text as runs with their fonts.
 void WriteSharedStringsPart(XmlWriter& xml, const WorkbookDocument& document, const SharedStringTable& table);
 
+// Writes a string item (<si> of the shared string table, <text> of a comment): plain text in <t>,
+// rich text as runs with their fonts.
+void WriteStringItem(XmlWriter& xml, std::string_view element, const SharedString& string);
+
 // Writes <t> with text, marking it space-preserving when a reader could otherwise trim it.
 void WriteTextElement(XmlWriter& xml, std::string_view text);
 

@@ -1,5 +1,6 @@
 #include "ooxml/worksheet_part.hpp"
 
+#include "ooxml/column_name.hpp"
 #include "ooxml/package_error.hpp"
 #include "ooxml/unresolvable_references.hpp"
 
@@ -25,20 +26,12 @@ class ColumnNames {
 public:
     std::string_view Name(uint32_t column) {
         while (names_.size() <= column) {
-            names_.push_back(MakeName(static_cast<uint32_t>(names_.size())));
+            names_.push_back(ColumnName(static_cast<uint32_t>(names_.size())));
         }
         return names_[column];
     }
 
 private:
-    static std::string MakeName(uint32_t column) {
-        std::string name;
-        for (; column > 0; column = (column - 1) / 26) {
-            name.insert(name.begin(), static_cast<char>('A' + (column - 1) % 26));
-        }
-        return name;
-    }
-
     std::vector<std::string> names_;
 };
 
@@ -62,11 +55,10 @@ private:
 class WorksheetWriter {
 public:
     WorksheetWriter(XmlWriter& xml, const WorkbookDocument& document, const SheetDocument& sheet,
-                    const SharedStringTable& sharedStrings)
-        : xml_(xml), document_(document), sheet_(sheet), sharedStrings_(sharedStrings) {}
+                    const SharedStringTable& sharedStrings, const SheetDrawingReferences& drawings)
+        : xml_(xml), document_(document), sheet_(sheet), sharedStrings_(sharedStrings), drawings_(drawings) {}
 
-    // The elements in the order the worksheet schema requires. Parts a sheet refers to (drawings,
-    // comments) follow pageMargins.
+    // The elements in the order the worksheet schema requires.
     void Write() {
         xml_.Declaration();
         xml_.StartElement("worksheet");
@@ -80,6 +72,8 @@ public:
         WriteMerges();
         WritePrintOptions();
         WritePageMargins();
+        WriteReference("drawing", drawings_.drawing);
+        WriteReference("legacyDrawing", drawings_.legacyDrawing);
         xml_.EndElement();
     }
 
@@ -334,6 +328,14 @@ private:
         xml_.EndElement();
     }
 
+    void WriteReference(std::string_view element, const std::string& relationshipId) {
+        if (!relationshipId.empty()) {
+            xml_.StartElement(element);
+            xml_.Attribute("r:id", relationshipId);
+            xml_.EndElement();
+        }
+    }
+
     std::string_view Reference(uint32_t row, uint32_t column) {
         return reference_.Compose(columnNames_.Name(column), row);
     }
@@ -353,6 +355,7 @@ private:
     const WorkbookDocument& document_;
     const SheetDocument& sheet_;
     const SharedStringTable& sharedStrings_;
+    const SheetDrawingReferences& drawings_;
     ColumnNames columnNames_;
     CellReference reference_;
 };
@@ -360,8 +363,8 @@ private:
 }  // namespace
 
 void WriteWorksheetPart(XmlWriter& xml, const WorkbookDocument& document, const SheetDocument& sheet,
-                        const SharedStringTable& sharedStrings) {
-    WorksheetWriter(xml, document, sheet, sharedStrings).Write();
+                        const SharedStringTable& sharedStrings, const SheetDrawingReferences& drawings) {
+    WorksheetWriter(xml, document, sheet, sharedStrings, drawings).Write();
 }
 
 }  // namespace ooxml

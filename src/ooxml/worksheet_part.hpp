@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ooxml/shared_strings_part.hpp"
+#include "ooxml/sheet_drawing_references.hpp"
 #include "ooxml/workbook_document.hpp"
 #include "ooxml/xml_writer.hpp"
 
@@ -16,8 +17,9 @@ inline constexpr std::string_view kWorksheetRelationshipType =
 // Writes a worksheet part (xl/worksheets/sheetN.xml), streaming its rows; string cells refer to
 // their positions in the shared string table. Throws PackageError
 // (WriteFailed) when a cell or row refers to a format, string or formula the document does not
-// have, or rows and cells are out of order: Excel would have to repair such a file.
+// have, or rows and cells are out of order: Excel would have to repair such a file. drawings are
+// the ids of the sheet's relationships to its drawing parts.
 void WriteWorksheetPart(XmlWriter& xml, const WorkbookDocument& document, const SheetDocument& sheet,
-                        const SharedStringTable& sharedStrings);
+                        const SharedStringTable& sharedStrings, const SheetDrawingReferences& drawings = {});
 
 }  // namespace ooxml

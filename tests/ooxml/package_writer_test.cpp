@@ -36,9 +36,12 @@ protected:
 TEST_F(PackageWriterTest, StoresThePartsInExcelsOrder) {
     EXPECT_THAT(ZipEntryNames(path_),
                 ElementsAre("[Content_Types].xml", "_rels/.rels", "xl/workbook.xml", "xl/_rels/workbook.xml.rels",
-                            "xl/worksheets/sheet1.xml", "xl/worksheets/sheet2.xml", "xl/worksheets/sheet3.xml",
-                            "xl/theme/theme1.xml", "xl/styles.xml", "xl/sharedStrings.xml", "docProps/core.xml",
-                            "docProps/app.xml"));
+                            "xl/worksheets/sheet1.xml", "xl/worksheets/_rels/sheet1.xml.rels",
+                            "xl/worksheets/sheet2.xml", "xl/worksheets/_rels/sheet2.xml.rels",
+                            "xl/worksheets/sheet3.xml", "xl/theme/theme1.xml", "xl/styles.xml",
+                            "xl/sharedStrings.xml", "xl/drawings/drawing1.xml", "xl/comments1.xml",
+                            "xl/drawings/vmlDrawing1.vml", "xl/comments2.xml", "xl/drawings/vmlDrawing2.vml",
+                            "docProps/core.xml", "docProps/app.xml"));
 }
 
 TEST_F(PackageWriterTest, EveryXmlPartIsWellFormed) {

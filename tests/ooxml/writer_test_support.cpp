@@ -204,6 +204,15 @@ WorkbookDocument FullDocument() {
     empty.name = "Empty";
     empty.defaultRowHeight = 18.75;
 
+    data.textBoxes = FullTextBoxes();
+    data.comments = FullComments();
+    CellComment hiddenNote;
+    hiddenNote.row = 3;
+    hiddenNote.column = 3;
+    hiddenNote.author = "Carl";
+    hiddenNote.text.text = "On the hidden sheet";
+    hidden.comments = {hiddenNote};
+
     document.sheets = {data, hidden, empty};
     document.names = {
         DefinedName{"Total", "'Data & <Results>'!$A$1:$A$3", std::nullopt, false},
@@ -222,6 +231,135 @@ WorkbookDocument FullDocument() {
     document.properties.created = 1700000000;
     document.properties.modified = 1700003600;
     return document;
+}
+
+std::vector<TextBoxShape> FullTextBoxes() {
+    TextBoxShape plain;
+    plain.id = 2;
+    plain.name = "TextBox 1";
+    plain.from = CellAnchor{4, 0, 8, 0};
+    plain.to = CellAnchor{7, 0, 14, 0};
+    plain.x = 2438400;
+    plain.y = 1524000;
+    plain.width = 1828800;
+    plain.height = 1143000;
+    plain.fill = Color{Color::Kind::Theme, 0, 0, 0.0};
+    plain.line = Color{Color::Kind::Theme, 0, 1, -0.25};
+    plain.lineWidth = 19050;
+    plain.text.text = "Plain text\n\nafter an empty line";
+
+    Font strong;
+    strong.name = "Arial";
+    strong.size = 14;
+    strong.bold = true;
+    strong.italic = true;
+    strong.strike = true;
+    strong.underline = "single";
+    strong.color = Color{Color::Kind::Rgb, 0xFF336699, 0, 0.0};
+    strong.family = 2;
+    strong.scheme = "";
+    Font heading;
+    heading.name = "Calibri Light";
+    heading.scheme = "major";
+    heading.vertAlign = "superscript";
+    heading.color = Color{Color::Kind::Theme, 0, 4, 0.4};
+    Font low;
+    low.underline = "double";
+    low.vertAlign = "subscript";
+    TextBoxShape rich;
+    rich.id = 3;
+    rich.name = "Notes & <Remarks>";
+    rich.editAs = "oneCell";
+    rich.from = CellAnchor{1, 95250, 20, 19050};
+    rich.to = CellAnchor{5, 0, 27, 152400};
+    rich.x = 704850;
+    rich.y = 3829050;
+    rich.width = 2343150;
+    rich.height = 1466850;
+    rich.fill.reset();
+    rich.line.reset();
+    rich.insetLeft = 0;
+    rich.insetTop = 12700;
+    rich.insetRight = 25400;
+    rich.insetBottom = 38100;
+    rich.wrap = false;
+    rich.autoFit = true;
+    rich.verticalAnchor = "ctr";
+    rich.alignment = "ctr";
+    rich.macro = "Module1.OnClick";
+    rich.hidden = true;
+    rich.text.runs = {TextRun{"Default ", std::nullopt}, TextRun{"bold\n", strong}, TextRun{"accent", heading},
+                      TextRun{"\nlast", low}};
+    for (const TextRun& run : rich.text.runs) {
+        rich.text.text += run.text;
+    }
+
+    TextBoxShape empty;
+    empty.id = 4;
+    empty.name = "TextBox 3";
+    empty.editAs = "absolute";
+    empty.from = CellAnchor{10, 0, 2, 0};
+    empty.to = CellAnchor{12, 304800, 6, 0};
+    empty.x = 6096000;
+    empty.y = 381000;
+    empty.width = 1524000;
+    empty.height = 762000;
+    empty.fill = Color{Color::Kind::Theme, 0, 5, 0.6};
+    empty.line = Color{Color::Kind::Rgb, 0xFF00B050, 0, 0.0};
+    empty.verticalAnchor = "b";
+    empty.alignment = "r";
+    return {plain, rich, empty};
+}
+
+std::vector<CellComment> FullComments() {
+    CellComment first;
+    first.row = 1;
+    first.column = 1;
+    first.author = "Ann";
+    first.text.text = "_x0041_ & <tag>";
+    first.left = 59.25;
+    first.top = 1.5;
+    first.anchor = LegacyAnchor{1, 15, 0, 2, 3, 15, 3, 16};
+
+    CellComment plain;
+    plain.row = 2;
+    plain.column = 2;
+    plain.author = "Bob <Reviewer>";
+    plain.text.text = "Plain note";
+    plain.left = 107.25;
+    plain.top = 7.5;
+    plain.anchor = LegacyAnchor{2, 15, 0, 10, 4, 15, 4, 4};
+
+    Font label;
+    label.name = "Tahoma";
+    label.size = 9;
+    label.bold = true;
+    label.color = Color{Color::Kind::Indexed, 0, 81, 0.0};
+    label.scheme = "";
+    Font body = label;
+    body.bold = false;
+    body.italic = true;
+    body.underline = "double";
+    body.vertAlign = "superscript";
+    CellComment rich;
+    rich.row = 17;
+    rich.column = 4;
+    rich.author = "Ann";
+    rich.text.runs = {TextRun{"Ann:", label}, TextRun{"\nrich note", body}};
+    rich.text.text = "Ann:\nrich note";
+    rich.visible = true;
+    rich.left = 203.25;
+    rich.top = 232.5;
+    rich.width = 144;
+    rich.height = 79.5;
+    rich.anchor = LegacyAnchor{4, 15, 15, 10, 7, 15, 20, 6};
+    rich.moveWithCells = false;
+    rich.sizeWithCells = false;
+    rich.fillRgb = 0xCCFFCC;
+    rich.lineRgb = 0x336699;
+    rich.lineWeight = 1.5;
+    rich.insets = std::array<double, 4>{1.8, 3.6, 7.2, 0.9};
+    return {first, plain, rich};
 }
 
 }  // namespace writer_test

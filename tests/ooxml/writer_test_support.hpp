@@ -134,8 +134,17 @@ inline int RunCommand(const std::string& command, std::string& output, const Scr
 
 // A document that uses every field of the model: three sheets (one hidden), every kind of cell
 // value, formulas, rich text, every kind of colour, font effect, fill, border style and
-// alignment, merges, column ranges, row heights and formats, names, palette, protection and
-// properties.
+// alignment, merges, column ranges, row heights and formats, names, palette, protection,
+// properties, text boxes (FullTextBoxes on the first sheet) and comments (FullComments on the
+// first sheet, one more on the second).
 ooxml::WorkbookDocument FullDocument();
+
+// Three text boxes that between them use every field of the text box model, with plain and rich
+// text, empty paragraphs and every kind of anchor, fill, line and text colour.
+std::vector<ooxml::TextBoxShape> FullTextBoxes();
+
+// Three comments, in cell order, that between them use every field of the comment model: plain
+// and rich text, a repeated author, a visible note, custom colours, line and insets.
+std::vector<ooxml::CellComment> FullComments();
 
 }  // namespace writer_test
