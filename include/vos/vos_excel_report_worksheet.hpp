@@ -1,9 +1,13 @@
 #pragma once
 
+#include <vos/table_inside_border_type.hpp>
+
 #include <excel/fwd.hpp>
+#include <excel/variant.hpp>
 
 #include <cstdint>
 #include <memory>
+#include <string>
 
 namespace vos {
 
@@ -33,8 +37,41 @@ public:
     virtual bool HasAvailableSpace(int32_t numRows, int32_t numColumns) = 0;
     // Leaves numRows empty rows below the last element.
     virtual void AddSeparatorRows(int32_t numRows) = 0;
+    // The header block written into cells at the cursor: the title, a "Performed By" line, a
+    // "Date" line, then one line per entry of additionalHeaderInfo (a one-dimensional array of
+    // "label<TAB>value" texts; an entry without a TAB is all label). With themes the block is 9
+    // columns in the report-header theme colour, without them whole silver rows with a black line
+    // underneath. The cursor moves to the row below the block.
+    virtual std::shared_ptr<excel::Range> AddHeaderRange(const std::string& mainTitle,
+                                                         const excel::Variant& additionalHeaderInfo) = 0;
+    // The same header block as one text box at the cursor, 428 points wide, ending half a point
+    // above a row boundary; the cursor moves to the row after the box. The title must not be blank.
+    virtual std::shared_ptr<excel::Shape> AddHeader(const std::string& mainTitle,
+                                                    const excel::Variant& additionalHeaderInfo) = 0;
     // Inserts a narrow gutter column at the left edge of the sheet; everything shifts right.
     virtual void AddSpacingColumn() = 0;
+    // A hidden comment on the cell: the bold, underlined header text over the main text, in a
+    // white 216 x 90 point box with a navy outline. It replaces the cell's comment, if any.
+    virtual std::shared_ptr<excel::Comment> AddComment(const std::shared_ptr<excel::Range>& whichCell,
+                                                       const std::string& headerText, const std::string& mainText) = 0;
+
+    // The workbook's theme colour index and tint for a part of a report (a VosThemePropertyType;
+    // other values read the VosTableBorders entry). With p_ObjectThemeColor the index is in the
+    // numbering of drawing objects, which swaps dark and light against the cells' numbering.
+    virtual int32_t ThemeColor(int32_t p_VosThemePropertyType, bool p_ObjectThemeColor = false) = 0;
+    virtual float ThemeTintAndShade(int32_t p_VosThemePropertyType, bool p_ObjectThemeColor = false) = 0;
+    // Colour a table's ranges from the workbook's theme, whether or not the workbook uses themes;
+    // a missing range is left alone. The header members remove the inside lines the border type
+    // does not draw; the interior member leaves them.
+    virtual void SetTitleRangeTheme(const std::shared_ptr<excel::Range>& p_Range) = 0;
+    virtual void SetInteriorRangeTheme(const std::shared_ptr<excel::Range>& p_Range,
+                                       int32_t p_InsideBorderType = VosBorderHorizontal) = 0;
+    virtual void SetTopHeaderRangeTheme(const std::shared_ptr<excel::Range>& p_Range,
+                                        int32_t p_InsideBorderType = VosBorderHorizontal) = 0;
+    // As the top header, with the right edge instead of the bottom one; with
+    // VosBorderHorizontalAndVertical only the vertical inside lines are drawn.
+    virtual void SetLeftHeaderRangeTheme(const std::shared_ptr<excel::Range>& p_Range,
+                                         int32_t p_InsideBorderType = VosBorderHorizontal) = 0;
 
 protected:
     VosExcelReportWorksheet() = default;

@@ -35,6 +35,11 @@ public:
     bool WorkbookHasCreationTag(const std::shared_ptr<excel::Workbook>& wb, const std::string& applicationIdentifier = "");
     bool WorksheetHasCreationTag(const std::shared_ptr<excel::Worksheet>& ws,
                                  const std::string& applicationIdentifier = "");
+
+    // A hidden comment on the cell: the bold, underlined header text over the main text, in a
+    // white 216 x 90 point box with a navy outline. It replaces the cell's comment, if any.
+    std::shared_ptr<excel::Comment> AddComment(const std::shared_ptr<excel::Range>& p_CellRange,
+                                               const std::string& p_HeaderText, const std::string& p_MainText);
 };
 
 }  // namespace vos

@@ -6,6 +6,7 @@
 #include "workbook/creation_tags.hpp"
 #include "workbook/placeholder_sheet.hpp"
 #include "workbook/report_workbook.hpp"
+#include "worksheet/cell_comment.hpp"
 
 #include <excel/application.hpp>
 #include <excel/object.hpp>
@@ -91,6 +92,12 @@ bool VosExcelReporting::WorkbookHasCreationTag(const std::shared_ptr<excel::Work
 bool VosExcelReporting::WorksheetHasCreationTag(const std::shared_ptr<excel::Worksheet>& ws,
                                                 const std::string& applicationIdentifier) {
     return WorksheetHasTag(ws, applicationIdentifier);
+}
+
+std::shared_ptr<excel::Comment> VosExcelReporting::AddComment(const std::shared_ptr<excel::Range>& p_CellRange,
+                                                              const std::string& p_HeaderText,
+                                                              const std::string& p_MainText) {
+    return CreateClientCellComment(p_CellRange, p_HeaderText, p_MainText);
 }
 
 }  // namespace vos

@@ -4,6 +4,7 @@
 #include "support/support_services.hpp"
 #include "workbook/creation_tags.hpp"
 #include "workbook/report_workbook.hpp"
+#include "worksheet/cell_comment.hpp"
 
 #include <excel/automation_error.hpp>
 #include <excel/constants.hpp>
@@ -112,6 +113,11 @@ void ReportWorksheet::AddSeparatorRows(int32_t numRows) {
 void ReportWorksheet::AddSpacingColumn() {
     excelWorksheet_->Columns(1)->Insert(excel::xlShiftToRight);
     excelWorksheet_->Columns(1)->SetColumnWidth(SpacingColumnWidth);
+}
+
+std::shared_ptr<excel::Comment> ReportWorksheet::AddComment(const std::shared_ptr<excel::Range>& whichCell,
+                                                            const std::string& headerText, const std::string& mainText) {
+    return CreateClientCellComment(whichCell, headerText, mainText);
 }
 
 void ReportWorksheet::AdvanceCurrentCell(int32_t numRows, int32_t numColumns) {

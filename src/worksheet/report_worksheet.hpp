@@ -29,7 +29,22 @@ public:
     void SetCurrentCell(const std::shared_ptr<excel::Range>& cell) override;
     bool HasAvailableSpace(int32_t numRows, int32_t numColumns) override;
     void AddSeparatorRows(int32_t numRows) override;
+    std::shared_ptr<excel::Range> AddHeaderRange(const std::string& mainTitle,
+                                                 const excel::Variant& additionalHeaderInfo) override;
+    std::shared_ptr<excel::Shape> AddHeader(const std::string& mainTitle,
+                                            const excel::Variant& additionalHeaderInfo) override;
     void AddSpacingColumn() override;
+    std::shared_ptr<excel::Comment> AddComment(const std::shared_ptr<excel::Range>& whichCell,
+                                               const std::string& headerText, const std::string& mainText) override;
+    int32_t ThemeColor(int32_t p_VosThemePropertyType, bool p_ObjectThemeColor = false) override;
+    float ThemeTintAndShade(int32_t p_VosThemePropertyType, bool p_ObjectThemeColor = false) override;
+    void SetTitleRangeTheme(const std::shared_ptr<excel::Range>& p_Range) override;
+    void SetInteriorRangeTheme(const std::shared_ptr<excel::Range>& p_Range,
+                               int32_t p_InsideBorderType = VosBorderHorizontal) override;
+    void SetTopHeaderRangeTheme(const std::shared_ptr<excel::Range>& p_Range,
+                                int32_t p_InsideBorderType = VosBorderHorizontal) override;
+    void SetLeftHeaderRangeTheme(const std::shared_ptr<excel::Range>& p_Range,
+                                 int32_t p_InsideBorderType = VosBorderHorizontal) override;
 
     // Moves the cursor down and right; a move past the limiting range empties the cursor.
     void AdvanceCurrentCell(int32_t numRows, int32_t numColumns);
@@ -38,6 +53,12 @@ public:
 
 private:
     bool CursorStaysInsideAfter(int32_t numRows, int32_t numColumns) const;
+    // One "label: value" line of the cell form, the label and its colon bold.
+    void WriteHeaderLabelAndValue(const std::shared_ptr<excel::Range>& cell, std::string label,
+                                  const std::string& value) const;
+    // One line of the text-box form: a new line, a space, the bold label, a space and the value.
+    static void AppendHeaderShapeLine(const std::shared_ptr<excel::Shape>& shape, const std::string& label,
+                                      const std::string& value);
 
     std::shared_ptr<ReportWorkbook> parentWorkbook_;
     std::shared_ptr<excel::Worksheet> excelWorksheet_;
