@@ -170,6 +170,7 @@ struct TextBoxShape {
     CellAnchor to;
     int64_t x = 0, y = 0, width = 0, height = 0;  // EMU from the sheet's top-left corner
     std::optional<Color> fill;      // none: no fill
+    double fillTransparency = 0.0;  // 0 (opaque) to 1: the fill colour's alpha is 1 - transparency
     std::optional<Color> line;      // none: no outline
     int64_t lineWidth = 9525;       // EMU
     int64_t insetLeft = 91440, insetTop = 45720, insetRight = 91440, insetBottom = 45720;  // EMU

@@ -4,6 +4,7 @@
 #include "excel/embedded/defined_name_rules.hpp"
 #include "excel/embedded/geometry.hpp"
 #include "excel/embedded/palette.hpp"
+#include "excel/embedded/shape_document_conversion.hpp"
 #include "excel/embedded/text_entry.hpp"
 
 #include <algorithm>
@@ -159,6 +160,7 @@ ooxml::SheetDocument ConvertSheet(const WorksheetModel& sheet, StringNumbering& 
         out.merges.push_back(ooxml::CellBlock{static_cast<uint32_t>(merge.top), static_cast<uint32_t>(merge.left),
                                               static_cast<uint32_t>(merge.bottom), static_cast<uint32_t>(merge.right)});
     }
+    ConvertShapes(sheet, out);
     return out;
 }
 
@@ -248,6 +250,7 @@ void LoadSheet(WorksheetModel& sheet, const ooxml::SheetDocument& in, const std:
                                            static_cast<int32_t>(merge.firstColumn), static_cast<int32_t>(merge.lastRow),
                                            static_cast<int32_t>(merge.lastColumn)});
     }
+    LoadShapes(sheet, in);
 }
 
 }  // namespace
