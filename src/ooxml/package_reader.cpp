@@ -1,12 +1,15 @@
 #include "ooxml/package_reader.hpp"
 
+#include "ooxml/comments_reader.hpp"
 #include "ooxml/content_types_reader.hpp"
 #include "ooxml/document_properties_reader.hpp"
+#include "ooxml/drawing_reader.hpp"
 #include "ooxml/package_error.hpp"
 #include "ooxml/relationships_reader.hpp"
 #include "ooxml/shared_strings_reader.hpp"
 #include "ooxml/string_table_builder.hpp"
 #include "ooxml/styles_reader.hpp"
+#include "ooxml/vml_drawing_reader.hpp"
 #include "ooxml/workbook_reader.hpp"
 #include "ooxml/worksheet_reader.hpp"
 #include "ooxml/zip_archive_reader.hpp"
@@ -52,9 +55,32 @@ std::string WorkbookPartName(const ZipArchiveReader& archive, const ContentTypeM
     return partName;
 }
 
-// The part a relationship of the workbook leads to, read; nothing when there is none.
+// The part a relationship leads to, read; nothing when there is none.
 std::optional<std::string> ReadRelatedPart(const ZipArchiveReader& archive, const Relationship* relationship) {
     return relationship != nullptr ? archive.Read(relationship->target) : std::nullopt;
+}
+
+// The text boxes of the sheet's drawing, and its comments with the shapes of their notes.
+void ReadSheetDrawings(const ZipArchiveReader& archive, std::string_view sheetPartName,
+                       const SheetDrawingReferences& drawings, SheetDocument& sheet) {
+    const std::vector<Relationship> relationships = ReadRelationships(archive, sheetPartName);
+    const auto related = [&relationships](const std::string& id, std::string_view typeName) -> const Relationship* {
+        const Relationship* relationship = FindRelationship(relationships, id);
+        return relationship != nullptr && !relationship->external && HasRelationshipType(*relationship, typeName)
+                   ? relationship
+                   : nullptr;
+    };
+    const Relationship* drawing = related(drawings.drawing, "drawing");
+    if (std::optional<std::string> xml = ReadRelatedPart(archive, drawing)) {
+        sheet.textBoxes = ReadDrawing(*xml, drawing->target);
+    }
+    const Relationship* comments = FindRelationshipOfType(relationships, "comments");
+    if (std::optional<std::string> xml = ReadRelatedPart(archive, comments)) {
+        sheet.comments = ReadComments(*xml, comments->target);
+        if (std::optional<std::string> vml = ReadRelatedPart(archive, related(drawings.legacyDrawing, "vmlDrawing"))) {
+            ReadVmlNoteShapes(*vml, sheet.comments);
+        }
+    }
 }
 
 }  // namespace
@@ -99,8 +125,9 @@ WorkbookDocument ReadPackage(const std::string& path) {
         SheetDocument& sheet = document.sheets.emplace_back();
         sheet.name = entry.name;
         sheet.state = entry.state;
-        ReadWorksheet([&](char* buffer, std::size_t size) { return part->Read(buffer, size); }, relationship->target,
-                      context, sheet);
+        const SheetDrawingReferences drawings = ReadWorksheet(
+            [&](char* buffer, std::size_t size) { return part->Read(buffer, size); }, relationship->target, context, sheet);
+        ReadSheetDrawings(archive, relationship->target, drawings, sheet);
         sheetPositions.emplace_back(static_cast<uint32_t>(document.sheets.size() - 1));
     }
     if (document.sheets.empty()) {

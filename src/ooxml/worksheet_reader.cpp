@@ -15,14 +15,16 @@ namespace {
 constexpr double MaxColumnWidth = 255.0;
 
 // The elements around the cells that the reader takes settings from.
-constexpr std::string_view SettingElements[] = {"sheetViews", "sheetFormatPr", "cols", "mergeCells", "printOptions"};
+constexpr std::string_view SettingElements[] = {"sheetViews", "sheetFormatPr", "cols",   "mergeCells",
+                                                "printOptions", "drawing",      "legacyDrawing"};
 
 // Reads the sheet's settings from a tree of the elements that hold them; the cells are read apart.
 class WorksheetSettingsReader {
 public:
     WorksheetSettingsReader(const WorksheetContext& context, SheetDocument& sheet) : context_(context), sheet_(sheet) {}
 
-    void Read(pugi::xml_node worksheet) {
+    SheetDrawingReferences Read(pugi::xml_node worksheet) {
+        SheetDrawingReferences drawings;
         for (pugi::xml_node child = worksheet.first_child(); child; child = child.next_sibling()) {
             const std::string_view name = LocalName(child);
             if (name == "sheetViews") {
@@ -36,10 +38,15 @@ public:
                 ForEachChild(child, "mergeCell", [&](pugi::xml_node merge) { ReadMerge(merge); });
             } else if (name == "printOptions") {
                 sheet_.printGridLines = AttributeBool(child, "gridLines", false);
+            } else if (name == "drawing") {
+                drawings.drawing = AttributeText(child, "id");
+            } else if (name == "legacyDrawing") {
+                drawings.legacyDrawing = AttributeText(child, "id");
             }
         }
         SortUnique(sheet_.columns, [](const ColumnRange& range) { return range.first; });
         RemoveColumnOverlaps();
+        return drawings;
     }
 
 private:
@@ -121,8 +128,8 @@ std::optional<uint32_t> WorksheetContext::FormatIndex(std::string_view text) con
 
 // The cells are read as the scanner passes them; the few small elements that hold the sheet's
 // settings are copied out, and read as a tree once the part has been scanned.
-void ReadWorksheet(const XmlByteSource& source, std::string_view partName, const WorksheetContext& context,
-                   SheetDocument& sheet) {
+SheetDrawingReferences ReadWorksheet(const XmlByteSource& source, std::string_view partName,
+                                     const WorksheetContext& context, SheetDocument& sheet) {
     XmlPullScanner scanner(source, partName);
     std::string settings = "<settings>";
     while (scanner.Next() != XmlPullScanner::Token::StartElement) {
@@ -143,7 +150,7 @@ void ReadWorksheet(const XmlByteSource& source, std::string_view partName, const
     settings += "</settings>";
     pugi::xml_document document;
     ParseXmlPart(document, settings, partName);
-    WorksheetSettingsReader(context, sheet).Read(document.document_element());
+    return WorksheetSettingsReader(context, sheet).Read(document.document_element());
 }
 
 }  // namespace ooxml

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ooxml/sheet_drawing_references.hpp"
 #include "ooxml/workbook_document.hpp"
 #include "ooxml/xml_pull_scanner.hpp"
 
@@ -24,8 +25,9 @@ struct WorksheetContext {
 
 // Reads a worksheet part into sheet (whose name and state the workbook gives): cells, rows,
 // columns, merges, the first sheet view, print grid lines and the default sizes. The part is read
-// from source as it comes, never held whole. Throws PackageError(Corrupt).
-void ReadWorksheet(const XmlByteSource& source, std::string_view partName, const WorksheetContext& context,
-                   SheetDocument& sheet);
+// from source as it comes, never held whole. Returns the ids of the relationships to the sheet's
+// drawings, which the package reader follows. Throws PackageError(Corrupt).
+SheetDrawingReferences ReadWorksheet(const XmlByteSource& source, std::string_view partName,
+                                     const WorksheetContext& context, SheetDocument& sheet);
 
 }  // namespace ooxml

@@ -23,6 +23,8 @@ const std::vector<std::string>& SampleWorkbooks() {
         CorpusDir + "realworld-excel/oxsdk__TestFiles__basicspreadsheet.xlsx",
         CorpusDir + "cells-drawings-xlsxwriter/xw__rich_string06.xlsx",
         CorpusDir + "cells-drawings-xlsxwriter/rxw__print_area08.xlsx",
+        CorpusDir + "cells-drawings-xlsxwriter/xw__textbox24.xlsx",
+        CorpusDir + "realworld-excel/poi__commentTest.xlsx",
     };
     return files;
 }
@@ -84,7 +86,7 @@ TEST(HostileInputReaderTest, GarbledPartsReadOrAreRefused) {
     for (const std::string& file : SampleWorkbooks()) {
         const PackageParts original = ooxml_test::ReadPackageParts(file);
         for (const auto& [name, content] : original) {
-            if (!name.ends_with(".xml") && !name.ends_with(".rels")) {
+            if (!name.ends_with(".xml") && !name.ends_with(".rels") && !name.ends_with(".vml")) {
                 continue;
             }
             for (int variant = 0; variant < 12; ++variant) {

@@ -288,8 +288,8 @@ std::vector<TextBoxShape> FullTextBoxes() {
     rich.alignment = "ctr";
     rich.macro = "Module1.OnClick";
     rich.hidden = true;
-    rich.text.runs = {TextRun{"Default ", std::nullopt}, TextRun{"bold\n", strong}, TextRun{"accent", heading},
-                      TextRun{"\nlast", low}};
+    rich.text.runs = {TextRun{"Default ", std::nullopt}, TextRun{"bold\n", strong}, TextRun{"accent\n", heading},
+                      TextRun{"last", low}};
     for (const TextRun& run : rich.text.runs) {
         rich.text.text += run.text;
     }
@@ -334,7 +334,7 @@ std::vector<CellComment> FullComments() {
     label.name = "Tahoma";
     label.size = 9;
     label.bold = true;
-    label.color = Color{Color::Kind::Indexed, 0, 81, 0.0};
+    label.color = Color{Color::Kind::Indexed, 0, 64, 0.0};
     label.scheme = "";
     Font body = label;
     body.bold = false;

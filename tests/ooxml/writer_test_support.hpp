@@ -140,7 +140,8 @@ inline int RunCommand(const std::string& command, std::string& output, const Scr
 ooxml::WorkbookDocument FullDocument();
 
 // Three text boxes that between them use every field of the text box model, with plain and rich
-// text, empty paragraphs and every kind of anchor, fill, line and text colour.
+// text, empty paragraphs and every kind of anchor, fill, line and text colour. A line feed ends
+// the run before the next paragraph, as the reader gives it back.
 std::vector<ooxml::TextBoxShape> FullTextBoxes();
 
 // Three comments, in cell order, that between them use every field of the comment model: plain
