@@ -4,6 +4,7 @@
 #include "support/trim_blanks.hpp"
 #include "worksheet/character_count.hpp"
 #include "worksheet/ignoring_excel_errors.hpp"
+#include "worksheet/text_margins.hpp"
 
 #include <excel/characters.hpp>
 #include <excel/color_format.hpp>
@@ -70,14 +71,7 @@ std::shared_ptr<excel::Comment> CreateCellComment(const std::shared_ptr<excel::R
         headerFont->SetUnderline(excel::xlUnderlineStyleSingle);
         headerFont->SetBold(true);
     });
-    onShape([](excel::Shape& shape) {
-        const auto frame = shape.TextFrame();
-        frame->SetAutoMargins(false);
-        frame->SetMarginLeft(SideMargin);
-        frame->SetMarginRight(SideMargin);
-        frame->SetMarginTop(TopAndBottomMargin);
-        frame->SetMarginBottom(TopAndBottomMargin);
-    });
+    onShape([](excel::Shape& shape) { SetTextMargins(*shape.TextFrame(), SideMargin, TopAndBottomMargin); });
     IgnoringExcelErrors([&] { comment->SetVisible(false); });
     return comment;
 }

@@ -7,6 +7,7 @@
 #include "worksheet/header_lines.hpp"
 #include "worksheet/ignoring_excel_errors.hpp"
 #include "worksheet/shape_text.hpp"
+#include "worksheet/text_margins.hpp"
 
 #include <vos/theme_property_type.hpp>
 
@@ -127,12 +128,7 @@ std::shared_ptr<excel::Shape> ReportWorksheet::AddHeader(const std::string& main
     shape->Line()->ForeColor()->SetRGB(Black);
     shape->Line()->SetWeight(TextBoxOutlineWeight);
     IgnoringExcelErrors([&] {
-        const auto frame = shape->TextFrame();
-        frame->SetAutoMargins(false);
-        frame->SetMarginLeft(TextBoxMargin);
-        frame->SetMarginRight(TextBoxMargin);
-        frame->SetMarginTop(TextBoxMargin);
-        frame->SetMarginBottom(TextBoxMargin);
+        SetTextMargins(*shape->TextFrame(), TextBoxMargin, TextBoxMargin);
         shape->TextFrame2()->SetWordWrap(excel::msoFalse);
     });
 

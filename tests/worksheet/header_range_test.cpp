@@ -1,40 +1,18 @@
-#include "report_fixture.hpp"
+#include "worksheet/report_sheet_fixture.hpp"
 
 #include <regex>
 
 namespace {
 
-constexpr int32_t LastRow = 1048576;
-constexpr const char* NoRoom = "Requested report element can not fit in available space.";
 constexpr int32_t Silver = 0xC0C0C0;
 
-class HeaderRangeTest : public ReportTest {
+class HeaderRangeTest : public ReportHeaderTest {
 protected:
-    void SetUp() override {
-        ReportTest::SetUp();
-        reporting.SetUnitTestingMode(true);
-        UseLanguage(9);
-    }
-    void TearDown() override { reporting.SetUnitTestingMode(false); }
-
-    void UseLanguage(int32_t language) {
-        report = reporting.NewReportWorkbook(app, "MyApp", nullptr, false, language);
-        sheet = report->NewReportWorksheet("Report");
-        excelSheet = sheet->ExcelWorksheet();
-    }
-
     std::string Text(const std::string& address) { return excelSheet->Range(address)->Value().ToString(); }
     bool Bold(const std::string& address, int32_t start, int32_t length) {
         return excelSheet->Range(address)->Characters(start, length)->Font()->Bold().ToBool();
     }
-    std::string Cursor() { return sheet->CurrentCell() ? sheet->CurrentCell()->Address() : "none"; }
-
-    std::shared_ptr<vos::VosExcelReportWorkbook> report;
-    std::shared_ptr<vos::VosExcelReportWorksheet> sheet;
-    std::shared_ptr<excel::Worksheet> excelSheet;
 };
-
-const excel::Variant ModelAndRuns(std::vector<std::string>{"Model\tRisk A", "  Runs \t1000"});
 
 }  // namespace
 
@@ -190,32 +168,27 @@ TEST_F(HeaderRangeTest, ChineseHeadersUseTenPointLines) {
 }
 
 TEST_F(HeaderRangeTest, ABlockThatLeavesNoRowForTheCursorFailsAndWritesNothing) {
-    sheet->SetCurrentCell(excelSheet->Cells(LastRow - 3, 1));
+    sheet->SetCurrentCell(excelSheet->Cells(LastSheetRow - 3, 1));
     sheet->AddHeaderRange("Fits", excel::Variant());
     EXPECT_EQ(Cursor(), "$A$1048576");
-    sheet->SetCurrentCell(excelSheet->Cells(LastRow - 4, 1));
+    sheet->SetCurrentCell(excelSheet->Cells(LastSheetRow - 4, 1));
     ExpectAutomationError([&] { sheet->AddHeaderRange("Too long", ModelAndRuns); }, vos::error_code::NotAllowedNow,
-                          NoRoom);
+                          NoRoomForElement);
     EXPECT_EQ(Cursor(), "$A$1048572");
-    EXPECT_TRUE(excelSheet->Cells(LastRow - 4, 1)->Value().IsEmpty());
-    EXPECT_EQ(excelSheet->Cells(LastRow - 4, 1)->Interior()->ColorIndex().ToInt(), excel::xlColorIndexNone);
+    EXPECT_TRUE(excelSheet->Cells(LastSheetRow - 4, 1)->Value().IsEmpty());
+    EXPECT_EQ(excelSheet->Cells(LastSheetRow - 4, 1)->Interior()->ColorIndex().ToInt(), excel::xlColorIndexNone);
 }
 
-TEST_F(HeaderRangeTest, AnEmptyCursorHasNoRoom) {
+TEST_F(HeaderRangeTest, AnEmptyCursorHasNoRoomForElement) {
     sheet->SetCurrentCell(nullptr);
     ExpectAutomationError([&] { sheet->AddHeaderRange("T", excel::Variant()); }, vos::error_code::NotAllowedNow,
-                          NoRoom);
+                          NoRoomForElement);
     EXPECT_TRUE(excelSheet->Range("A1")->Value().IsEmpty());
 }
 
 TEST_F(HeaderRangeTest, ItalianHeadersFailWithoutWritingAnything) {
     UseLanguage(16);
-    try {
-        sheet->AddHeaderRange("T", excel::Variant());
-        ADD_FAILURE() << "expected resource not found";
-    } catch (const excel::AutomationError& error) {
-        EXPECT_EQ(error.code(), excel::hresult::ResourceNotFound);
-    }
+    ExpectFailureCode([&] { sheet->AddHeaderRange("T", excel::Variant()); }, excel::hresult::ResourceNotFound);
     EXPECT_TRUE(excelSheet->Range("A1")->Value().IsEmpty());
     EXPECT_EQ(excelSheet->Range("A1")->Interior()->ColorIndex().ToInt(), excel::xlColorIndexNone);
     EXPECT_EQ(Cursor(), "$A$1");
@@ -223,7 +196,7 @@ TEST_F(HeaderRangeTest, ItalianHeadersFailWithoutWritingAnything) {
 
 TEST_F(HeaderRangeTest, TheSpaceTestComesBeforeTheLabels) {
     UseLanguage(16);
-    sheet->SetCurrentCell(excelSheet->Cells(LastRow, 1));
+    sheet->SetCurrentCell(excelSheet->Cells(LastSheetRow, 1));
     ExpectAutomationError([&] { sheet->AddHeaderRange("T", excel::Variant()); }, vos::error_code::NotAllowedNow,
-                          NoRoom);
+                          NoRoomForElement);
 }

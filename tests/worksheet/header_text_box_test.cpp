@@ -1,26 +1,9 @@
-#include "report_fixture.hpp"
+#include "worksheet/report_sheet_fixture.hpp"
 
 namespace {
 
-constexpr int32_t LastRow = 1048576;
-constexpr int32_t LastColumn = 16384;
-constexpr const char* NoRoom = "Requested report element can not fit in available space.";
-
-class HeaderTextBoxTest : public ReportTest {
+class HeaderTextBoxTest : public ReportHeaderTest {
 protected:
-    void SetUp() override {
-        ReportTest::SetUp();
-        reporting.SetUnitTestingMode(true);
-        UseLanguage(9);
-    }
-    void TearDown() override { reporting.SetUnitTestingMode(false); }
-
-    void UseLanguage(int32_t language) {
-        report = reporting.NewReportWorkbook(app, "MyApp", nullptr, false, language);
-        sheet = report->NewReportWorksheet("Report");
-        excelSheet = sheet->ExcelWorksheet();
-    }
-
     static std::string TextOf(const std::shared_ptr<excel::Shape>& box) {
         return box->TextFrame()->Characters()->Text();
     }
@@ -28,15 +11,8 @@ protected:
                                                int32_t length) {
         return box->TextFrame()->Characters(start, length)->Font();
     }
-    std::string Cursor() { return sheet->CurrentCell() ? sheet->CurrentCell()->Address() : "none"; }
     int32_t ShapeCount() { return excelSheet->Shapes()->Count(); }
-
-    std::shared_ptr<vos::VosExcelReportWorkbook> report;
-    std::shared_ptr<vos::VosExcelReportWorksheet> sheet;
-    std::shared_ptr<excel::Worksheet> excelSheet;
 };
-
-const excel::Variant ModelAndRuns(std::vector<std::string>{"Model\tRisk A", "  Runs \t1000"});
 
 }  // namespace
 
@@ -146,15 +122,15 @@ TEST_F(HeaderTextBoxTest, TheTitleIsTrimmed) {
 }
 
 TEST_F(HeaderTextBoxTest, TheBoxNeedsThreeRowsAndThreeColumnsWhateverItsLines) {
-    sheet->SetCurrentCell(excelSheet->Cells(LastRow - 2, 1));
-    ExpectAutomationError([&] { sheet->AddHeader("T", excel::Variant()); }, vos::error_code::NotAllowedNow, NoRoom);
-    sheet->SetCurrentCell(excelSheet->Cells(1, LastColumn - 2));
-    ExpectAutomationError([&] { sheet->AddHeader("T", excel::Variant()); }, vos::error_code::NotAllowedNow, NoRoom);
+    sheet->SetCurrentCell(excelSheet->Cells(LastSheetRow - 2, 1));
+    ExpectAutomationError([&] { sheet->AddHeader("T", excel::Variant()); }, vos::error_code::NotAllowedNow, NoRoomForElement);
+    sheet->SetCurrentCell(excelSheet->Cells(1, LastSheetColumn - 2));
+    ExpectAutomationError([&] { sheet->AddHeader("T", excel::Variant()); }, vos::error_code::NotAllowedNow, NoRoomForElement);
     EXPECT_EQ(Cursor(), "$XFB$1");
     sheet->SetCurrentCell(nullptr);
-    ExpectAutomationError([&] { sheet->AddHeader("T", excel::Variant()); }, vos::error_code::NotAllowedNow, NoRoom);
+    ExpectAutomationError([&] { sheet->AddHeader("T", excel::Variant()); }, vos::error_code::NotAllowedNow, NoRoomForElement);
     EXPECT_EQ(ShapeCount(), 0);
-    sheet->SetCurrentCell(excelSheet->Cells(LastRow - 1000, 1));
+    sheet->SetCurrentCell(excelSheet->Cells(LastSheetRow - 1000, 1));
     EXPECT_NO_THROW(sheet->AddHeader("T", excel::Variant(std::vector<std::string>(5, "Label\tValue"))));
 }
 
@@ -185,12 +161,7 @@ TEST_F(HeaderTextBoxTest, OutsideUnitTestingModeTheUserNameIsShown) {
 
 TEST_F(HeaderTextBoxTest, ItalianHeadersFailWithoutLeavingABox) {
     UseLanguage(16);
-    try {
-        sheet->AddHeader("T", excel::Variant());
-        ADD_FAILURE() << "expected resource not found";
-    } catch (const excel::AutomationError& error) {
-        EXPECT_EQ(error.code(), excel::hresult::ResourceNotFound);
-    }
+    ExpectFailureCode([&] { sheet->AddHeader("T", excel::Variant()); }, excel::hresult::ResourceNotFound);
     EXPECT_EQ(ShapeCount(), 0);
     EXPECT_EQ(Cursor(), "$A$1");
 }

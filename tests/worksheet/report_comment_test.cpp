@@ -1,23 +1,9 @@
-#include "report_fixture.hpp"
 #include "worksheet/report_comment_expectations.hpp"
+#include "worksheet/report_sheet_fixture.hpp"
 
 #include "worksheet/cell_comment.hpp"
 
-namespace {
-
-class ReportCommentTest : public ReportTest {
-protected:
-    void SetUp() override {
-        ReportTest::SetUp();
-        sheet = NewWorkbook()->NewReportWorksheet("Report");
-        excelSheet = sheet->ExcelWorksheet();
-    }
-
-    std::shared_ptr<vos::VosExcelReportWorksheet> sheet;
-    std::shared_ptr<excel::Worksheet> excelSheet;
-};
-
-}  // namespace
+using ReportCommentTest = ReportSheetTest;
 
 TEST_F(ReportCommentTest, ASheetsCommentLooksLikeTheEntryObjects) {
     const auto comment = sheet->AddComment(excelSheet->Range("E2"), "Method", "Monte Carlo, 1000 runs");
@@ -28,7 +14,7 @@ TEST_F(ReportCommentTest, ASheetsCommentLooksLikeTheEntryObjects) {
 TEST_F(ReportCommentTest, ACommentDoesNotMoveTheCursor) {
     sheet->SetCurrentCell(excelSheet->Range("B7"));
     sheet->AddComment(excelSheet->Range("B7"), "H", "M");
-    EXPECT_EQ(sheet->CurrentCell()->Address(), "$B$7");
+    EXPECT_EQ(Cursor(), "$B$7");
 }
 
 TEST_F(ReportCommentTest, ACommentMayGoOnAnotherSheet) {

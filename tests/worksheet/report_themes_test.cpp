@@ -1,16 +1,13 @@
-#include "report_fixture.hpp"
+#include "worksheet/report_sheet_fixture.hpp"
 
 namespace {
 
 constexpr int32_t Red = 0x0000FF;
 
-class ReportThemesTest : public ReportTest {
+class ReportThemesTest : public ReportSheetTest {
 protected:
     void SetUp() override {
-        ReportTest::SetUp();
-        report = NewWorkbook();
-        sheet = report->NewReportWorksheet("Report");
-        excelSheet = sheet->ExcelWorksheet();
+        ReportSheetTest::SetUp();
         block = excelSheet->Range("B2:D4");
     }
 
@@ -37,9 +34,6 @@ protected:
         EXPECT_EQ(border->Color().ToInt(), Red);
     }
 
-    std::shared_ptr<vos::VosExcelReportWorkbook> report;
-    std::shared_ptr<vos::VosExcelReportWorksheet> sheet;
-    std::shared_ptr<excel::Worksheet> excelSheet;
     std::shared_ptr<excel::Range> block;
 };
 
