@@ -5,7 +5,7 @@
 // Usage: report_header_writer write|check FILE.xlsx
 //        (check also writes FILE.resaved.xlsx beside FILE)
 
-#include "failure_report.hpp"
+#include "report_writer_main.hpp"
 
 #include <excel/embedded.hpp>
 #include <vos/reporting.hpp>
@@ -119,7 +119,7 @@ void CheckWorkbook(conformance::Failures& failures, excel::Workbook& book) {
     failures.Expect(book.Worksheets("Rapport")->Shapes()->Count() == 1, "Rapport has its header box");
 }
 
-void CheckAfterReopening(excel::Application& app, const std::filesystem::path& file) {
+void CheckAfterReopening(vos::VosExcelReporting&, excel::Application& app, const std::filesystem::path& file) {
     conformance::Failures failures;
     std::filesystem::path resaved = file;
     resaved.replace_extension(".resaved.xlsx");
@@ -138,21 +138,5 @@ void CheckAfterReopening(excel::Application& app, const std::filesystem::path& f
 }  // namespace
 
 int main(int argc, char** argv) {
-    const std::string step = argc == 3 ? argv[1] : "";
-    if (step != "write" && step != "check") {
-        std::cerr << "usage: " << argv[0] << " write|check FILE.xlsx\n";
-        return 2;
-    }
-    return conformance::RunReportingFailure([&] {
-        const std::filesystem::path file = std::filesystem::absolute(argv[2]);
-        vos::VosExcelReporting reporting;
-        auto app = excel::embedded::CreateApplication();
-        if (step == "check") {
-            CheckAfterReopening(*app, file);
-            return;
-        }
-        std::filesystem::create_directories(file.parent_path());
-        WriteHeaderWorkbook(reporting, app, file);
-        std::cout << "wrote " << file.string() << '\n';
-    });
+    return conformance::RunReportWriter(argc, argv, WriteHeaderWorkbook, CheckAfterReopening);
 }

@@ -4,7 +4,7 @@
 //
 // Usage: report_workbook_writer write|check FILE.xlsx
 
-#include "failure_report.hpp"
+#include "report_writer_main.hpp"
 
 #include <excel/embedded.hpp>
 #include <vos/reporting.hpp>
@@ -84,21 +84,5 @@ void CheckTagsAfterReopening(vos::VosExcelReporting& reporting, excel::Applicati
 }  // namespace
 
 int main(int argc, char** argv) {
-    const std::string step = argc == 3 ? argv[1] : "";
-    if (step != "write" && step != "check") {
-        std::cerr << "usage: " << argv[0] << " write|check FILE.xlsx\n";
-        return 2;
-    }
-    return conformance::RunReportingFailure([&] {
-        const std::filesystem::path file = std::filesystem::absolute(argv[2]);
-        vos::VosExcelReporting reporting;
-        auto app = excel::embedded::CreateApplication();
-        if (step == "check") {
-            CheckTagsAfterReopening(reporting, *app, file);
-            return;
-        }
-        std::filesystem::create_directories(file.parent_path());
-        WriteReportWorkbook(reporting, app, file);
-        std::cout << "wrote " << file.string() << '\n';
-    });
+    return conformance::RunReportWriter(argc, argv, WriteReportWorkbook, CheckTagsAfterReopening);
 }
