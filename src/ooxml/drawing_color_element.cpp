@@ -3,6 +3,7 @@
 #include "ooxml/default_palette.hpp"
 #include "ooxml/theme_color_names.hpp"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <fmt/format.h>
@@ -35,7 +36,7 @@ void PercentElement(XmlWriter& xml, std::string_view element, double fraction) {
 
 }  // namespace
 
-void WriteSolidFill(XmlWriter& xml, const Color& color, const std::vector<uint32_t>& palette) {
+void WriteSolidFill(XmlWriter& xml, const Color& color, const std::vector<uint32_t>& palette, double transparency) {
     xml.StartElement("a:solidFill");
     if (color.kind == Color::Kind::Theme) {
         xml.StartElement("a:schemeClr");
@@ -55,6 +56,9 @@ void WriteSolidFill(XmlWriter& xml, const Color& color, const std::vector<uint32
     } else if (color.tint > 0.0) {
         PercentElement(xml, "a:lumMod", 1.0 - color.tint);
         PercentElement(xml, "a:lumOff", color.tint);
+    }
+    if (transparency > 0.0) {
+        PercentElement(xml, "a:alpha", 1.0 - std::min(transparency, 1.0));
     }
     xml.EndElement();
     xml.EndElement();

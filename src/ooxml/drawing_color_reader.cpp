@@ -70,23 +70,34 @@ double TintOf(pugi::xml_node color) {
     return std::clamp(tint, -1.0, 1.0);
 }
 
-}  // namespace
-
-std::optional<Color> ReadDrawingFillColor(pugi::xml_node fill) {
+// The colour element of a fill (of a gradient, its first stop's); none when it holds no colour.
+pugi::xml_node ColorElement(pugi::xml_node fill) {
     pugi::xml_node holder = fill;
     if (LocalName(fill) == "gradFill") {
         holder = FirstChild(FirstChild(fill, "gsLst"), "gs");
     }
     for (pugi::xml_node child = holder.first_child(); child; child = child.next_sibling()) {
-        if (child.type() != pugi::node_element) {
-            continue;
-        }
-        if (std::optional<Color> color = ReadColorChoice(child)) {
-            color->tint = TintOf(child);
-            return color;
+        if (child.type() == pugi::node_element && ReadColorChoice(child)) {
+            return child;
         }
     }
-    return std::nullopt;
+    return {};
+}
+
+}  // namespace
+
+std::optional<Color> ReadDrawingFillColor(pugi::xml_node fill) {
+    const pugi::xml_node element = ColorElement(fill);
+    std::optional<Color> color = ReadColorChoice(element);
+    if (color) {
+        color->tint = TintOf(element);
+    }
+    return color;
+}
+
+double ReadDrawingFillTransparency(pugi::xml_node fill) {
+    const std::optional<double> alpha = Fraction(ColorElement(fill), "alpha");
+    return alpha ? 1.0 - std::clamp(*alpha, 0.0, 1.0) : 0.0;
 }
 
 }  // namespace ooxml

@@ -14,4 +14,7 @@ namespace ooxml {
 // write for a text box, is taken as the nearest tint. Nothing for a fill without a colour.
 std::optional<Color> ReadDrawingFillColor(pugi::xml_node fill);
 
+// How transparent that colour is: 1 - its alpha, 0 when it has none.
+double ReadDrawingFillTransparency(pugi::xml_node fill);
+
 }  // namespace ooxml

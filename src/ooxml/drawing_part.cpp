@@ -108,7 +108,7 @@ private:
         xml_.StartElement("a:avLst");
         xml_.EndElement();
         xml_.EndElement();
-        WriteFill(box.fill);
+        WriteFill(box.fill, box.fillTransparency);
         xml_.StartElement("a:ln");
         xml_.Attribute("w", std::clamp<int64_t>(box.lineWidth, 0, MaxLineWidth));
         xml_.Attribute("cmpd", "sng");
@@ -117,9 +117,9 @@ private:
         xml_.EndElement();
     }
 
-    void WriteFill(const std::optional<Color>& color) {
+    void WriteFill(const std::optional<Color>& color, double transparency = 0.0) {
         if (color) {
-            WriteSolidFill(xml_, *color, palette_);
+            WriteSolidFill(xml_, *color, palette_, transparency);
         } else {
             xml_.StartElement("a:noFill");
             xml_.EndElement();

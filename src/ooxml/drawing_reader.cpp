@@ -197,6 +197,9 @@ TextBoxShape ReadTextBox(pugi::xml_node anchor, pugi::xml_node shape) {
     box.width = AttributeCoordinate(FirstChild(transform, "ext"), "cx", 0);
     box.height = AttributeCoordinate(FirstChild(transform, "ext"), "cy", 0);
     box.fill = ReadFill(properties, std::nullopt);
+    if (box.fill) {
+        box.fillTransparency = ReadDrawingFillTransparency(FirstChild(properties, "solidFill"));
+    }
     const pugi::xml_node line = FirstChild(properties, "ln");
     box.line = ReadFill(line, std::nullopt);
     box.lineWidth = AttributeCoordinate(line, "w", box.lineWidth);

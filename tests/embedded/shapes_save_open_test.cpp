@@ -17,6 +17,7 @@ TEST_F(ShapesSaveOpenTest, TextBoxKeepsTextFontsAndFormatting) {
     frame->SetAutoSize(true);
     box->Line()->ForeColor()->SetObjectThemeColor(msoThemeColorAccent1);
     box->Fill()->ForeColor()->SetRGB(0xF0F0F0);
+    box->Fill()->SetTransparency(0.4);
     box->SetOnAction("Macro1");
     const double height = box->Height();
 
@@ -30,6 +31,7 @@ TEST_F(ShapesSaveOpenTest, TextBoxKeepsTextFontsAndFormatting) {
     EXPECT_NEAR(back->Height(), height, 0.01);
     EXPECT_EQ(back->OnAction(), "Macro1");
     EXPECT_EQ(back->Fill()->ForeColor()->RGB(), 0xF0F0F0);
+    EXPECT_DOUBLE_EQ(back->Fill()->Transparency(), 0.4);
     EXPECT_EQ(back->Line()->ForeColor()->ObjectThemeColor(), msoThemeColorAccent1);
     auto backFrame = back->TextFrame();
     EXPECT_EQ(backFrame->Characters()->Text(), "Quarterly report\nRegion North");

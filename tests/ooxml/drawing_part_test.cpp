@@ -171,6 +171,16 @@ TEST(DrawingPart, TintsBecomeLuminanceModulationAndOffset) {
     EXPECT_FALSE(darker.child("a:lumOff"));
 }
 
+TEST(DrawingPart, AFillsTransparencyIsItsColoursAlpha) {
+    TextBoxShape box = Box("a");
+    box.fill = Color{Color::Kind::Rgb, 0xFF4472C4, 0, 0.0};
+    box.fillTransparency = 0.3;
+    auto xml = Write({box});
+    const pugi::xml_node properties = Shape(*xml).child("xdr:spPr");
+    EXPECT_STREQ(FillColor(properties).child("a:alpha").attribute("val").value(), "70000");
+    EXPECT_FALSE(FillColor(properties.child("a:ln")).child("a:alpha"));
+}
+
 TEST(DrawingPart, IndexedColoursAreResolvedThroughTheWorkbookPalette) {
     TextBoxShape box = Box("a");
     box.fill = Color{Color::Kind::Indexed, 0, 10, 0.0};  // the palette's third colour

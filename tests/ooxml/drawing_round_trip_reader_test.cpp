@@ -23,6 +23,7 @@ void ExpectSameTextBox(const TextBoxShape& read, const TextBoxShape& written) {
     EXPECT_EQ(read.width, written.width);
     EXPECT_EQ(read.height, written.height);
     EXPECT_EQ(read.fill, written.fill);
+    EXPECT_DOUBLE_EQ(read.fillTransparency, written.fillTransparency);
     EXPECT_EQ(read.line, written.line);
     EXPECT_EQ(read.lineWidth, written.lineWidth);
     EXPECT_EQ(read.insetLeft, written.insetLeft);

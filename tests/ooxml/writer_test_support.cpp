@@ -305,6 +305,7 @@ std::vector<TextBoxShape> FullTextBoxes() {
     empty.width = 1524000;
     empty.height = 762000;
     empty.fill = Color{Color::Kind::Theme, 0, 5, 0.6};
+    empty.fillTransparency = 0.25;
     empty.line = Color{Color::Kind::Rgb, 0xFF00B050, 0, 0.0};
     empty.verticalAnchor = "b";
     empty.alignment = "r";
