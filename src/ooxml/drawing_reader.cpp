@@ -178,10 +178,28 @@ private:
     bool paragraphEmpty_ = false;
 };
 
-TextBoxShape ReadTextBox(pugi::xml_node anchor, pugi::xml_node shape) {
+// How an anchor element lets its shape follow the cells: a two-cell anchor says so in editAs, a
+// one-cell anchor moves with its cell, an absolute one stays put. None for anything else.
+std::optional<std::string_view> AnchorEditAs(pugi::xml_node anchor) {
+    const std::string_view kind = LocalName(anchor);
+    if (kind == "twoCellAnchor") {
+        const std::string_view editAs = AttributeText(anchor, "editAs");
+        return OneOf(EditAsValues, editAs) ? editAs : "twoCell";
+    }
+    if (kind == "oneCellAnchor") {
+        return "oneCell";
+    }
+    if (kind == "absoluteAnchor") {
+        return "absolute";
+    }
+    return std::nullopt;
+}
+
+// The shape's own transform gives its place and size whatever the anchor; the corners are read
+// where the anchor has them.
+TextBoxShape ReadTextBox(pugi::xml_node anchor, std::string_view editAs, pugi::xml_node shape) {
     TextBoxShape box;
-    const std::string_view editAs = AttributeText(anchor, "editAs");
-    box.editAs = OneOf(EditAsValues, editAs) ? editAs : "twoCell";
+    box.editAs = editAs;
     box.from = ReadCorner(FirstChild(anchor, "from"));
     box.to = ReadCorner(FirstChild(anchor, "to"));
     box.macro = AttributeText(shape, "macro");
@@ -232,13 +250,17 @@ std::vector<TextBoxShape> ReadDrawing(std::string& xml, std::string_view partNam
     pugi::xml_document document;
     ParseXmlPart(document, xml, partName);
     std::vector<TextBoxShape> boxes;
-    ForEachChild(document.document_element(), "twoCellAnchor", [&](pugi::xml_node anchor) {
+    for (pugi::xml_node anchor = document.document_element().first_child(); anchor; anchor = anchor.next_sibling()) {
+        const std::optional<std::string_view> editAs = AnchorEditAs(anchor);
+        if (!editAs) {
+            continue;
+        }
         for (pugi::xml_node child = anchor.first_child(); child; child = child.next_sibling()) {
             if (IsTextBox(child)) {
-                boxes.push_back(ReadTextBox(anchor, child));
+                boxes.push_back(ReadTextBox(anchor, *editAs, child));
             }
         }
-    });
+    }
     return boxes;
 }
 

@@ -8,8 +8,9 @@
 
 namespace ooxml {
 
-// The text boxes of a drawing part, in z-order: the shapes marked as text boxes in two-cell
-// anchors. Pictures, charts, groups, connectors, other shapes and other anchors are passed over.
+// The text boxes of a drawing part, in z-order: the shapes marked as text boxes in two-cell,
+// one-cell and absolute anchors. Pictures, charts, groups, connectors and other shapes are passed
+// over.
 // Throws PackageError(Corrupt) when the part is not well-formed.
 std::vector<TextBoxShape> ReadDrawing(std::string& xml, std::string_view partName);
 
