@@ -70,19 +70,4 @@ void WriteFont(XmlWriter& xml, std::string_view element, std::string_view nameEl
     xml.EndElement();
 }
 
-void WriteRunFont(XmlWriter& xml, const Font& font) {
-    xml.StartElement("rPr");
-    ValueElement(xml, "rFont", font.name);
-    WriteFamily(xml, font);
-    FlagElement(xml, "b", font.bold);
-    FlagElement(xml, "i", font.italic);
-    FlagElement(xml, "strike", font.strike);
-    WriteColor(xml, "color", font.color);
-    WriteSize(xml, font);
-    WriteUnderline(xml, font);
-    WriteVerticalAlignment(xml, font);
-    WriteScheme(xml, font);
-    xml.EndElement();
-}
-
 }  // namespace ooxml

@@ -11,8 +11,4 @@ namespace ooxml {
 // of the style sheet (<font>, name in <name>) and a rich text run (<rPr>, name in <rFont>).
 void WriteFont(XmlWriter& xml, std::string_view element, std::string_view nameElement, const Font& font);
 
-// Writes a rich text run's font as <rPr>, its properties in the order the run property schema
-// lists them.
-void WriteRunFont(XmlWriter& xml, const Font& font);
-
 }  // namespace ooxml

@@ -60,7 +60,7 @@ void WriteStringItem(XmlWriter& xml, std::string_view element, const SharedStrin
     for (const TextRun& run : string.runs) {
         xml.StartElement("r");
         if (run.font) {
-            WriteRunFont(xml, *run.font);
+            WriteFont(xml, "rPr", "rFont", *run.font);
         }
         WriteTextElement(xml, run.text);
         xml.EndElement();

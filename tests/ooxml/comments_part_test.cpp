@@ -54,7 +54,7 @@ TEST(CommentsPart, CommentsReferToTheirCellsInTheSheetsOrder) {
     EXPECT_FALSE(first.child("text").child("r"));
 }
 
-TEST(CommentsPart, RichTextRunsListTheirFontInTheRunPropertyOrder) {
+TEST(CommentsPart, RichTextRunsListTheirFontInTheOrderExcelWritesIt) {
     Font font;
     font.name = "Tahoma";
     font.size = 9;
@@ -75,7 +75,8 @@ TEST(CommentsPart, RichTextRunsListTheirFontInTheRunPropertyOrder) {
     for (const pugi::xml_node property : properties.children()) {
         order.emplace_back(property.name());
     }
-    EXPECT_EQ(order, (std::vector<std::string>{"rFont", "family", "b", "i", "strike", "color", "sz", "u", "vertAlign",
+    // As in Excel's own comments parts: <b/><sz val="9"/><color indexed="81"/><rFont val="Tahoma"/>...
+    EXPECT_EQ(order, (std::vector<std::string>{"b", "i", "strike", "u", "vertAlign", "sz", "color", "rFont", "family",
                                                "scheme"}));
     EXPECT_STREQ(properties.child("rFont").attribute("val").value(), "Tahoma");
     EXPECT_STREQ(properties.child("color").attribute("indexed").value(), "81");
