@@ -271,6 +271,7 @@ void RangeView::SetRowHeight(double height) {
             sheet.Cells().Rows()[i].height = height;
         }
     }
+    sheet.RowHeightsChanged();
     owner.SetSaved(false);
 }
 
@@ -309,6 +310,7 @@ void RangeView::SetHidden(bool hidden) {
         for (size_t i = firstRow; i < firstRow + static_cast<size_t>(area.Rows()); ++i) {
             cells_.Sheet()->Cells().Rows()[i].hidden = hidden;
         }
+        cells_.Sheet()->RowHeightsChanged();
     }
     owner.SetSaved(false);
 }

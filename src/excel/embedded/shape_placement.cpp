@@ -42,30 +42,6 @@ AxisPoint ColumnAt(const WorksheetModel& sheet, double x) {
     return AxisPoint{MaxColumn, std::min(x - (start - lastWidth), lastWidth)};
 }
 
-AxisPoint RowAt(const WorksheetModel& sheet, double y) {
-    const double standard = sheet.Settings().defaultRowHeight;
-    double start = 0.0;
-    int32_t next = 1;
-    for (const RowData& row : sheet.Cells().Rows()) {
-        const int32_t between = row.index - next;
-        if (auto found = InEqualCells(next, between, standard, start, y)) {
-            return *found;
-        }
-        start += between * standard;
-        const double height = row.hidden ? 0.0 : row.HasCustomHeight() ? row.height : standard;
-        if (auto found = InEqualCells(row.index, 1, height, start, y)) {
-            return *found;
-        }
-        start += height;
-        next = row.index + 1;
-    }
-    if (auto found = InEqualCells(next, MaxRow - next + 1, standard, start, y)) {
-        return *found;
-    }
-    const double lastHeight = sheet.RowsPoints(MaxRow, MaxRow);
-    return AxisPoint{MaxRow, lastHeight};
-}
-
 double XOf(const WorksheetModel& sheet, const CellPoint& point) {
     return sheet.ColumnsPoints(1, point.column - 1) + std::min(point.columnOffset, sheet.ColumnPoints(point.column));
 }
@@ -110,8 +86,8 @@ void ShiftCorner(CellPoint& corner, const BlockShift& shift, bool endCorner) {
 
 CellPoint CellPointAt(const WorksheetModel& sheet, double x, double y) {
     const AxisPoint column = ColumnAt(sheet, std::max(x, 0.0));
-    const AxisPoint row = RowAt(sheet, std::max(y, 0.0));
-    return CellPoint{column.index, column.offset, row.index, row.offset};
+    const RowPoint row = sheet.RowAt(std::max(y, 0.0));
+    return CellPoint{column.index, column.offset, row.row, row.offset};
 }
 
 ShapeBounds BoundsOf(const WorksheetModel& sheet, const ShapeModel& shape) {

@@ -245,6 +245,7 @@ void LoadSheet(WorksheetModel& sheet, const ooxml::SheetDocument& in, const std:
             row.cells.push_back(cell);
         }
     }
+    sheet.RowHeightsChanged();
     for (const ooxml::CellBlock& merge : in.merges) {
         sheet.Merges().push_back(CellBlock{static_cast<int32_t>(merge.firstRow),
                                            static_cast<int32_t>(merge.firstColumn), static_cast<int32_t>(merge.lastRow),

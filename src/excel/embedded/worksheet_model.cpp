@@ -275,22 +275,11 @@ double WorksheetModel::points(const ColumnInfo& info) const {
 }
 
 double WorksheetModel::RowsPoints(int32_t top, int32_t bottom) const {
-    if (bottom < top) {
-        return 0.0;
-    }
-    // Rows that are not stored, or stored without a height, have the default height.
-    double points = (bottom - top + 1) * settings_.defaultRowHeight;
-    const auto [first, last] = cells_.RowSpan(top, bottom);
-    const auto& rows = cells_.Rows();
-    for (size_t i = first; i < last; ++i) {
-        const RowData& row = rows[i];
-        if (row.hidden) {
-            points -= settings_.defaultRowHeight;
-        } else if (row.HasCustomHeight()) {
-            points += row.height - settings_.defaultRowHeight;
-        }
-    }
-    return points;
+    return rowGeometry_.Points(cells_, top, bottom, settings_.defaultRowHeight);
+}
+
+RowPoint WorksheetModel::RowAt(double y) const {
+    return rowGeometry_.RowAt(cells_, y, settings_.defaultRowHeight);
 }
 
 }  // namespace excel::embedded

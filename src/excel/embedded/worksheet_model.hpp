@@ -5,6 +5,7 @@
 #include "excel/embedded/cell_store.hpp"
 #include "excel/embedded/column_store.hpp"
 #include "excel/embedded/format_change.hpp"
+#include "excel/embedded/row_geometry.hpp"
 #include "excel/embedded/shape_list.hpp"
 
 #include <cstdint>
@@ -80,6 +81,9 @@ public:
     double ColumnPoints(int32_t column) const;
     double ColumnsPoints(int32_t left, int32_t right) const;
     double RowsPoints(int32_t top, int32_t bottom) const;
+    RowPoint RowAt(double y) const;
+    // To be called after row heights change or rows are hidden, shown or moved.
+    void RowHeightsChanged() { rowGeometry_.Invalidate(); }
 
     // How inserting or deleting the block moves cells: whole rows always shift vertically, whole
     // columns horizontally, other blocks as asked.
@@ -109,6 +113,7 @@ private:
     std::vector<CellBlock> merges_;
     ShapeList shapes_;
     std::vector<BlockShift> shiftsApplied_;
+    RowGeometry rowGeometry_;
 };
 
 }  // namespace excel::embedded

@@ -66,10 +66,12 @@ void WorksheetModel::ShiftCells(const BlockShift& shift) {
         }
     }
     moveCells(shift);
+    RowHeightsChanged();
     shiftMerges(shift);
     shapes_.Shift(shift);
     if (shift.insert) {
         copyFormatsIntoInserted(shift);
+        RowHeightsChanged();
     }
     shiftsApplied_.push_back(shift);
 }
