@@ -30,8 +30,7 @@ ooxml::Font NoteFont() {
 
 std::shared_ptr<ShapeModel> AddCellComment(WorksheetModel& sheet, int32_t row, int32_t column,
                                            const std::string& author, const std::string& text) {
-    auto shape = sheet.Shapes().Add(msoComment);
-    shape->comment = CommentLink{row, column, author};
+    auto shape = sheet.Shapes().AddComment(CommentLink{row, column, author});
     shape->visible = false;
     shape->fill.color = ShapeColorFromRgb(noteFill);
     shape->line.color = ShapeColorFromRgb(0);

@@ -16,6 +16,13 @@ std::shared_ptr<ShapeModel> ShapeList::Add(int32_t type) {
     return shape;
 }
 
+std::shared_ptr<ShapeModel> ShapeList::AddComment(const CommentLink& link) {
+    auto shape = Add(msoComment);
+    shape->comment = link;
+    commentsByCell_[CellKey(link.row, link.column)] = shape;
+    return shape;
+}
+
 void ShapeList::AddOpened(std::shared_ptr<ShapeModel> shape) {
     lastNumber_ = std::max(lastNumber_, shape->id > 0 ? shape->id - 1 : 0);
     shapes_.push_back(std::move(shape));
@@ -23,16 +30,28 @@ void ShapeList::AddOpened(std::shared_ptr<ShapeModel> shape) {
 
 void ShapeList::Remove(ShapeModel& shape) {
     shape.deleted = true;
+    if (shape.comment) {
+        commentsByCell_.erase(CellKey(shape.comment->row, shape.comment->column));
+    }
     std::erase_if(shapes_, [&](const auto& held) { return held.get() == &shape; });
 }
 
 std::shared_ptr<ShapeModel> ShapeList::CommentAt(int32_t row, int32_t column) const {
+    const auto found = commentsByCell_.find(CellKey(row, column));
+    return found == commentsByCell_.end() ? nullptr : found->second;
+}
+
+uint64_t ShapeList::CellKey(int32_t row, int32_t column) {
+    return static_cast<uint64_t>(static_cast<uint32_t>(row)) << 32 | static_cast<uint32_t>(column);
+}
+
+void ShapeList::indexComments() {
+    commentsByCell_.clear();
     for (const auto& shape : shapes_) {
-        if (shape->comment && shape->comment->row == row && shape->comment->column == column) {
-            return shape;
+        if (shape->comment) {
+            commentsByCell_[CellKey(shape->comment->row, shape->comment->column)] = shape;
         }
     }
-    return nullptr;
 }
 
 void ShapeList::Shift(const BlockShift& shift) {
@@ -50,6 +69,7 @@ void ShapeList::Shift(const BlockShift& shift) {
         }
     }
     std::erase_if(shapes_, [](const auto& shape) { return shape->deleted; });
+    indexComments();
 }
 
 }  // namespace excel::embedded

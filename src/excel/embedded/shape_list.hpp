@@ -4,6 +4,7 @@
 #include "excel/embedded/shape_model.hpp"
 
 #include <memory>
+#include <unordered_map>
 #include <vector>
 
 namespace excel::embedded {
@@ -16,6 +17,8 @@ public:
     const std::vector<std::shared_ptr<ShapeModel>>& All() const { return shapes_; }
     // A new shape of the type on top of the others, named and numbered.
     std::shared_ptr<ShapeModel> Add(int32_t type);
+    // A new comment's shape on top of the others, linked to its cell.
+    std::shared_ptr<ShapeModel> AddComment(const CommentLink& link);
     // Takes a shape of an opened file with its own name and ID; later shapes number on from it.
     void AddOpened(std::shared_ptr<ShapeModel> shape);
     void Remove(ShapeModel& shape);
@@ -25,7 +28,12 @@ public:
     void Shift(const BlockShift& shift);
 
 private:
+    static uint64_t CellKey(int32_t row, int32_t column);
+    void indexComments();
+
     std::vector<std::shared_ptr<ShapeModel>> shapes_;
+    // The comments' shapes by cell, so that a sheet of many comments finds one without a search.
+    std::unordered_map<uint64_t, std::shared_ptr<ShapeModel>> commentsByCell_;
     uint32_t lastNumber_ = 0;
 };
 
