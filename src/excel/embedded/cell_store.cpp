@@ -1,5 +1,7 @@
 #include "excel/embedded/cell_store.hpp"
 
+#include <algorithm>
+
 namespace excel::embedded {
 
 namespace {
@@ -47,7 +49,10 @@ size_t CellStore::EnsureRows(int32_t top, int32_t bottom) {
         return first;
     }
     if (first == rows_.size()) {
-        rows_.reserve(rows_.size() + wanted);
+        // Grow geometrically: rows written one at a time must not reallocate on every row.
+        if (rows_.capacity() < rows_.size() + wanted) {
+            rows_.reserve(std::max(rows_.size() + wanted, rows_.capacity() * 2));
+        }
         for (int32_t row = top; row <= bottom; ++row) {
             rows_.push_back(NewRow(row));
         }
