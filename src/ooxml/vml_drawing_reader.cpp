@@ -128,6 +128,7 @@ std::array<double, 4> ParseInsets(std::string_view text) {
 }
 
 void ReadNoteShape(pugi::xml_node shape, pugi::xml_node clientData, CellComment& comment) {
+    comment.hasShape = true;
     ForEachStyleProperty(AttributeText(shape, "style"), [&comment](std::string_view name, std::string_view value) {
         if (name == "margin-left" || name == "left") {
             comment.left = ParseLength(value).value_or(comment.left);

@@ -199,6 +199,9 @@ struct CellComment {
     std::string author;
     SharedString text;             // runs with their fonts
     bool visible = false;
+    // Whether the legacy drawing gave the shape below; a comment read without one is placed where
+    // Excel places a new comment.
+    bool hasShape = true;
     double left = 0, top = 0, width = 96, height = 55.5;  // points from the sheet's top-left corner
     LegacyAnchor anchor;
     bool moveWithCells = true;

@@ -156,6 +156,26 @@ TEST_F(ShapeDocumentConversion, CommentThemeColoursAreSavedResolved) {
     EXPECT_DOUBLE_EQ((*comment.insets)[1], 1);
 }
 
+// A file whose comments have no legacy drawing: each is placed as a new comment on that sheet,
+// beside its cell as the sheet's own column widths and row heights put it.
+TEST_F(ShapeDocumentConversion, CommentsOpenedWithoutShapesArePlacedAsNewOnes) {
+    ooxml::WorkbookDocument opened = ToDocument(*book, "test");
+    ooxml::CellComment comment;
+    comment.row = 2;
+    comment.column = 2;
+    comment.text.text = "no shape";
+    comment.hasShape = false;
+    opened.sheets.front().rows.push_back(ooxml::Row{1, 30.0, std::nullopt, false, {}});
+    opened.sheets.front().comments.push_back(comment);
+    reopened = std::make_shared<WorkbookModel>(*app, "Reopened.xlsx");
+    LoadDocument(*reopened, opened);
+    const auto shape = WorksheetView(reopened->Sheets().front()).Range("B2")->Comment()->Shape();
+    EXPECT_DOUBLE_EQ(shape->Left(), 107.25);
+    EXPECT_DOUBLE_EQ(shape->Top(), 22.5) << "7.5 points above row 2, below the 30-point row 1";
+    EXPECT_DOUBLE_EQ(shape->Width(), 96);
+    EXPECT_DOUBLE_EQ(shape->Height(), 55.5);
+}
+
 TEST_F(ShapeDocumentConversion, CommentsAreSavedInRowThenColumnOrder) {
     sheet->Range("C5")->AddComment("c");
     sheet->Range("B5")->AddComment("b");

@@ -13,6 +13,7 @@ namespace {
 constexpr int32_t noteFill = 0xE1FFFF;  // RGB Long of #FFFFE1
 constexpr double gapRightOfCell = 11.25;
 constexpr double riseAboveCell = 7.5;
+constexpr double highestTop = 1.5;  // a note on the first row starts two pixels below the sheet's top
 constexpr double noteWidth = 96.0;
 constexpr double noteHeight = 55.5;
 constexpr int32_t systemForegroundIndex = 81;  // the colour index notes' text is written with
@@ -37,7 +38,7 @@ std::shared_ptr<ShapeModel> AddCellComment(WorksheetModel& sheet, int32_t row, i
     shape->text.font = NoteFont();
     shape->text.text = ooxml::SharedString{text, {}};
     const double left = sheet.ColumnsPoints(1, column) + gapRightOfCell;
-    const double top = std::max(sheet.RowsPoints(1, row - 1) - riseAboveCell, 0.0);
+    const double top = std::max(sheet.RowsPoints(1, row - 1) - riseAboveCell, highestTop);
     Place(sheet, *shape, ShapeBounds{left, top, noteWidth, noteHeight});
     return shape;
 }

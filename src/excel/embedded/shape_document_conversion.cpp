@@ -231,7 +231,9 @@ void LoadComment(WorksheetModel& sheet, const ooxml::CellComment& in) {
         shape->text.autoMargins = false;
         shape->text.margins = TextMargins{left, top, right, bottom};
     }
-    Place(sheet, *shape, ShapeBounds{in.left, in.top, in.width, in.height});
+    if (in.hasShape) {
+        Place(sheet, *shape, ShapeBounds{in.left, in.top, in.width, in.height});
+    }
 }
 
 }  // namespace
