@@ -23,27 +23,29 @@ struct Paragraph {
 
 // The text cut into paragraphs of characters with their fonts. An empty paragraph is as high as
 // the font at its place.
+// The characters keep pointers to the fonts of the frame's own runs, which outlive the paragraphs.
 std::vector<Paragraph> ParagraphsOf(const ShapeText& frame) {
-    std::vector<ooxml::TextRun> runs = frame.text.runs;
-    if (runs.empty()) {
-        runs.push_back(ooxml::TextRun{frame.text.text, std::nullopt});
-    }
     std::vector<Paragraph> paragraphs(1);
     const ooxml::Font* lastFont = &frame.font;
-    for (const ooxml::TextRun& run : runs) {
-        const ooxml::Font* font = run.font ? &*run.font : &frame.font;
+    const auto addRun = [&](const std::string& text, const ooxml::Font* font) {
         lastFont = font;
-        for (size_t position = 0; position < run.text.size();) {
+        for (size_t position = 0; position < text.size();) {
             const size_t start = position;
-            const char32_t codePoint = NextCodePoint(run.text, position);
+            const char32_t codePoint = NextCodePoint(text, position);
             Paragraph& paragraph = paragraphs.back();
             paragraph.lineHeight = std::max(paragraph.lineHeight, LineHeight(*font));
             if (codePoint == U'\n') {
                 paragraphs.emplace_back();
                 continue;
             }
-            paragraph.characters.push_back(StyledCharacter{run.text.substr(start, position - start), font});
+            paragraph.characters.push_back(StyledCharacter{text.substr(start, position - start), font});
         }
+    };
+    if (frame.text.runs.empty()) {
+        addRun(frame.text.text, &frame.font);
+    }
+    for (const ooxml::TextRun& run : frame.text.runs) {
+        addRun(run.text, run.font ? &*run.font : &frame.font);
     }
     if (paragraphs.back().lineHeight == 0.0) {
         paragraphs.back().lineHeight = LineHeight(*lastFont);
