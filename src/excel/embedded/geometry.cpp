@@ -8,7 +8,6 @@ namespace {
 
 constexpr double MaxDigitWidth = 7.0;
 constexpr double ColumnPadding = 5.0;
-constexpr double PointsPerPixel = 0.75;
 // Below one character a column has no padding: one character is MaxDigitWidth + padding pixels.
 constexpr double PixelsOfOneCharacter = MaxDigitWidth + ColumnPadding;
 // The file stores widths in 1/256 of a character.

@@ -8,6 +8,7 @@ namespace excel::embedded {
 // column, 0.75 pt per pixel.
 inline constexpr double StandardColumnWidth = 8.43;
 inline constexpr double StandardRowHeight = 15.0;
+inline constexpr double PointsPerPixel = 0.75;
 
 // A column width in characters (as ColumnWidth reads) to pixels: 8.43 -> 64; below one character
 // round(characters * 12).

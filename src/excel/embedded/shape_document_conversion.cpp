@@ -2,6 +2,7 @@
 
 #include "excel/embedded/cell_comment.hpp"
 #include "excel/embedded/color_conversion.hpp"
+#include "excel/embedded/geometry.hpp"
 #include "excel/embedded/shape_placement.hpp"
 #include "excel/embedded/workbook_model.hpp"
 
@@ -16,7 +17,6 @@ namespace excel::embedded {
 namespace {
 
 constexpr double EmuPerPoint = 12700.0;
-constexpr double PointsPerPixel = 0.75;
 
 int64_t Emu(double points) {
     return std::llround(points * EmuPerPoint);
