@@ -1,6 +1,7 @@
 #pragma once
 
 #include <vos/table_inside_border_type.hpp>
+#include <vos/vos_excel_table.hpp>
 
 #include <excel/fwd.hpp>
 #include <excel/variant.hpp>
@@ -48,6 +49,16 @@ public:
     // above a row boundary; the cursor moves to the row after the box. The title must not be blank.
     virtual std::shared_ptr<excel::Shape> AddHeader(const std::string& mainTitle,
                                                     const excel::Variant& additionalHeaderInfo) = 0;
+    // A table at the cursor: its title rows (one for each title given), numHeaderRows header rows
+    // (1 to 5) and numInteriorRows interior rows, NumHeaderColumns header columns (0 to 5) and
+    // numInteriorColumns interior columns, cleared and formatted. The cursor moves to the row below.
+    virtual std::shared_ptr<VosExcelTable> AddTable(int32_t numInteriorRows, int32_t numInteriorColumns,
+                                                    int16_t NumHeaderRows, int16_t NumHeaderColumns,
+                                                    const std::string& mainTitle = "",
+                                                    const std::string& subTitle = "") = 0;
+    // The height in points that a tornado chart of that many bars reads well at: 300 up to nine
+    // bars, 16 more for each further bar up to sixteen.
+    virtual double RecommendedTornadoChartHeight(int16_t numBars) = 0;
     // Inserts a narrow gutter column at the left edge of the sheet; everything shifts right.
     virtual void AddSpacingColumn() = 0;
     // A hidden comment on the cell: the bold, underlined header text over the main text, in a

@@ -1,6 +1,7 @@
 #include "entry/localized_label.hpp"
 
 #include "entry/label_table.hpp"
+#include "support/checked_sum.hpp"
 
 #include <excel/automation_error.hpp>
 
@@ -10,7 +11,6 @@ namespace vos {
 
 namespace {
 
-constexpr int32_t OverflowError = 6;
 constexpr int32_t ResourceNotFoundError = 326;
 
 int32_t LabelBlockBase(int32_t languageId) {
@@ -71,9 +71,7 @@ void ReplaceLineBreakMarkers(std::string& text) {
 std::string GetLocalizedLabel(int16_t labelOffset, int32_t languageId, const std::optional<excel::Variant>& argument0,
                               const std::optional<excel::Variant>& argument1,
                               const std::optional<excel::Variant>& argument2) {
-    int32_t identifier = 0;
-    if (__builtin_add_overflow(static_cast<int32_t>(labelOffset), LabelBlockBase(languageId), &identifier))
-        excel::ThrowRuntimeError(OverflowError);
+    const int32_t identifier = CheckedSum(labelOffset, LabelBlockBase(languageId));
     const auto found = FindLabelString(identifier);
     if (!found)
         excel::ThrowRuntimeError(ResourceNotFoundError);

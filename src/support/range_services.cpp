@@ -107,6 +107,8 @@ int32_t RangeServices::LastColumnOfRange(const std::shared_ptr<excel::Range>& ra
 
 std::shared_ptr<excel::Range> RangeServices::RangeOffset(const std::shared_ptr<excel::Range>& range, int32_t rowOffset,
                                                          int32_t columnOffset) const {
+    if (!range)
+        return nullptr;
     return range->Offset(rowOffset, columnOffset);
 }
 

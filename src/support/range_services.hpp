@@ -22,7 +22,7 @@ public:
     // The worksheet row and column of the range's last row and column, over all its areas.
     int32_t LastRowOfRange(const std::shared_ptr<excel::Range>& range) const;
     int32_t LastColumnOfRange(const std::shared_ptr<excel::Range>& range) const;
-    // The same-sized block moved down and right (up and left for negative offsets).
+    // The same-sized block moved down and right (up and left for negative offsets); none stays none.
     std::shared_ptr<excel::Range> RangeOffset(const std::shared_ptr<excel::Range>& range, int32_t rowOffset,
                                               int32_t columnOffset) const;
     // The block of that many rows and columns at the range's top-left cell; KeepCount keeps the

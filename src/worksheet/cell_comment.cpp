@@ -31,17 +31,21 @@ constexpr double TopAndBottomMargin = 5.76;
 
 }  // namespace
 
+void RequireCommentTexts(const std::string& headerText, const std::string& mainText) {
+    if (TrimBlanks(headerText).empty())
+        RaiseLibraryError(error_code::EmptyArgument, "headerText");
+    if (TrimBlanks(mainText).empty())
+        RaiseLibraryError(error_code::EmptyArgument, "mainText");
+}
+
 std::shared_ptr<excel::Comment> CreateCellComment(const std::shared_ptr<excel::Range>& whichCell,
                                                   const std::string& headerText, const std::string& mainText,
                                                   bool themeOutline, int32_t outlineThemeColor) {
     if (!whichCell)
         RaiseLibraryError(error_code::MissingObject, "whichCell");
+    RequireCommentTexts(headerText, mainText);
     const std::string header = TrimBlanks(headerText);
-    if (header.empty())
-        RaiseLibraryError(error_code::EmptyArgument, "headerText");
     const std::string main = TrimBlanks(mainText);
-    if (main.empty())
-        RaiseLibraryError(error_code::EmptyArgument, "mainText");
 
     // From here on each step is formatting that Excel may refuse: a refused step is skipped.
     IgnoringExcelErrors([&] {

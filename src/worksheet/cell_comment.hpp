@@ -8,6 +8,9 @@
 
 namespace vos {
 
+// Refuses a header or main text that is blank once trimmed, naming "headerText" or "mainText".
+void RequireCommentTexts(const std::string& headerText, const std::string& mainText);
+
 // Replaces the cell's comment by a hidden one that reads the header text, bold and underlined,
 // over the main text (both trimmed, neither may be blank), in a white 216 x 90 point box with a
 // 2.5 point outline: the theme colour outlineThemeColor (drawing-object numbering) when

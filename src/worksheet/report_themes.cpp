@@ -1,9 +1,7 @@
 #include "worksheet/report_worksheet.hpp"
 
 #include "workbook/report_workbook.hpp"
-#include "worksheet/range_theme.hpp"
-
-#include <vos/theme_property_type.hpp>
+#include "worksheet/workbook_range_theme.hpp"
 
 namespace vos {
 
@@ -17,24 +15,19 @@ float ReportWorksheet::ThemeTintAndShade(int32_t p_VosThemePropertyType, bool /*
 }
 
 void ReportWorksheet::SetTitleRangeTheme(const std::shared_ptr<excel::Range>& p_Range) {
-    ApplyTitleRangeTheme(p_Range, ThemeColor(VosTableTitle), ThemeTintAndShade(VosTableTitle),
-                         ThemeColor(VosTableTitleFont), ThemeTintAndShade(VosTableTitleFont),
-                         ThemeColor(VosTableBorders), ThemeTintAndShade(VosTableBorders));
+    ApplyTitleRangeTheme(*parentWorkbook_, p_Range);
 }
 
 void ReportWorksheet::SetInteriorRangeTheme(const std::shared_ptr<excel::Range>& p_Range, int32_t p_InsideBorderType) {
-    ApplyInteriorRangeTheme(p_Range, ThemeColor(VosTableBorders), ThemeTintAndShade(VosTableBorders),
-                            p_InsideBorderType);
+    ApplyInteriorRangeTheme(*parentWorkbook_, p_Range, p_InsideBorderType);
 }
 
 void ReportWorksheet::SetTopHeaderRangeTheme(const std::shared_ptr<excel::Range>& p_Range, int32_t p_InsideBorderType) {
-    ApplyTopHeaderRangeTheme(p_Range, ThemeColor(VosTableHeader), ThemeTintAndShade(VosTableHeader),
-                             ThemeColor(VosTableBorders), ThemeTintAndShade(VosTableBorders), p_InsideBorderType);
+    ApplyTopHeaderRangeTheme(*parentWorkbook_, p_Range, p_InsideBorderType);
 }
 
 void ReportWorksheet::SetLeftHeaderRangeTheme(const std::shared_ptr<excel::Range>& p_Range, int32_t p_InsideBorderType) {
-    ApplyLeftHeaderRangeTheme(p_Range, ThemeColor(VosTableHeader), ThemeTintAndShade(VosTableHeader),
-                              ThemeColor(VosTableBorders), ThemeTintAndShade(VosTableBorders), p_InsideBorderType);
+    ApplyLeftHeaderRangeTheme(*parentWorkbook_, p_Range, p_InsideBorderType);
 }
 
 }  // namespace vos

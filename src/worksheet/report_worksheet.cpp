@@ -1,6 +1,7 @@
 #include "worksheet/report_worksheet.hpp"
 
 #include "entry/library_error.hpp"
+#include "support/checked_sum.hpp"
 #include "support/support_services.hpp"
 #include "workbook/creation_tags.hpp"
 #include "workbook/report_workbook.hpp"
@@ -20,15 +21,6 @@ namespace {
 
 constexpr double ReportColumnWidth = 8.45;
 constexpr double SpacingColumnWidth = 0.17;
-constexpr int32_t OverflowError = 6;
-
-// cursor + count, failing with the runtime's overflow error as 32-bit arithmetic does.
-int32_t CheckedSum(int32_t cursor, int32_t count) {
-    int32_t sum = 0;
-    if (__builtin_add_overflow(cursor, count, &sum))
-        excel::ThrowRuntimeError(OverflowError);
-    return sum;
-}
 
 }  // namespace
 

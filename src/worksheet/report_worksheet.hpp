@@ -33,6 +33,10 @@ public:
                                                  const excel::Variant& additionalHeaderInfo) override;
     std::shared_ptr<excel::Shape> AddHeader(const std::string& mainTitle,
                                             const excel::Variant& additionalHeaderInfo) override;
+    std::shared_ptr<VosExcelTable> AddTable(int32_t numInteriorRows, int32_t numInteriorColumns, int16_t NumHeaderRows,
+                                            int16_t NumHeaderColumns, const std::string& mainTitle = "",
+                                            const std::string& subTitle = "") override;
+    double RecommendedTornadoChartHeight(int16_t numBars) override;
     void AddSpacingColumn() override;
     std::shared_ptr<excel::Comment> AddComment(const std::shared_ptr<excel::Range>& whichCell,
                                                const std::string& headerText, const std::string& mainText) override;

@@ -1,0 +1,64 @@
+#include "table/report_table.hpp"
+
+#include "entry/library_error.hpp"
+#include "support/support_services.hpp"
+#include "workbook/report_workbook.hpp"
+
+#include <vos/theme_property_type.hpp>
+
+#include <excel/border.hpp>
+#include <excel/constants.hpp>
+#include <excel/range.hpp>
+
+namespace vos {
+
+void ReportTable::AddRowDividerLine(int32_t position, bool extendIntoColumnHeader, int32_t lineStyle,
+                                    int32_t weight, int16_t colorIndex) {
+    if (position < 0 || position > InteriorRowCount())
+        RaiseLibraryError(error_code::OutOfRange, "position");
+    // Row 0 is the row just above the interior: its bottom edge runs under the header.
+    auto line = interiorRange_->Rows(position);
+    if (extendIntoColumnHeader) {
+        const auto& ranges = Support().Ranges();
+        const int32_t headerColumns = LeftHeaderColumnCount();
+        line = ranges.RangeOffset(line, 0, -headerColumns);
+        line = ranges.RangeResize(line, RangeServices::KeepCount, line->Columns()->Count() + headerColumns);
+    }
+    DrawDivider(line->Borders(excel::xlEdgeBottom), lineStyle, weight, colorIndex);
+}
+
+void ReportTable::AddColumnDividerLine(int32_t position, bool extendIntoRowHeader, int32_t lineStyle, int32_t weight,
+                                       int16_t colorIndex) {
+    if (position < 0 || position > InteriorColumnCount())
+        RaiseLibraryError(error_code::OutOfRange, "position");
+    auto line = interiorRange_->Columns(position);
+    if (extendIntoRowHeader) {
+        const auto& ranges = Support().Ranges();
+        const int32_t headerRows = TopHeaderRowCount();
+        line = ranges.RangeOffset(line, -headerRows, 0);
+        line = ranges.RangeResize(line, line->Rows()->Count() + headerRows, RangeServices::KeepCount);
+    }
+    DrawDivider(line->Borders(excel::xlEdgeRight), lineStyle, weight, colorIndex);
+}
+
+void ReportTable::AddCustomDivider(const std::shared_ptr<excel::Border>& borderObject, int32_t lineStyle,
+                                   int32_t weight, int16_t colorIndex) {
+    if (!borderObject)
+        RaiseLibraryError(error_code::MissingObject, "borderObject");
+    DrawDivider(borderObject, lineStyle, weight, colorIndex);
+}
+
+// With themes every divider takes the table-border colour of the theme, whatever index is given.
+void ReportTable::DrawDivider(const std::shared_ptr<excel::Border>& border, int32_t lineStyle, int32_t weight,
+                              int16_t colorIndex) const {
+    border->SetWeight(weight);
+    border->SetLineStyle(lineStyle);
+    if (reportWorkbook_->UseThemes()) {
+        border->SetThemeColor(reportWorkbook_->ThemeColorFor(VosTableBorders, false));
+        border->SetTintAndShade(reportWorkbook_->ThemeTintAndShadeFor(VosTableBorders));
+    } else {
+        border->SetColorIndex(colorIndex);
+    }
+}
+
+}  // namespace vos
