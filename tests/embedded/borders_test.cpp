@@ -130,3 +130,54 @@ TEST_F(EngineTest, WholeRowEdgeStoresNoCellBelow) {
     EXPECT_EQ(sheet->Rows(4)->Borders(xlEdgeTop)->LineStyle(), Variant(xlContinuous));
     EXPECT_EQ(sheet->UsedRange()->Address(), "$A$1");
 }
+
+// The table sets a line property by property: weight, style, colour index, theme colour, tint.
+TEST_F(EngineTest, EdgeSetPropertyByPropertyEndsAsTheLastOneLeftIt) {
+    auto bottom = At("B3:K4")->Borders(xlEdgeBottom);
+    bottom->SetWeight(xlMedium);
+    EXPECT_EQ(bottom->LineStyle(), Variant(xlContinuous));
+    bottom->SetLineStyle(xlContinuous);
+    EXPECT_EQ(bottom->Weight(), Variant(xlMedium));
+    bottom->SetColorIndex(xlColorIndexAutomatic);
+    EXPECT_EQ(bottom->ColorIndex(), Variant(xlColorIndexAutomatic));
+    bottom->SetThemeColor(xlThemeColorAccent2);
+    bottom->SetTintAndShade(-0.5);
+    EXPECT_EQ(bottom->Weight(), Variant(xlMedium));
+    EXPECT_EQ(bottom->ThemeColor(), Variant(xlThemeColorAccent2));
+    EXPECT_NEAR(bottom->TintAndShade().ToDouble(), -0.5, 1e-9);
+    EXPECT_EQ(At("K4")->Borders(xlEdgeBottom)->ThemeColor(), Variant(xlThemeColorAccent2));
+    EXPECT_EQ(At("B3:K3")->Borders(xlEdgeBottom)->LineStyle(), Variant(xlLineStyleNone));
+    auto right = At("B3:K4")->Borders(xlEdgeRight);
+    right->SetWeight(xlThin);
+    right->SetLineStyle(xlDash);
+    right->SetColorIndex(3);
+    EXPECT_EQ(At("K3:K4")->Borders(xlEdgeRight)->LineStyle(), Variant(xlDash));
+    EXPECT_EQ(At("K3:K4")->Borders(xlEdgeRight)->ColorIndex(), Variant(3));
+    EXPECT_EQ(At("J3:J4")->Borders(xlEdgeRight)->LineStyle(), Variant(xlLineStyleNone));
+}
+
+TEST_F(EngineTest, EdgeBottomOfTheRowAboveABlockIsTheLineOverIt) {
+    auto block = At("B5:D8");
+    auto above = block->Rows(0)->Borders(xlEdgeBottom);
+    above->SetWeight(xlMedium);
+    above->SetLineStyle(xlContinuous);
+    above->SetThemeColor(xlThemeColorDark1);
+    above->SetTintAndShade(-0.35);
+    EXPECT_EQ(At("B4:D4")->Borders(xlEdgeBottom)->Weight(), Variant(xlMedium));
+    EXPECT_EQ(block->Borders(xlEdgeTop)->Weight(), Variant(xlMedium));
+    EXPECT_EQ(block->Borders(xlEdgeTop)->ThemeColor(), Variant(xlThemeColorDark1));
+    EXPECT_NEAR(block->Borders(xlEdgeTop)->TintAndShade().ToDouble(), -0.35, 1e-9);
+    EXPECT_EQ(At("A4")->Borders(xlEdgeBottom)->LineStyle(), Variant(xlLineStyleNone));
+}
+
+TEST_F(EngineTest, BorderAroundWithAnAutomaticColourIndex) {
+    auto block = At("A1:K20");
+    block->BorderAround(xlContinuous, xlMedium, xlColorIndexAutomatic);
+    for (int32_t edge : {xlEdgeLeft, xlEdgeTop, xlEdgeBottom, xlEdgeRight}) {
+        EXPECT_EQ(block->Borders(edge)->LineStyle(), Variant(xlContinuous));
+        EXPECT_EQ(block->Borders(edge)->Weight(), Variant(xlMedium));
+        EXPECT_EQ(block->Borders(edge)->ColorIndex(), Variant(xlColorIndexAutomatic));
+    }
+    EXPECT_EQ(At("B2:J19")->Borders()->LineStyle(), Variant(xlLineStyleNone));
+    EXPECT_EQ(sheet->UsedRange()->Address(), "$A$1:$K$20");
+}

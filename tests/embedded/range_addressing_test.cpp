@@ -97,3 +97,45 @@ TEST_F(EngineTest, WholeSheetCountOverflowsButCountLargeDoesNot) {
     EXPECT_EQ(sheet->Cells()->CountLarge(), int64_t{1048576} * 16384);
     EXPECT_EQ(ErrorCodeOf([&] { sheet->Cells()->Count(); }), static_cast<int32_t>(0x800A0006));
 }
+
+TEST_F(EngineTest, CellsByIndexOfAColumnWalksDownIt) {
+    auto column = At("C5:C9");
+    EXPECT_EQ(column->Cells(1)->Address(), "$C$5");
+    EXPECT_EQ(column->Cells(5)->Address(), "$C$9");
+    EXPECT_EQ(column->Cells(7)->Address(), "$C$11");
+    EXPECT_EQ(ErrorCodeOf([&] { column->Cells(0); }), kRefused);
+}
+
+TEST_F(EngineTest, LastCellByIndexIsTheBottomRightCell) {
+    for (const char* address : {"B3:K4", "A5:A100004", "C3:F3", "D7"}) {
+        auto block = At(address);
+        const std::string last = block->Cells(block->Cells()->Count())->Address();
+        const std::string expected = block->Cells(block->Rows()->Count(), block->Columns()->Count())->Address();
+        EXPECT_EQ(last, expected) << address;
+    }
+    EXPECT_EQ(At("B3:K4")->Cells(20)->Address(), "$K$4");
+}
+
+TEST_F(EngineTest, CellsOfARowOrColumnOfABlockCountWithinIt) {
+    auto block = At("B3:E6");
+    EXPECT_EQ(block->Rows(2)->Cells(3)->Address(), "$D$4");
+    EXPECT_EQ(block->Columns(2)->Cells(3)->Address(), "$C$5");
+    EXPECT_EQ(block->Rows(0)->Cells(1)->Address(), "$B$2");
+    EXPECT_EQ(block->Columns(0)->Address(), "$A$3:$A$6");
+    EXPECT_EQ(block->Columns(0)->Cells(4)->Address(), "$A$6");
+    EXPECT_EQ(block->Columns(4)->Cells(block->Columns(4)->Count())->Address(), "$E$6");
+    EXPECT_EQ(block->Rows(5)->Address(), "$B$7:$E$7");
+    EXPECT_EQ(block->Cells(2, 3)->Address(), "$D$4");
+    EXPECT_EQ(ErrorCodeOf([&] { At("B1:C2")->Rows(0); }), kRefused);
+    EXPECT_EQ(ErrorCodeOf([&] { At("A1:B2")->Columns(0); }), kRefused);
+}
+
+TEST_F(EngineTest, EntireColumnOfABlocksColumnSetsItsWidth) {
+    auto block = At("B3:E6");
+    block->Columns(2)->EntireColumn()->SetColumnWidth(14.5);
+    EXPECT_EQ(At("C1")->ColumnWidth(), Variant(14.5));
+    EXPECT_EQ(At("B1")->ColumnWidth(), Variant(8.43));
+    EXPECT_EQ(At("D1")->ColumnWidth(), Variant(8.43));
+    EXPECT_TRUE(block->ColumnWidth().IsNull());
+    EXPECT_EQ(block->Columns(2)->EntireColumn()->Address(), "$C:$C");
+}

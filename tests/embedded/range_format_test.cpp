@@ -178,3 +178,17 @@ TEST_F(EngineTest, PatternedFillKeepsCellColourAndPatternColourApart) {
     interior->SetPattern(xlPatternSolid);
     EXPECT_EQ(interior->Color(), Variant(static_cast<double>(0xFFEEDD)));
 }
+
+// The engine works in locale 1033, where a number format's local spelling is its own.
+TEST_F(EngineTest, NumberFormatLocalActsAsNumberFormat) {
+    auto block = At("B2:C3");
+    block->SetNumberFormatLocal("#,##0.00");
+    EXPECT_EQ(block->NumberFormat(), Variant("#,##0.00"));
+    EXPECT_EQ(block->NumberFormatLocal(), Variant("#,##0.00"));
+    block->SetValue(1234.5);
+    EXPECT_EQ(At("B2")->Text(), Variant("1,234.50"));
+    block->SetNumberFormat("0%");
+    EXPECT_EQ(block->NumberFormatLocal(), Variant("0%"));
+    block->SetNumberFormatLocal("");
+    EXPECT_EQ(block->NumberFormatLocal(), Variant("General"));
+}

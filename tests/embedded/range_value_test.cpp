@@ -194,3 +194,38 @@ TEST_F(EngineTest, UnstorableValueIsRefusedAndChangesNothing) {
     EXPECT_EQ(ErrorCodeOf([&] { At("A1")->SetValue(Variant(std::static_pointer_cast<Object>(sheet))); }), kRefused);
     EXPECT_EQ(At("A1")->Value(), Variant(1.0));
 }
+
+// The table writes each interior column from a one-based rows x 1 array of variants.
+TEST_F(EngineTest, VariantColumnArrayFillsAColumnElementByElement) {
+    SafeArray values = SafeArray::Matrix(VarType::Variant, 8, 1);
+    values.Put(0, 0, Variant("label"));
+    values.Put(1, 0, Variant(2.5));
+    values.Put(2, 0, Variant(int16_t{-7}));
+    values.Put(3, 0, Variant(int32_t{100000}));
+    values.Put(4, 0, Variant(0.25f));
+    values.Put(5, 0, Variant(true));
+    values.Put(6, 0, Variant());
+    values.Put(7, 0, Variant("12.5"));
+    EXPECT_EQ(values.LowerBound(1), 1);
+    auto column = At("C5:C12");
+    column->SetValue(Variant(values));
+    EXPECT_EQ(At("C5")->Value(), Variant("label"));
+    EXPECT_EQ(At("C6")->Value(), Variant(2.5));
+    EXPECT_EQ(At("C7")->Value(), Variant(-7.0));
+    EXPECT_EQ(At("C8")->Value(), Variant(100000.0));
+    EXPECT_EQ(At("C9")->Value(), Variant(0.25));
+    EXPECT_EQ(At("C10")->Value(), Variant(true));
+    EXPECT_TRUE(At("C11")->Value().IsEmpty());
+    // Text that reads as a number is entered as the number, as typing it would be.
+    EXPECT_EQ(At("C12")->Value(), Variant(12.5));
+    EXPECT_EQ(At("C12")->Value().Type(), VarType::Double);
+}
+
+TEST_F(EngineTest, VariantColumnArrayShorterThanTheColumnLeavesNotAvailable) {
+    SafeArray values = SafeArray::Matrix(VarType::Variant, 2, 1);
+    values.Put(0, 0, Variant(1.0));
+    values.Put(1, 0, Variant(2.0));
+    At("A1:A3")->SetValue(Variant(values));
+    EXPECT_EQ(At("A2")->Value(), Variant(2.0));
+    EXPECT_EQ(At("A3")->Value(), notAvailable);
+}
