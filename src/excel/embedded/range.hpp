@@ -112,6 +112,7 @@ private:
     std::shared_ptr<RangeView> relative(int32_t top, int32_t left, int32_t bottom, int32_t right) const;
     Variant readValues(bool convertDates);
     void writeValues(const Variant& value, bool plain);
+    void clearValues();
     template <class Project>
     Variant readFormat(Project&& project);
     void shift(const Variant& direction, bool insert, bool formatFromAfter);

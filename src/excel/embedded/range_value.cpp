@@ -106,8 +106,9 @@ void RangeView::writeValues(const Variant& value, bool plain) {
     } else if (!IsStorableValue(value)) {
         RefuseUnstorable();
     } else if (value.IsEmpty()) {
-        // Writing Empty clears the values, touching only the cells that are stored.
-        ClearContents();
+        // Writing Empty clears the values, touching only the cells that are stored; unlike
+        // ClearContents it may cut a merged block.
+        clearValues();
         return;
     }
     RefuseWritesBeyondMemory(cells_.Areas());
@@ -203,12 +204,22 @@ Variant RangeView::Text() {
     return differs ? Variant::Null() : Variant(common.value_or(std::string()));
 }
 
-void RangeView::ClearContents() {
+void RangeView::clearValues() {
     WorkbookModel& owner = book();
     for (const CellBlock& area : cells_.Areas()) {
         cells_.Sheet()->ForEachStoredCell(area, [](int32_t, Cell& cell) { cell.ClearValue(); });
     }
     owner.SetSaved(false);
+}
+
+void RangeView::ClearContents() {
+    book();
+    for (const CellBlock& area : cells_.Areas()) {
+        if (cells_.Sheet()->CutsMerge(area)) {
+            ThrowRefused("We can't do that to a merged cell.");
+        }
+    }
+    clearValues();
 }
 
 void RangeView::ClearFormats() {
@@ -221,7 +232,7 @@ void RangeView::ClearFormats() {
 
 // Excel's Clear All: contents, formats and comments.
 void RangeView::Clear() {
-    ClearContents();
+    clearValues();
     ClearFormats();
     ClearComments();
 }

@@ -239,11 +239,29 @@ void WorksheetModel::Merge(const CellBlock& block) {
     if (merged.CellCount() > 1) {
         merges_.push_back(merged);
     }
-    ForEachStoredCell(merged, [&](int32_t row, Cell& cell) {
-        if (row != merged.top || cell.column != merged.left) {
+    // Excel keeps the first value in reading order and moves it into the top-left cell.
+    std::optional<Cell> kept;
+    ForEachStoredCell(merged, [&](int32_t, Cell& cell) {
+        if (cell.HasValue()) {
+            if (!kept) {
+                kept = cell;
+            }
             cell.ClearValue();
         }
     });
+    if (kept) {
+        WriteCells({merged.top, merged.left, merged.top, merged.left}, [&](int32_t, int32_t, Cell& cell) {
+            Cell value = *kept;
+            value.column = cell.column;
+            value.format = cell.format;
+            cell = value;
+        });
+    }
+}
+
+bool WorksheetModel::CutsMerge(const CellBlock& block) const {
+    return std::any_of(merges_.begin(), merges_.end(),
+                       [&](const CellBlock& merge) { return merge.Intersects(block) && !block.Contains(merge); });
 }
 
 void WorksheetModel::Unmerge(const CellBlock& block) {

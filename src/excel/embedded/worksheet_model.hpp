@@ -72,9 +72,12 @@ public:
 
     // The merged block holding the position, if any.
     std::optional<CellBlock> MergeAt(int32_t row, int32_t column) const;
-    // Merges the block, absorbing merges it overlaps; only the top-left value is kept.
+    // Merges the block, absorbing merges it overlaps; the first value in reading order is kept,
+    // in the top-left cell.
     void Merge(const CellBlock& block);
     void Unmerge(const CellBlock& block);
+    // Whether the block holds part of a merged block but not all of it.
+    bool CutsMerge(const CellBlock& block) const;
 
     // Geometry in points.
     double ColumnWidthChars(int32_t column) const;
