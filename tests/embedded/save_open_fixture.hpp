@@ -4,6 +4,7 @@
 
 #include <unistd.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -31,3 +32,9 @@ protected:
 
     std::filesystem::path folder;
 };
+
+// Runs one of the shared file checkers (validate-xlsx, check-xlsx) on the file; 0 when it passes.
+inline int RunTool(const std::string& tool, const std::string& file) {
+    const std::string command = std::string(VOS_SHARED_DIR) + "/tools/" + tool + " '" + file + "' > /dev/null 2>&1";
+    return std::system(command.c_str());
+}

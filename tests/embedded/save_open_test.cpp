@@ -1,20 +1,10 @@
 #include "save_open_fixture.hpp"
 
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <string>
 
 using namespace excel;
-
-namespace {
-
-int RunTool(const std::string& tool, const std::string& file) {
-    const std::string command = std::string(VOS_SHARED_DIR) + "/tools/" + tool + " '" + file + "' > /dev/null 2>&1";
-    return std::system(command.c_str());
-}
-
-}  // namespace
 
 TEST_F(SaveOpenTest, SaveAsNamesTheWorkbookAfterTheFile) {
     book->SaveAs(PathOf("report.xlsx"));
