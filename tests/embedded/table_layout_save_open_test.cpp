@@ -97,6 +97,16 @@ protected:
         border->SetColorIndex(xlColorIndexAutomatic);
     }
 
+    // Saves, has both file checkers pass the file, and opens it again.
+    std::shared_ptr<Worksheet> SaveCheckedAndReopen(const std::string& name) {
+        const std::string path = PathOf(name);
+        book->SaveAs(path);
+        EXPECT_EQ(RunTool("validate-xlsx", path), 0);
+        EXPECT_EQ(RunTool("check-xlsx", path), 0);
+        book->Close();
+        return app->Workbooks()->Open(path)->Worksheets(1);
+    }
+
     // What either layout shows, in this sheet or in one read back from the file.
     static void ExpectLayout(const std::shared_ptr<Worksheet>& s) {
         EXPECT_EQ(s->Range("C1")->MergeArea()->Address(), "$A$1:$D$1");
@@ -127,30 +137,19 @@ protected:
 TEST_F(TableLayoutTest, TableWithIndexedColoursIsSavedValidAndReadBack) {
     LayOut(false);
     ExpectLayout(sheet);
-    const std::string path = PathOf("table.xlsx");
-    book->SaveAs(path);
-    EXPECT_EQ(RunTool("validate-xlsx", path), 0);
-    EXPECT_EQ(RunTool("check-xlsx", path), 0);
-    book->Close();
-    auto opened = app->Workbooks()->Open(path);
-    ExpectLayout(opened->Worksheets(1));
-    EXPECT_EQ(opened->Worksheets(1)->Range("A3:D4")->Interior()->ColorIndex(), Variant(15));
+    auto reopened = SaveCheckedAndReopen("table.xlsx");
+    ExpectLayout(reopened);
+    EXPECT_EQ(reopened->Range("A3:D4")->Interior()->ColorIndex(), Variant(15));
 }
 
 TEST_F(TableLayoutTest, TableWithThemeColoursIsSavedValidAndReadBack) {
     LayOut(true);
     ExpectLayout(sheet);
-    const std::string path = PathOf("themed_table.xlsx");
-    book->SaveAs(path);
-    EXPECT_EQ(RunTool("validate-xlsx", path), 0);
-    EXPECT_EQ(RunTool("check-xlsx", path), 0);
-    book->Close();
-    auto opened = app->Workbooks()->Open(path);
-    auto s = opened->Worksheets(1);
-    ExpectLayout(s);
-    EXPECT_EQ(s->Range("A3:D4")->Interior()->ThemeColor(), Variant(xlThemeColorAccent1));
-    EXPECT_NEAR(s->Range("A3:D4")->Interior()->TintAndShade().ToDouble(), 0.6, 1e-9);
-    auto inside = s->Range("B5:D10")->Borders(xlInsideHorizontal);
+    auto reopened = SaveCheckedAndReopen("themed_table.xlsx");
+    ExpectLayout(reopened);
+    EXPECT_EQ(reopened->Range("A3:D4")->Interior()->ThemeColor(), Variant(xlThemeColorAccent1));
+    EXPECT_NEAR(reopened->Range("A3:D4")->Interior()->TintAndShade().ToDouble(), 0.6, 1e-9);
+    auto inside = reopened->Range("B5:D10")->Borders(xlInsideHorizontal);
     EXPECT_EQ(inside->Weight(), Variant(xlHairline));
     EXPECT_EQ(inside->ThemeColor(), Variant(xlThemeColorDark1));
     EXPECT_NEAR(inside->TintAndShade().ToDouble(), -0.25, 1e-9);
