@@ -267,30 +267,40 @@ Variant BordersView::read(Project&& project) {
 namespace {
 
 // Where an edge's own side is unset and the stored cell outside shows the line, the edge starts
-// from that line, so changing only its colour keeps the style and weight it showed.
+// from that line, so changing only its colour keeps the style and weight it showed. A long edge
+// shows few distinct lines: each gets one memoised change.
 void AdoptTouchingLines(WorksheetModel& sheet, FormatTable& formats, const SidePart& own, const SidePart& outside) {
     struct Adopted {
         int32_t row;
         int32_t column;
-        ooxml::BorderLine line;
+        size_t line;
     };
+    std::vector<ooxml::BorderLine> lines;
     std::vector<Adopted> adopted;
     const int32_t rowStep = own.block.top - outside.block.top;
     const int32_t columnStep = own.block.left - outside.block.left;
     sheet.ForEachStoredCell(outside.block, [&](int32_t row, Cell& cell) {
         const ooxml::BorderLine& line = LineOf(formats.Get(cell.format).border, outside.side);
-        if (!line.style.empty()) {
-            adopted.push_back({row + rowStep, cell.column + columnStep, line});
+        if (line.style.empty()) {
+            return;
         }
+        auto found = std::find(lines.begin(), lines.end(), line);
+        if (found == lines.end()) {
+            found = lines.insert(lines.end(), line);
+        }
+        adopted.push_back({row + rowStep, cell.column + columnStep, static_cast<size_t>(found - lines.begin())});
     });
-    for (const Adopted& position : adopted) {
-        FormatChange adopt(formats, [&](ooxml::CellFormat& format) {
-            ooxml::BorderLine& line = LineOf(format.border, own.side);
-            if (line.style.empty()) {
-                line = position.line;
+    std::vector<FormatChange> adoptions;
+    for (const ooxml::BorderLine& line : lines) {
+        adoptions.emplace_back(formats, [&line, side = own.side](ooxml::CellFormat& format) {
+            ooxml::BorderLine& ownLine = LineOf(format.border, side);
+            if (ownLine.style.empty()) {
+                ownLine = line;
             }
         });
-        sheet.ApplyFormat({position.row, position.column, position.row, position.column}, adopt);
+    }
+    for (const Adopted& position : adopted) {
+        sheet.ApplyFormat({position.row, position.column, position.row, position.column}, adoptions[position.line]);
     }
 }
 
