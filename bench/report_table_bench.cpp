@@ -1,0 +1,137 @@
+// A large report table: 100,000 interior rows by 10 columns with two header rows, one header
+// column, a title and a subtitle, each interior column filled with one WriteDataToColumn, saved and
+// opened again. Built once plain and once with themes (themed tables draw inside lines over the
+// whole interior); each build runs in a child process of its own so that its peak memory is its
+// own. Prints the time of each step, the file size and the peak memory.
+//
+// Usage: report_table_bench [ROWS]   (default 100,000 interior rows)
+
+#include "measure.hpp"
+
+#include <excel/embedded.hpp>
+#include <vos/reporting.hpp>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr int32_t columnCount = 10;
+constexpr int32_t textColumn = 3;
+constexpr int32_t integerColumn = 6;
+
+// The values of one interior column: text in one column, 32-bit integers in another, doubles in
+// the rest.
+excel::Variant ColumnValues(int32_t column, int32_t rows) {
+    if (column == textColumn) {
+        std::vector<std::string> names;
+        names.reserve(static_cast<size_t>(rows));
+        for (int32_t row = 1; row <= rows; ++row)
+            names.push_back("Case " + std::to_string(row));
+        return excel::Variant(names);
+    }
+    if (column == integerColumn) {
+        excel::SafeArray counts(excel::VarType::Long, {excel::SafeArrayBound{0, static_cast<uint32_t>(rows)}});
+        for (int32_t row = 0; row < rows; ++row)
+            counts.Put(static_cast<uint32_t>(row), 0, excel::Variant(row * 7 % 1000));
+        return excel::Variant(std::move(counts));
+    }
+    std::vector<double> values(static_cast<size_t>(rows));
+    for (int32_t row = 0; row < rows; ++row)
+        values[static_cast<size_t>(row)] = row * 1.37 + column / 7.0;
+    return excel::Variant(values);
+}
+
+void BuildSaveAndOpen(const char* label, bool useThemes, int32_t rows, const std::filesystem::path& target) {
+    auto app = excel::embedded::CreateApplication();
+    double addSeconds = 0.0;
+    double headerSeconds = 0.0;
+    double dataSeconds = 0.0;
+    double saveSeconds = 0.0;
+    double peakBeforeSave = 0.0;
+    double peakAfterSave = 0.0;
+    {
+        // The report objects go with this block, so the closed workbook is gone before the open.
+        vos::VosExcelReporting reporting;
+        auto report = reporting.NewReportWorkbook(app, "BenchApp");
+        report->SetUseThemes(useThemes);
+        auto sheet = report->NewReportWorksheet("Table");
+
+        auto start = std::chrono::steady_clock::now();
+        auto table = sheet->AddTable(rows, columnCount, 2, 1, "Simulated results", "One row per case");
+        addSeconds = bench::SecondsSince(start);
+
+        start = std::chrono::steady_clock::now();
+        table->WriteHeaderSummary(vos::VosTopHeader, "Results by measure");
+        std::vector<std::string> captions;
+        for (int32_t column = 1; column < columnCount; ++column)
+            captions.push_back("Measure " + std::to_string(column));
+        table->WriteHeaderArray(vos::VosTopHeader, 1, excel::Variant(captions));
+        table->WriteHeaderItem(vos::VosTopHeader, columnCount, "Total");
+        table->WriteHeaderIndexNumbers(vos::VosLeftHeader);
+        headerSeconds = bench::SecondsSince(start);
+
+        // Only the writes are timed, not the making of the client's arrays.
+        for (int32_t column = 1; column <= columnCount; ++column) {
+            const excel::Variant values = ColumnValues(column, rows);
+            start = std::chrono::steady_clock::now();
+            table->WriteDataToColumn(column, values);
+            dataSeconds += bench::SecondsSince(start);
+        }
+        peakBeforeSave = bench::PeakResidentMebibytes();
+
+        start = std::chrono::steady_clock::now();
+        report->ExcelWorkbook()->SaveAs(target.string());
+        saveSeconds = bench::SecondsSince(start);
+        peakAfterSave = bench::PeakResidentMebibytes();
+        report->ExcelWorkbook()->Close();
+    }
+
+    const auto start = std::chrono::steady_clock::now();
+    auto reopened = app->Workbooks()->Open(target.string());
+    const double openSeconds = bench::SecondsSince(start);
+
+    std::printf("%s table:     %d x %d interior cells\n", label, rows, columnCount);
+    std::printf("%s add table: %.3f s\n", label, addSeconds);
+    std::printf("%s headers:   %.3f s\n", label, headerSeconds);
+    std::printf("%s data:      %.3f s\n", label, dataSeconds);
+    std::printf("%s save:      %.3f s\n", label, saveSeconds);
+    std::printf("%s open:      %.3f s (%d sheets)\n", label, openSeconds, reopened->Worksheets()->Count());
+    std::printf("%s file:      %s (%.1f MiB)\n", label, target.c_str(), bench::FileMebibytes(target));
+    std::printf("%s peak RSS:  %.1f MiB (%.1f MiB before the save, %.1f MiB after it)\n", label,
+                bench::PeakResidentMebibytes(), peakBeforeSave, peakAfterSave);
+}
+
+// Runs one build in a child process, so the peak memory it reports is that build's alone.
+bool RunInChild(const char* label, bool useThemes, int32_t rows, const std::filesystem::path& target) {
+    std::fflush(stdout);
+    const pid_t child = fork();
+    if (child < 0)
+        return false;
+    if (child == 0) {
+        BuildSaveAndOpen(label, useThemes, rows, target);
+        std::fflush(stdout);
+        std::_Exit(0);
+    }
+    int status = 0;
+    if (waitpid(child, &status, 0) != child)
+        return false;
+    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const int32_t rows = argc > 1 ? std::stoi(argv[1]) : 100000;
+    const auto directory = std::filesystem::temp_directory_path();
+    const bool plain = RunInChild("plain ", false, rows, directory / "report_table_bench_plain.xlsx");
+    const bool themed = RunInChild("themed", true, rows, directory / "report_table_bench_themed.xlsx");
+    return plain && themed ? 0 : 1;
+}
