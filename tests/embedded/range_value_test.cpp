@@ -229,3 +229,30 @@ TEST_F(EngineTest, VariantColumnArrayShorterThanTheColumnLeavesNotAvailable) {
     EXPECT_EQ(At("A2")->Value(), Variant(2.0));
     EXPECT_EQ(At("A3")->Value(), notAvailable);
 }
+
+// Cells left with no value and no format of their own are not kept, so a cleared block adds
+// nothing to the used range or the saved file.
+TEST_F(EngineTest, ClearedCellsAreNoLongerStored) {
+    At("A1:C3")->SetValue(1.0);
+    At("A1:C3")->Font()->SetBold(true);
+    At("A1:C3")->Clear();
+    At("E5")->SetValue(2.0);
+    EXPECT_EQ(sheet->UsedRange()->Address(), "$E$5");
+    At("B2:C2")->SetValue(3.0);
+    At("B2:C2")->ClearContents();
+    EXPECT_EQ(sheet->UsedRange()->Address(), "$E$5");
+    At("B2:C2")->SetValue(3.0);
+    At("C2")->Font()->SetItalic(true);
+    At("B2:C2")->ClearContents();
+    EXPECT_EQ(sheet->UsedRange()->Address(), "$C$2:$E$5");
+    EXPECT_EQ(At("C2")->Font()->Italic(), Variant(true));
+}
+
+TEST_F(EngineTest, ClearedCellsUnderARowFormatKeepShowingIt) {
+    sheet->Rows(2)->Interior()->SetColorIndex(6);
+    At("B2")->Interior()->SetColorIndex(3);
+    At("B2")->ClearFormats();
+    EXPECT_EQ(At("B2")->Interior()->ColorIndex(), Variant(xlColorIndexNone));
+    At("B2")->Interior()->SetColorIndex(6);
+    EXPECT_EQ(At("A2:C2")->Interior()->ColorIndex(), Variant(6));
+}

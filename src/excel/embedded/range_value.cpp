@@ -207,7 +207,7 @@ Variant RangeView::Text() {
 void RangeView::clearValues() {
     WorkbookModel& owner = book();
     for (const CellBlock& area : cells_.Areas()) {
-        cells_.Sheet()->ForEachStoredCell(area, [](int32_t, Cell& cell) { cell.ClearValue(); });
+        cells_.Sheet()->ClearValues(area);
     }
     owner.SetSaved(false);
 }

@@ -45,13 +45,10 @@ void WorksheetModel::ApplyFormat(const CellBlock& block, FormatChange& change) {
         for (size_t i = first; i < first + static_cast<size_t>(block.Rows()); ++i) {
             RowData& row = rows[i];
             row.UpdateRange(block.left, block.right, [&](int32_t column, const Cell* existing, Cell& result) {
-                if (existing) {
-                    result.format = change.Apply(existing->format);
-                    return true;
-                }
-                const uint32_t shown = row.hasFormat ? row.format : columns_.Get(column).format;
-                result.format = change.Apply(shown);
-                return result.format != shown;
+                const uint32_t underneath = row.hasFormat ? row.format : columns_.Get(column).format;
+                result.format = change.Apply(existing ? existing->format : underneath);
+                // A blank cell is kept only for a format its row or column does not give it.
+                return (existing && existing->HasValue()) || result.format != underneath;
             });
         }
     }
@@ -200,6 +197,20 @@ void WorksheetModel::WriteCells(const CellBlock& block,
             write(row.index, column, result);
             return true;
         });
+    }
+}
+
+void WorksheetModel::ClearValues(const CellBlock& block) {
+    const auto [first, last] = cells_.RowSpan(block.top, block.bottom);
+    auto& rows = cells_.Rows();
+    for (size_t i = first; i < last; ++i) {
+        RowData& row = rows[i];
+        const auto end = row.LowerBound(block.right + 1);
+        const auto kept = std::remove_if(row.LowerBound(block.left), end, [&](Cell& cell) {
+            cell.ClearValue();
+            return cell.format == (row.hasFormat ? row.format : columns_.Get(cell.column).format);
+        });
+        row.cells.erase(kept, end);
     }
 }
 

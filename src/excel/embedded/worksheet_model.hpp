@@ -67,6 +67,9 @@ public:
     // Visits every position of the block (creating cells) so write can set its content; the cell
     // comes with its stored content or blank with the format the position shows.
     void WriteCells(const CellBlock& block, const std::function<void(int32_t row, int32_t column, Cell& cell)>& write);
+    // Clears the values of the block; the cells left blank with the format of their row or column
+    // are no longer stored.
+    void ClearValues(const CellBlock& block);
     // Visits the stored cells of the block.
     void ForEachStoredCell(const CellBlock& block, const std::function<void(int32_t row, Cell& cell)>& visit);
 
