@@ -100,8 +100,8 @@ const ReportTexts kEnglish{
     .lossCorner = "Return period",
     .lossCaptions = {"Gross loss", "Net loss", "Recoveries", "Recovered"},
     .lossUnits = {"USD", "USD", "USD", "share of gross"},
-    .returnPeriods = {"2 years", "5 years", "10 years", "25 years", "50 years", "100 years", "200 years",
-                      "250 years", "500 years", "1,000 years"},
+    .returnPeriods = {"2 years", "5 years", "10 years", "25 years", "50 years", "100 years", "200 years", "250 years",
+                      "500 years", "1,000 years"},
     .exposureTitle = "Exposure and loss by region and line of business",
     .exposureSubtitle = "Run 1; amounts in USD, insured values in USD thousands",
     .regionCaption = "Region",
@@ -112,13 +112,16 @@ const ReportTexts kEnglish{
     .lines = {"Office", "Retail", "Industrial", "Hospitality"},
     .allRegions = "All regions",
     .allLines = "Total",
-    .notes = {{kGulfCoastHospitality, "Beachfront hotels hold 40% of the insured value and storm surge drives most "
-                                      "of the mean loss; review the deductibles at renewal."},
-              {kSoutheastIndustrial, "Two large warehouses hold a quarter of the value; their flood defences were "
-                                     "surveyed in March."},
+    .notes = {{kGulfCoastHospitality,
+               "Beachfront hotels hold 40% of the insured value and storm surge drives most "
+               "of the mean loss; review the deductibles at renewal."},
+              {kSoutheastIndustrial,
+               "Two large warehouses hold a quarter of the value; their flood defences were "
+               "surveyed in March."},
               {kMidwestRetail, "Severe convective storm only; hail losses are limited by the roof-age clause."},
-              {kPacificOffice, "Earthquake losses include fire following; older concrete frames carry a "
-                               "loading."}},
+              {kPacificOffice,
+               "Earthquake losses include fire following; older concrete frames carry a "
+               "loading."}},
     .reviewNote = {"Review", "Above the 25% loss-ratio appetite; storm surge is two thirds of the mean loss."},
     .definitionNote = {"Definition", "Mean annual loss divided by the written premium."},
     .sourceNote = {"Source", "Exposure as of 1 January; losses of run 1 (base)."},
@@ -128,35 +131,62 @@ const ReportTexts kEnglish{
 const ReportTexts kChinese{
     .language = 4,
     .sheetTitle = "\u5de8\u707e\u98ce\u9669\u5206\u6790",
-    .headerLines = {"\u6295\u8d44\u7ec4\u5408\t\u5317\u7f8e\u5546\u4e1a\u8d22\u4ea7", "\u6a21\u578b\tCatastrophe model 7.2", "\u6a21\u62df\t10,000 \u5e74",
-                    "\u65b9\u6848\t1 \u57fa\u51c6\uff0c2 \u9700\u6c42\u6fc0\u589e\uff0c3 \u98ce\u66b4\u6f6e\uff0c4 \u4e24\u8005\u517c\u6709"},
+    .headerLines = {"\u6295\u8d44\u7ec4\u5408\t\u5317\u7f8e\u5546\u4e1a\u8d22\u4ea7",
+                    "\u6a21\u578b\tCatastrophe model 7.2", "\u6a21\u62df\t10,000 \u5e74",
+                    "\u65b9\u6848\t1 \u57fa\u51c6\uff0c2 \u9700\u6c42\u6fc0\u589e\uff0c3 \u98ce\u66b4\u6f6e\uff0c4 "
+                    "\u4e24\u8005\u517c\u6709"},
     .statisticsCorner = "\u5e74\u5ea6\u6bdb\u635f\u5931\uff08\u7f8e\u5143\uff09",
     .runPrefix = "\u65b9\u6848 ",
-    .statistics = {"\u5e73\u5747\u5e74\u635f\u5931", "\u6807\u51c6\u5dee", "10 \u5e74\u4e00\u9047\u635f\u5931", "100 \u5e74\u4e00\u9047\u635f\u5931", "250 \u5e74\u4e00\u9047\u635f\u5931", "1,000 \u5e74\u4e00\u9047\u635f\u5931",
-                   "\u6700\u5927\u6a21\u62df\u635f\u5931"},
+    .statistics = {"\u5e73\u5747\u5e74\u635f\u5931", "\u6807\u51c6\u5dee", "10 \u5e74\u4e00\u9047\u635f\u5931",
+                   "100 \u5e74\u4e00\u9047\u635f\u5931", "250 \u5e74\u4e00\u9047\u635f\u5931",
+                   "1,000 \u5e74\u4e00\u9047\u635f\u5931", "\u6700\u5927\u6a21\u62df\u635f\u5931"},
     .lossTitle = "\u5404\u91cd\u73b0\u671f\u5355\u6b21\u4e8b\u4ef6\u635f\u5931",
-    .lossSubtitle = "\u65b9\u6848 1\uff0c\u5de8\u707e\u8d85\u8d54\u518d\u4fdd\u9669\uff08\u8d77\u8d54\u70b9 1.5 \u4ebf\u7f8e\u5143\uff0c\u9650\u989d 5 \u4ebf\u7f8e\u5143\uff09\u524d\u540e",
+    .lossSubtitle =
+        "\u65b9\u6848 1\uff0c\u5de8\u707e\u8d85\u8d54\u518d\u4fdd\u9669\uff08\u8d77\u8d54\u70b9 1.5 "
+        "\u4ebf\u7f8e\u5143\uff0c\u9650\u989d 5 \u4ebf\u7f8e\u5143\uff09\u524d\u540e",
     .lossSummary = "\u5e74\u5ea6\u6700\u5927\u635f\u5931\uff0c10,000 \u4e2a\u6a21\u62df\u5e74",
     .lossCorner = "\u91cd\u73b0\u671f",
     .lossCaptions = {"\u6bdb\u635f\u5931", "\u51c0\u635f\u5931", "\u644a\u56de", "\u644a\u56de\u6bd4\u4f8b"},
     .lossUnits = {"\u7f8e\u5143", "\u7f8e\u5143", "\u7f8e\u5143", "\u5360\u6bdb\u635f\u5931"},
-    .returnPeriods = {"2 \u5e74", "5 \u5e74", "10 \u5e74", "25 \u5e74", "50 \u5e74", "100 \u5e74", "200 \u5e74", "250 \u5e74", "500 \u5e74", "1,000 \u5e74"},
-    .exposureTitle = "\u6309\u5730\u533a\u548c\u4e1a\u52a1\u7ebf\u5212\u5206\u7684\u98ce\u9669\u66b4\u9732\u4e0e\u635f\u5931",
-    .exposureSubtitle = "\u65b9\u6848 1\uff1b\u91d1\u989d\u5355\u4f4d\u4e3a\u7f8e\u5143\uff0c\u4fdd\u9669\u4ef7\u503c\u5355\u4f4d\u4e3a\u5343\u7f8e\u5143",
+    .returnPeriods = {"2 \u5e74", "5 \u5e74", "10 \u5e74", "25 \u5e74", "50 \u5e74", "100 \u5e74", "200 \u5e74",
+                      "250 \u5e74", "500 \u5e74", "1,000 \u5e74"},
+    .exposureTitle =
+        "\u6309\u5730\u533a\u548c\u4e1a\u52a1\u7ebf\u5212\u5206\u7684\u98ce\u9669\u66b4\u9732\u4e0e\u635f\u5931",
+    .exposureSubtitle =
+        "\u65b9\u6848 "
+        "1\uff1b\u91d1\u989d\u5355\u4f4d\u4e3a\u7f8e\u5143\uff0c\u4fdd\u9669\u4ef7\u503c\u5355\u4f4d\u4e3a\u5343\u7f8e"
+        "\u5143",
     .regionCaption = "\u5730\u533a",
     .lineCaption = "\u4e1a\u52a1\u7ebf",
-    .exposureCaptions = {"\u4fdd\u5355\u6570", "\u4fdd\u9669\u4ef7\u503c", "\u5e73\u5747\u5e74\u635f\u5931", "\u635f\u5931\u7387", "\u6bcf\u5f20\u4fdd\u5355\u4fdd\u8d39", "\u6838\u4fdd\u8bf4\u660e"},
-    .regions = {"\u4e1c\u5317\u90e8", "\u4e1c\u5357\u90e8", "\u58a8\u897f\u54e5\u6e7e\u6cbf\u5cb8", "\u4e2d\u897f\u90e8", "\u5c71\u5730", "\u592a\u5e73\u6d0b\u6cbf\u5cb8"},
+    .exposureCaptions = {"\u4fdd\u5355\u6570", "\u4fdd\u9669\u4ef7\u503c", "\u5e73\u5747\u5e74\u635f\u5931",
+                         "\u635f\u5931\u7387", "\u6bcf\u5f20\u4fdd\u5355\u4fdd\u8d39", "\u6838\u4fdd\u8bf4\u660e"},
+    .regions = {"\u4e1c\u5317\u90e8", "\u4e1c\u5357\u90e8", "\u58a8\u897f\u54e5\u6e7e\u6cbf\u5cb8",
+                "\u4e2d\u897f\u90e8", "\u5c71\u5730", "\u592a\u5e73\u6d0b\u6cbf\u5cb8"},
     .lines = {"\u529e\u516c", "\u96f6\u552e", "\u5de5\u4e1a", "\u9152\u5e97"},
     .allRegions = "\u6240\u6709\u5730\u533a",
     .allLines = "\u5408\u8ba1",
-    .notes = {{kGulfCoastHospitality, "\u6d77\u6ee8\u9152\u5e97\u5360\u4fdd\u9669\u4ef7\u503c\u7684 40%\uff0c\u98ce\u66b4\u6f6e\u9020\u6210\u4e86\u5927\u90e8\u5206\u5e73\u5747\u635f\u5931\uff1b\u7eed\u4fdd\u65f6\u9700\u590d\u6838\u514d\u8d54\u989d\u3002"},
-              {kSoutheastIndustrial, "\u4e24\u5ea7\u5927\u578b\u4ed3\u5e93\u5360\u4ef7\u503c\u7684\u56db\u5206\u4e4b\u4e00\uff1b\u5176\u9632\u6d2a\u8bbe\u65bd\u5df2\u4e8e\u4e09\u6708\u52d8\u5bdf\u3002"},
-              {kMidwestRetail, "\u4ec5\u542b\u5f3a\u5bf9\u6d41\u98ce\u66b4\uff1b\u51b0\u96f9\u635f\u5931\u53d7\u5c4b\u9876\u5e74\u9650\u6761\u6b3e\u9650\u5236\u3002"},
-              {kPacificOffice, "\u5730\u9707\u635f\u5931\u5305\u62ec\u9707\u540e\u706b\u707e\uff1b\u8f83\u65e7\u7684\u6df7\u51dd\u571f\u6846\u67b6\u5efa\u7b51\u6709\u9644\u52a0\u8d39\u7387\u3002"}},
-    .reviewNote = {"\u590d\u6838", "\u635f\u5931\u7387\u9ad8\u4e8e 25% \u7684\u98ce\u9669\u504f\u597d\uff1b\u98ce\u66b4\u6f6e\u5360\u5e73\u5747\u635f\u5931\u7684\u4e09\u5206\u4e4b\u4e8c\u3002"},
+    .notes = {{kGulfCoastHospitality,
+               "\u6d77\u6ee8\u9152\u5e97\u5360\u4fdd\u9669\u4ef7\u503c\u7684 "
+               "40%"
+               "\uff0c\u98ce\u66b4\u6f6e\u9020\u6210\u4e86\u5927\u90e8\u5206\u5e73\u5747\u635f\u5931\uff1b\u7eed\u4fdd"
+               "\u65f6\u9700\u590d\u6838\u514d\u8d54\u989d\u3002"},
+              {kSoutheastIndustrial,
+               "\u4e24\u5ea7\u5927\u578b\u4ed3\u5e93\u5360\u4ef7\u503c\u7684\u56db\u5206\u4e4b\u4e00\uff1b\u5176\u9632"
+               "\u6d2a\u8bbe\u65bd\u5df2\u4e8e\u4e09\u6708\u52d8\u5bdf\u3002"},
+              {kMidwestRetail,
+               "\u4ec5\u542b\u5f3a\u5bf9\u6d41\u98ce\u66b4\uff1b\u51b0\u96f9\u635f\u5931\u53d7\u5c4b\u9876\u5e74\u9650"
+               "\u6761\u6b3e\u9650\u5236\u3002"},
+              {kPacificOffice,
+               "\u5730\u9707\u635f\u5931\u5305\u62ec\u9707\u540e\u706b\u707e\uff1b\u8f83\u65e7\u7684\u6df7\u51dd\u571f"
+               "\u6846\u67b6\u5efa\u7b51\u6709\u9644\u52a0\u8d39\u7387\u3002"}},
+    .reviewNote = {"\u590d\u6838",
+                   "\u635f\u5931\u7387\u9ad8\u4e8e 25% "
+                   "\u7684\u98ce\u9669\u504f\u597d\uff1b\u98ce\u66b4\u6f6e\u5360\u5e73\u5747\u635f\u5931\u7684\u4e09"
+                   "\u5206\u4e4b\u4e8c\u3002"},
     .definitionNote = {"\u5b9a\u4e49", "\u5e73\u5747\u5e74\u635f\u5931\u9664\u4ee5\u5df2\u7b7e\u4fdd\u8d39\u3002"},
-    .sourceNote = {"\u6765\u6e90", "\u98ce\u9669\u66b4\u9732\u622a\u81f3 1 \u6708 1 \u65e5\uff1b\u635f\u5931\u6765\u81ea\u65b9\u6848 1\uff08\u57fa\u51c6\uff09\u3002"},
+    .sourceNote = {"\u6765\u6e90",
+                   "\u98ce\u9669\u66b4\u9732\u622a\u81f3 1 \u6708 1 \u65e5\uff1b\u635f\u5931\u6765\u81ea\u65b9\u6848 "
+                   "1\uff08\u57fa\u51c6\uff09\u3002"},
     .widthScale = 1.25,
 };
 
@@ -288,8 +318,7 @@ std::shared_ptr<vos::VosExcelTable> AddReturnPeriodTable(vos::VosExcelReportWork
     table->WriteHeaderSummary(vos::VosTopHeader, texts.lossSummary);
     for (int32_t column = 1; column <= 4; ++column) {
         const auto caption = static_cast<size_t>(column - 1);
-        table->WriteHeaderPairedItem(vos::VosTopHeader, column, texts.lossCaptions[caption],
-                                     texts.lossUnits[caption]);
+        table->WriteHeaderPairedItem(vos::VosTopHeader, column, texts.lossCaptions[caption], texts.lossUnits[caption]);
     }
     table->SignatureRange()->Cells(3, 1)->SetValue(texts.lossCorner);
     table->WriteHeaderArray(vos::VosLeftHeader, 1, excel::Variant(texts.returnPeriods));

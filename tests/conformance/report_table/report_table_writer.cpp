@@ -11,6 +11,7 @@
 #include <vos/reporting.hpp>
 
 #include <filesystem>
+#include <initializer_list>
 #include <string>
 #include <utility>
 #include <vector>
@@ -104,8 +105,8 @@ struct TitledTableTexts {
     std::string commentText;
 };
 
-const TitledTableTexts kEnglishTexts{"Themed title", "Themed subtitle", "Loss", "USD", "Count",
-                                     {"One", "Two"}, "Reviewer", "Checked."};
+const TitledTableTexts kEnglishTexts{"Themed title", "Themed subtitle", "Loss",     "USD",
+                                     "Count",        {"One", "Two"},    "Reviewer", "Checked."};
 const TitledTableTexts kChineseTexts{"\u635f\u5931\u6c47\u603b",
                                      "\u6309\u5e74\u4efd",
                                      "\u635f\u5931",
@@ -168,6 +169,12 @@ public:
         Expect(found == expected, address + " value '" + expected + "', found '" + found + "'");
     }
 
+    // Values by address, as text.
+    void Values(std::initializer_list<std::pair<const char*, const char*>> expected) {
+        for (const auto& [address, value] : expected)
+            Value(address, value);
+    }
+
     void Merged(const std::string& address, const std::string& area) {
         const std::string found = Cell(address)->MergeArea()->Address(false, false);
         Expect(found == area, address + " merged over " + area + ", found " + found);
@@ -184,6 +191,18 @@ public:
                address + " font " + std::to_string(size) + (bold ? " bold" : " regular"));
     }
 
+    struct EdgeAt {
+        const char* address;
+        int32_t edge;
+        int32_t weight;
+    };
+
+    // Lines of one colour.
+    void Edges(std::initializer_list<EdgeAt> edges, int32_t colorIndex) {
+        for (const auto& [address, edge, weight] : edges)
+            Edge(address, edge, weight, colorIndex);
+    }
+
     void Edge(const std::string& address, int32_t edge, int32_t weight, int32_t colorIndex) {
         const auto border = Cell(address)->Borders(edge);
         Expect(border->LineStyle().ToInt() != excel::xlLineStyleNone && border->Weight().ToInt() == weight &&
@@ -195,8 +214,8 @@ public:
 
     void Fill(const std::string& address, int32_t colorIndex) {
         const std::string found = Cell(address)->Interior()->ColorIndex().ToString();
-        Expect(found == std::to_string(colorIndex), address + " fill index " + std::to_string(colorIndex) +
-                                                        ", found " + found);
+        Expect(found == std::to_string(colorIndex),
+               address + " fill index " + std::to_string(colorIndex) + ", found " + found);
     }
 
     void Comment(const std::string& address, const std::string& text) {
@@ -214,28 +233,44 @@ private:
 };
 
 void CheckTableWithoutTitles(SheetExpectations& cells) {
-    for (const auto& [address, value] : {std::pair{"B1", "#1"}, {"C1", "#2"}, {"D1", "Notes"}, {"A2", "North"},
-                                         {"A4", "West"}, {"B2", "1"}, {"C3", "0.5"}, {"D2", "first note"}})
-        cells.Value(address, value);
+    cells.Values({{"B1", "#1"},
+                  {"C1", "#2"},
+                  {"D1", "Notes"},
+                  {"A2", "North"},
+                  {"A4", "West"},
+                  {"B2", "1"},
+                  {"C3", "0.5"},
+                  {"D2", "first note"}});
     cells.NumberFormat("B2", "#,##0");
     cells.NumberFormat("C4", "0.0%");
     cells.NumberFormat("D2", "General");
-    cells.Edge("A1", excel::xlEdgeTop, excel::xlMedium, excel::xlColorIndexAutomatic);
-    cells.Edge("D4", excel::xlEdgeRight, excel::xlMedium, excel::xlColorIndexAutomatic);
-    cells.Edge("A1", excel::xlEdgeBottom, excel::xlThin, excel::xlColorIndexAutomatic);
-    cells.Edge("C1", excel::xlEdgeBottom, excel::xlThin, excel::xlColorIndexAutomatic);
-    cells.Edge("A3", excel::xlEdgeRight, excel::xlThin, excel::xlColorIndexAutomatic);
+    cells.Edges({{"A1", excel::xlEdgeTop, excel::xlMedium},
+                 {"D4", excel::xlEdgeRight, excel::xlMedium},
+                 {"A1", excel::xlEdgeBottom, excel::xlThin},
+                 {"C1", excel::xlEdgeBottom, excel::xlThin},
+                 {"A3", excel::xlEdgeRight, excel::xlThin}},
+                excel::xlColorIndexAutomatic);
     cells.Font("B1", 8, true);
     cells.Font("A2", 8, true);
     cells.Font("B2", 8, false);
 }
 
 void CheckTableWithSummary(SheetExpectations& cells) {
-    for (const auto& [address, value] :
-         {std::pair{"A6", "Loss summary"}, {"A7", "Two years, in USD"}, {"B8", "Modelled losses"}, {"B9", "Loss"},
-          {"B10", "USD"}, {"C9", "Gain"}, {"C10", "EUR"}, {"D10", "Count"}, {"E10", "Local"}, {"A10", "Year"},
-          {"A11", "2024"}, {"B11", "1234567.5"}, {"C12", "0.5"}, {"D11", "3"}, {"E12", "99.75"}})
-        cells.Value(address, value);
+    cells.Values({{"A6", "Loss summary"},
+                  {"A7", "Two years, in USD"},
+                  {"B8", "Modelled losses"},
+                  {"B9", "Loss"},
+                  {"B10", "USD"},
+                  {"C9", "Gain"},
+                  {"C10", "EUR"},
+                  {"D10", "Count"},
+                  {"E10", "Local"},
+                  {"A10", "Year"},
+                  {"A11", "2024"},
+                  {"B11", "1234567.5"},
+                  {"C12", "0.5"},
+                  {"D11", "3"},
+                  {"E12", "99.75"}});
     cells.Merged("A6", "A6:E6");
     cells.Merged("A7", "A7:E7");
     cells.Merged("B8", "B8:E8");
@@ -243,22 +278,30 @@ void CheckTableWithSummary(SheetExpectations& cells) {
     cells.NumberFormat("C11", "0.0%");
     cells.NumberFormat("E11", "#,##0.00");
     cells.Fill("A6", kSilverIndex);
-    cells.Edge("A7", excel::xlEdgeBottom, excel::xlMedium, excel::xlColorIndexAutomatic);
-    cells.Edge("A10", excel::xlEdgeBottom, excel::xlThin, excel::xlColorIndexAutomatic);
-    cells.Edge("A11", excel::xlEdgeBottom, excel::xlThin, kSilverIndex);
-    cells.Edge("E11", excel::xlEdgeBottom, excel::xlThin, kSilverIndex);
-    cells.Edge("C9", excel::xlEdgeRight, excel::xlThin, kSilverIndex);
-    cells.Edge("C12", excel::xlEdgeRight, excel::xlThin, kSilverIndex);
+    cells.Edges({{"A7", excel::xlEdgeBottom, excel::xlMedium}, {"A10", excel::xlEdgeBottom, excel::xlThin}},
+                excel::xlColorIndexAutomatic);
+    cells.Edges({{"A11", excel::xlEdgeBottom, excel::xlThin},
+                 {"E11", excel::xlEdgeBottom, excel::xlThin},
+                 {"C9", excel::xlEdgeRight, excel::xlThin},
+                 {"C12", excel::xlEdgeRight, excel::xlThin}},
+                kSilverIndex);
     cells.Font("A6", 10, true);
     cells.Font("A7", 8, false);
 }
 
 void CheckTableWithComments(SheetExpectations& cells) {
-    for (const auto& [address, value] :
-         {std::pair{"A14", "Merged and paired"}, {"C15", "Merged"}, {"D15", "Upper"}, {"D16", "Lower"},
-          {"E16", "Item"}, {"A17", "Group"}, {"B17", "Row 1"}, {"B18", "Row 2"}, {"C18", "y"}, {"D17", "5"},
-          {"E17", ""}, {"E18", "7"}})
-        cells.Value(address, value);
+    cells.Values({{"A14", "Merged and paired"},
+                  {"C15", "Merged"},
+                  {"D15", "Upper"},
+                  {"D16", "Lower"},
+                  {"E16", "Item"},
+                  {"A17", "Group"},
+                  {"B17", "Row 1"},
+                  {"B18", "Row 2"},
+                  {"C18", "y"},
+                  {"D17", "5"},
+                  {"E17", ""},
+                  {"E18", "7"}});
     cells.Merged("A14", "A14:E14");
     cells.Merged("C15", "C15:C16");
     cells.Comment("C17", "Reviewer\nInterior note.");
@@ -269,11 +312,8 @@ void CheckTableWithComments(SheetExpectations& cells) {
 }
 
 void CheckTableWithSubtitleOnly(SheetExpectations& cells) {
-    cells.Value("A20", "");
+    cells.Values({{"A20", ""}, {"A21", "Subtitle only"}, {"B21", "Second"}, {"A22", "42"}});
     cells.Merged("A20", "A20:B20");
-    cells.Value("A21", "Subtitle only");
-    cells.Value("B21", "Second");
-    cells.Value("A22", "42");
     cells.Font("A20", 10, true);
 }
 
