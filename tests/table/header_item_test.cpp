@@ -1,5 +1,7 @@
 #include "table/header_expectations.hpp"
 
+namespace {
+
 // Signature A1:B2, top header C1:F2, left header A3:B5, interior C3:F5.
 class HeaderItemTest : public HeaderTest {
 protected:
@@ -8,6 +10,8 @@ protected:
         Place(3, 4, 2, 2);
     }
 };
+
+}  // namespace
 
 TEST_F(HeaderItemTest, ATopHeaderItemGoesIntoTheInnermostRow) {
     table->WriteHeaderItem(VosTopHeader, 2, "Revenue");

@@ -69,3 +69,12 @@ TEST_F(HeaderMergedItemTest, APositionOutsideTheTopHeaderIsRefused) {
     ExpectRefused([&] { table->WriteHeaderMergedItem(VosTopHeader, 0, "x"); }, OutOfRange, "position");
     ExpectRefused([&] { table->WriteHeaderMergedItem(VosTopHeader, 5, "x"); }, OutOfRange, "position");
 }
+
+// The summary's merged row would be cut by the item's column; the spreadsheet refuses to clear
+// part of a merged block, and that refusal reaches the caller before anything is written.
+TEST_F(HeaderMergedItemTest, UnderASummaryTheSpreadsheetRefusesTheItem) {
+    Place(2, 4, 3, 1);
+    table->WriteHeaderSummary(VosTopHeader, "All");
+    ExpectRefused([&] { table->WriteHeaderMergedItem(VosTopHeader, 2, "x"); }, static_cast<int32_t>(0x800A03EC),
+                  "We can't do that to a merged cell.");
+}
