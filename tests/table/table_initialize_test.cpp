@@ -10,8 +10,8 @@ TEST_F(TableInitializeTest, AMissingTableRangeIsRefusedBeforeAnythingIsTouched) 
     ExpectRefusedLeaving(
         At("A1:E5"),
         [&] {
-            table->InitializeTable(std::dynamic_pointer_cast<vos::ReportWorkbook>(report), nullptr, 1, 1, "Main",
-                                   "Sub", 9);
+            table->InitializeTable(std::dynamic_pointer_cast<vos::ReportWorkbook>(report), nullptr, 1, 1, "Main", "Sub",
+                                   9);
         },
         vos::error_code::MissingObject, "TableRange");
     EXPECT_EQ(table->TableRange(), nullptr);
@@ -82,11 +82,8 @@ TEST_F(TableInitializeTest, ATitleThatLooksLikeADateStaysText) {
 
 TEST_F(TableInitializeTest, ASubtitleAloneLandsInTheFirstHeaderRowBelowAnEmptyTitleRow) {
     const auto table = AddTableAt("B2", 2, 2, 1, 1, "", "Sub");
-    const auto titleRow = table->TitleRange();
     EXPECT_TRUE(At("B2")->Value().IsEmpty());
-    EXPECT_EQ(AddressOf(At("B2")->MergeArea()), "B2:D2");
-    EXPECT_TRUE(titleRow->Font()->Bold().ToBool());
-    EXPECT_EQ(titleRow->Font()->Size().ToDouble(), 10.0);
+    ExpectTitleRow(At("B2"), "B2:D2", 10.0, true, "");
     EXPECT_EQ(AddressOf(table->SignatureRange()), "B3");
     EXPECT_EQ(table->SignatureRange()->Value().ToString(), "Sub");
 }
@@ -100,7 +97,6 @@ TEST_F(TableInitializeTest, ASubtitleAloneLandsInTheFirstInteriorRowWithoutHeade
 
 TEST_F(TableInitializeTest, TheLanguageGivenChoosesTheFontSizes) {
     const auto table = std::make_shared<vos::ReportTable>();
-    table->InitializeTable(std::dynamic_pointer_cast<vos::ReportWorkbook>(report), At("B2:E7"), 1, 1, "Main", "Sub",
-                           4);
+    table->InitializeTable(std::dynamic_pointer_cast<vos::ReportWorkbook>(report), At("B2:E7"), 1, 1, "Main", "Sub", 4);
     ExpectFontSizes(*table, 12.0, 10.0);
 }

@@ -63,12 +63,11 @@ inline std::string ColourState(const std::shared_ptr<excel::Range>& cell) {
 inline std::string CellState(const std::shared_ptr<excel::Range>& cell) {
     std::ostringstream state;
     state << cell->Address(false, false) << ": value " << Shown([&] { return cell->Formula(); }) << " format "
-          << Shown([&] { return cell->NumberFormat(); }) << " merged "
-          << cell->MergeArea()->Address(false, false) << " align "
-          << Shown([&] { return cell->HorizontalAlignment(); }) << '/'
-          << Shown([&] { return cell->VerticalAlignment(); }) << " size "
-          << Shown([&] { return cell->Font()->Size(); }) << " bold " << Shown([&] { return cell->Font()->Bold(); })
-          << " comment " << (cell->Comment() ? "yes" : "no") << ' ' << ColourState(cell);
+          << Shown([&] { return cell->NumberFormat(); }) << " merged " << cell->MergeArea()->Address(false, false)
+          << " align " << Shown([&] { return cell->HorizontalAlignment(); }) << '/'
+          << Shown([&] { return cell->VerticalAlignment(); }) << " size " << Shown([&] { return cell->Font()->Size(); })
+          << " bold " << Shown([&] { return cell->Font()->Bold(); }) << " comment " << (cell->Comment() ? "yes" : "no")
+          << ' ' << ColourState(cell);
     return state.str();
 }
 
@@ -91,7 +90,8 @@ class TableLayoutTest : public TableTest {
 protected:
     std::shared_ptr<vos::VosExcelTable> AddTableAt(const std::string& cursor, int32_t interiorRows,
                                                    int32_t interiorColumns, int16_t headerRows, int16_t headerColumns,
-                                                   const std::string& mainTitle = "", const std::string& subTitle = "") {
+                                                   const std::string& mainTitle = "",
+                                                   const std::string& subTitle = "") {
         sheet->SetCurrentCell(At(cursor));
         return sheet->AddTable(interiorRows, interiorColumns, headerRows, headerColumns, mainTitle, subTitle);
     }
@@ -104,8 +104,8 @@ protected:
                                                       int16_t headerColumns, const std::string& mainTitle = "",
                                                       const std::string& subTitle = "") {
         auto table = std::make_shared<vos::ReportTable>();
-        table->InitializeTable(std::dynamic_pointer_cast<vos::ReportWorkbook>(report), block, headerRows,
-                               headerColumns, mainTitle, subTitle, sheet->DefaultLanguage());
+        table->InitializeTable(std::dynamic_pointer_cast<vos::ReportWorkbook>(report), block, headerRows, headerColumns,
+                               mainTitle, subTitle, sheet->DefaultLanguage());
         return table;
     }
 
@@ -135,6 +135,24 @@ protected:
         range->Cells(1, 1)->AddComment(excel::Variant("old note"));
     }
 };
+
+// A merged title row: the merge it belongs to, its font and its text.
+inline void ExpectTitleRow(const std::shared_ptr<excel::Range>& firstCell, const std::string& mergeArea, double size,
+                           bool bold, const std::string& text) {
+    EXPECT_EQ(firstCell->MergeArea()->Address(false, false), mergeArea);
+    EXPECT_EQ(firstCell->Font()->Size().ToDouble(), size);
+    EXPECT_EQ(firstCell->Font()->Bold().ToBool(), bold);
+    EXPECT_EQ(firstCell->Value().ToString(), text);
+}
+
+// How a part's text is set: its alignments, size and weight.
+inline void ExpectTextSetting(const std::shared_ptr<excel::Range>& part, int32_t horizontal, int32_t vertical,
+                              double size, bool bold) {
+    EXPECT_EQ(part->HorizontalAlignment().ToInt(), horizontal);
+    EXPECT_EQ(part->VerticalAlignment().ToInt(), vertical);
+    EXPECT_EQ(part->Font()->Size().ToDouble(), size);
+    EXPECT_EQ(part->Font()->Bold().ToBool(), bold);
+}
 
 // The title rows in the large size, the first bold and the second plain; every other part small.
 inline void ExpectFontSizes(vos::VosExcelTable& table, double large, double small) {

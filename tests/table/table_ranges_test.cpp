@@ -4,41 +4,58 @@
 
 using TableRangesTest = TableLayoutTest;
 
-TEST_F(TableRangesTest, WithoutTitlesTheHeadersStartOnTheFirstRow) {
-    const auto table = AddTableAt("B2", 3, 2, 1, 1);
-    EXPECT_EQ(AddressOf(table->TableRange()), "B2:D5");
-    EXPECT_EQ(LayoutOf(*table), (TableLayout{"none", "B2", "B3:B5", "C2:D2", "C3:D5"}));
+namespace {
+
+// A table placed at B2 and the block and ranges it gets.
+struct TableShape {
+    const char* name;
+    int32_t interiorRows;
+    int32_t interiorColumns;
+    int16_t headerRows;
+    int16_t headerColumns;
+    const char* mainTitle;
+    const char* subTitle;
+    const char* block;
+    TableLayout layout;
+};
+
+void PrintTo(const TableShape& shape, std::ostream* out) {
+    *out << shape.name;
 }
 
-TEST_F(TableRangesTest, AMainTitleTakesOneRowAcrossTheWholeWidth) {
-    const auto table = AddTableAt("B2", 3, 2, 2, 2, "Main");
-    EXPECT_EQ(AddressOf(table->TableRange()), "B2:E7");
-    EXPECT_EQ(LayoutOf(*table), (TableLayout{"B2:E2", "B3:C4", "B5:C7", "D3:E4", "D5:E7"}));
+const TableShape Shapes[] = {
+    {"WithoutTitles", 3, 2, 1, 1, "", "", "B2:D5", {"none", "B2", "B3:B5", "C2:D2", "C3:D5"}},
+    {"WithAMainTitle", 3, 2, 2, 2, "Main", "", "B2:E7", {"B2:E2", "B3:C4", "B5:C7", "D3:E4", "D5:E7"}},
+    {"WithBothTitles", 2, 3, 1, 1, "Main", "Sub", "B2:E6", {"B2:E3", "B4", "B5:B6", "C4:E4", "C5:E6"}},
+    {"WithASubtitleAlone", 2, 2, 1, 1, "", "Sub", "B2:D5", {"B2:D2", "B3", "B4:B5", "C3:D3", "C4:D5"}},
+    {"WithoutHeaderColumns", 2, 3, 2, 0, "Main", "", "B2:D6", {"B2:D2", "none", "none", "B3:D4", "B5:D6"}},
+    {"WithFiveHeaderRowsAndColumns", 1, 1, 5, 5, "", "", "B2:G7", {"none", "B2:F6", "B7:F7", "G2:G6", "G7"}},
+};
+
+// The addresses of the range's areas in order.
+std::vector<std::string> AreaAddresses(const std::shared_ptr<excel::Range>& range) {
+    std::vector<std::string> addresses;
+    for (int32_t area = 1; area <= range->Areas()->Count(); ++area)
+        addresses.push_back(range->Areas()->Item(area)->Address(false, false));
+    return addresses;
 }
 
-TEST_F(TableRangesTest, AMainTitleAndASubtitleTakeTwoRows) {
-    const auto table = AddTableAt("B2", 2, 3, 1, 1, "Main", "Sub");
-    EXPECT_EQ(AddressOf(table->TableRange()), "B2:E6");
-    EXPECT_EQ(LayoutOf(*table), (TableLayout{"B2:E3", "B4", "B5:B6", "C4:E4", "C5:E6"}));
+class TableGeometryTest : public TableLayoutTest, public ::testing::WithParamInterface<TableShape> {};
+
+}  // namespace
+
+TEST_P(TableGeometryTest, TheBlockDividesIntoTitleSignatureHeadersAndInterior) {
+    const TableShape& shape = GetParam();
+    const auto table = AddTableAt("B2", shape.interiorRows, shape.interiorColumns, shape.headerRows,
+                                  shape.headerColumns, shape.mainTitle, shape.subTitle);
+    EXPECT_EQ(AddressOf(table->TableRange()), shape.block);
+    EXPECT_EQ(LayoutOf(*table), shape.layout);
 }
 
-TEST_F(TableRangesTest, ASubtitleAloneTakesOneTitleRow) {
-    const auto table = AddTableAt("B2", 2, 2, 1, 1, "", "Sub");
-    EXPECT_EQ(AddressOf(table->TableRange()), "B2:D5");
-    EXPECT_EQ(LayoutOf(*table), (TableLayout{"B2:D2", "B3", "B4:B5", "C3:D3", "C4:D5"}));
-}
-
-TEST_F(TableRangesTest, WithoutHeaderColumnsThereIsNoSignatureOrLeftHeader) {
-    const auto table = AddTableAt("B2", 2, 3, 2, 0, "Main");
-    EXPECT_EQ(AddressOf(table->TableRange()), "B2:D6");
-    EXPECT_EQ(LayoutOf(*table), (TableLayout{"B2:D2", "none", "none", "B3:D4", "B5:D6"}));
-}
-
-TEST_F(TableRangesTest, FiveHeaderRowsAndColumnsSurroundAOneCellInterior) {
-    const auto table = AddTableAt("B2", 1, 1, 5, 5);
-    EXPECT_EQ(AddressOf(table->TableRange()), "B2:G7");
-    EXPECT_EQ(LayoutOf(*table), (TableLayout{"none", "B2:F6", "B7:F7", "G2:G6", "G7"}));
-}
+INSTANTIATE_TEST_SUITE_P(Shapes, TableGeometryTest, ::testing::ValuesIn(Shapes),
+                         [](const ::testing::TestParamInfo<TableShape>& testCase) {
+                             return std::string(testCase.param.name);
+                         });
 
 TEST_F(TableRangesTest, TheAnchorCellIsTheTopLeftCellOfTheWholeBlock) {
     const auto table = AddTableAt("C4", 2, 2, 1, 1, "Main", "Sub");
@@ -47,43 +64,29 @@ TEST_F(TableRangesTest, TheAnchorCellIsTheTopLeftCellOfTheWholeBlock) {
     EXPECT_TRUE(excel::IsSameObject(table->TableRange()->Worksheet(), excelSheet));
 }
 
-TEST_F(TableRangesTest, TheExtendedTopHeaderIsTheTopHeaderJoinedByTheSignature) {
+TEST_F(TableRangesTest, TheExtendedHeadersAreTheHeadersJoinedByTheSignatureInThatOrder) {
     const auto table = AddTableAt("B2", 3, 2, 2, 2, "Main");
-    const auto extended = table->TopHeaderRange(true);
-    ASSERT_EQ(extended->Areas()->Count(), 2);
-    EXPECT_EQ(AddressOf(extended->Areas()->Item(1)), "D3:E4");
-    EXPECT_EQ(AddressOf(extended->Areas()->Item(2)), "B3:C4");
-    EXPECT_EQ(AddressOf(extended), "D3:E4,B3:C4");
-}
-
-TEST_F(TableRangesTest, TheExtendedLeftHeaderIsTheLeftHeaderJoinedByTheSignature) {
-    const auto table = AddTableAt("B2", 3, 2, 2, 2, "Main");
-    const auto extended = table->LeftHeaderRange(true);
-    ASSERT_EQ(extended->Areas()->Count(), 2);
-    EXPECT_EQ(AddressOf(extended->Areas()->Item(1)), "B5:C7");
-    EXPECT_EQ(AddressOf(extended->Areas()->Item(2)), "B3:C4");
+    EXPECT_EQ(AreaAddresses(table->TopHeaderRange(true)), (std::vector<std::string>{"D3:E4", "B3:C4"}));
+    EXPECT_EQ(AreaAddresses(table->LeftHeaderRange(true)), (std::vector<std::string>{"B5:C7", "B3:C4"}));
+    EXPECT_EQ(AddressOf(table->TopHeaderRange(true)), "D3:E4,B3:C4");
 }
 
 TEST_F(TableRangesTest, WithoutTheFlagTheHeadersComeAlone) {
     const auto table = AddTableAt("B2", 3, 2, 2, 2, "Main");
-    EXPECT_EQ(table->TopHeaderRange(false)->Areas()->Count(), 1);
-    EXPECT_EQ(table->LeftHeaderRange(false)->Areas()->Count(), 1);
+    EXPECT_EQ(AreaAddresses(table->TopHeaderRange(false)), std::vector<std::string>{"D3:E4"});
+    EXPECT_EQ(AreaAddresses(table->LeftHeaderRange(false)), std::vector<std::string>{"B5:C7"});
 }
 
 TEST_F(TableRangesTest, WithoutHeaderColumnsTheExtendedTopHeaderIsThePlainOne) {
     const auto table = AddTableAt("B2", 2, 3, 2, 0);
-    const auto extended = table->TopHeaderRange(true);
-    EXPECT_EQ(extended->Areas()->Count(), 1);
-    EXPECT_EQ(AddressOf(extended), "B2:D3");
+    EXPECT_EQ(AreaAddresses(table->TopHeaderRange(true)), std::vector<std::string>{"B2:D3"});
     EXPECT_EQ(table->LeftHeaderRange(true), nullptr);
 }
 
 TEST_F(TableRangesTest, WithoutHeaderRowsTheExtendedLeftHeaderIsThePlainOne) {
     const auto table = InitializeTable(At("B2:D5"), 0, 1);
     EXPECT_EQ(table->TopHeaderRange(true), nullptr);
-    const auto extended = table->LeftHeaderRange(true);
-    EXPECT_EQ(extended->Areas()->Count(), 1);
-    EXPECT_EQ(AddressOf(extended), "B2:B5");
+    EXPECT_EQ(AreaAddresses(table->LeftHeaderRange(true)), std::vector<std::string>{"B2:B5"});
 }
 
 TEST_F(TableRangesTest, CountsOfTitleRowsAndHeaderLines) {
@@ -121,8 +124,7 @@ TEST_F(TableRangesTest, ATopHeaderPositionOutsideItsColumnsIsRefusedWithTheCalle
             vos::error_code::OutOfRange, "position");
     }
     ExpectRefusedLeaving(
-        table->TableRange(),
-        [&] { table->ValidateHeaderPosition(vos::VosTopHeader, 4, "startingPosition"); },
+        table->TableRange(), [&] { table->ValidateHeaderPosition(vos::VosTopHeader, 4, "startingPosition"); },
         vos::error_code::OutOfRange, "startingPosition");
 }
 
@@ -160,9 +162,7 @@ TEST_F(TableRangesTest, AHeaderTypeOutsideTheEnumerationIsRefusedAsWhichHeader) 
     for (const int32_t whichHeader : {2, -1}) {
         ExpectRefusedLeaving(
             table->TableRange(),
-            [&] {
-                table->ValidateHeaderPosition(static_cast<vos::VosTableHeaderType>(whichHeader), 1, "position");
-            },
+            [&] { table->ValidateHeaderPosition(static_cast<vos::VosTableHeaderType>(whichHeader), 1, "position"); },
             vos::error_code::OutOfRange, "whichHeader");
     }
 }

@@ -1,12 +1,7 @@
+#include "table/saved_and_reopened.hpp"
 #include "table/table_layout_fixture.hpp"
 
 #include <vos/theme_property_type.hpp>
-
-#include <excel/workbook.hpp>
-#include <excel/workbooks.hpp>
-
-#include <filesystem>
-#include <unistd.h>
 
 namespace {
 
@@ -16,24 +11,17 @@ class TableSaveOpenTest : public TableLayoutTest {
 protected:
     void SetUp() override {
         TableLayoutTest::SetUp();
-        folder = std::filesystem::temp_directory_path() / ("report_tables_" + std::to_string(::getpid()));
-        std::filesystem::create_directories(folder);
         sheet->AddTable(2, 2, 1, 1, "2024", "Sub");
         sheet->AddSeparatorRows(1);
         report->SetUseThemes(true);
         sheet->AddTable(2, 2, 1, 1, "Themed");
     }
-    void TearDown() override { std::filesystem::remove_all(folder); }
 
     std::shared_ptr<excel::Worksheet> SavedAndOpened() {
-        const std::string path = (folder / "tables.xlsx").string();
-        const std::string sheetName = excelSheet->Name();
-        report->ExcelWorkbook()->SaveAs(path);
-        report->ExcelWorkbook()->Close();
-        return app->Workbooks()->Open(path)->Worksheets(sheetName);
+        return SavedAndReopened(excelSheet, folder.File("tables.xlsx"));
     }
 
-    std::filesystem::path folder;
+    ScratchFolder folder{"report_tables"};
 };
 
 }  // namespace

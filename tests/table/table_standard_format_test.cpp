@@ -41,37 +41,20 @@ TEST_F(TableStandardFormatTest, TheTitleIsLeftAlignedOnASilverFillAboveAMediumLi
     ExpectAutomaticLine(title->Borders(excel::xlEdgeBottom), excel::xlMedium);
 }
 
-TEST_F(TableStandardFormatTest, TheFirstTitleRowIsMergedLargeAndBold) {
-    const auto row = table->TitleRange()->Rows(1);
-    EXPECT_EQ(AddressOf(At("B2")->MergeArea()), "B2:F2");
-    EXPECT_EQ(row->Font()->Size().ToDouble(), 10.0);
-    EXPECT_TRUE(row->Font()->Bold().ToBool());
-    EXPECT_EQ(At("B2")->Value().ToString(), "Main");
-}
-
-TEST_F(TableStandardFormatTest, TheSecondTitleRowIsMergedSmallAndPlain) {
-    const auto row = table->TitleRange()->Rows(2);
-    EXPECT_EQ(AddressOf(At("B3")->MergeArea()), "B3:F3");
-    EXPECT_EQ(row->Font()->Size().ToDouble(), 8.0);
-    EXPECT_FALSE(row->Font()->Bold().ToBool());
-    EXPECT_EQ(At("B3")->Value().ToString(), "Sub");
+TEST_F(TableStandardFormatTest, TheFirstTitleRowIsMergedLargeAndBoldTheSecondSmallAndPlain) {
+    ExpectTitleRow(At("B2"), "B2:F2", 10.0, true, "Main");
+    ExpectTitleRow(At("B3"), "B3:F3", 8.0, false, "Sub");
 }
 
 TEST_F(TableStandardFormatTest, ASingleTitleRowIsTheLargeBoldOne) {
-    const auto single = AddTableAt("H2", 1, 1, 1, 1, "Only");
-    const auto title = single->TitleRange();
-    EXPECT_EQ(AddressOf(At("H2")->MergeArea()), "H2:I2");
-    EXPECT_EQ(title->Font()->Size().ToDouble(), 10.0);
-    EXPECT_TRUE(title->Font()->Bold().ToBool());
+    AddTableAt("H2", 1, 1, 1, 1, "Only");
+    ExpectTitleRow(At("H2"), "H2:I2", 10.0, true, "Only");
     EXPECT_FALSE(At("H3")->MergeCells().ToBool());
 }
 
 TEST_F(TableStandardFormatTest, TheInteriorIsCentredSmallAndTopAligned) {
     const auto interior = table->InteriorRange();
-    EXPECT_EQ(interior->HorizontalAlignment().ToInt(), excel::xlCenter);
-    EXPECT_EQ(interior->VerticalAlignment().ToInt(), excel::xlTop);
-    EXPECT_EQ(interior->Font()->Size().ToDouble(), 8.0);
-    EXPECT_FALSE(interior->Font()->Bold().ToBool());
+    ExpectTextSetting(interior, excel::xlCenter, excel::xlTop, 8.0, false);
     EXPECT_EQ(interior->Interior()->ColorIndex().ToInt(), excel::xlColorIndexNone);
     EXPECT_EQ(interior->Borders(excel::xlInsideHorizontal)->LineStyle().ToInt(), excel::xlLineStyleNone);
 }
@@ -88,26 +71,17 @@ TEST_F(TableStandardFormatTest, AThinLineRunsBesideTheLeftHeaderAndTheSignature)
 
 TEST_F(TableStandardFormatTest, TheTopHeaderIsCentredSmallAndBold) {
     const auto header = table->TopHeaderRange();
-    EXPECT_EQ(header->HorizontalAlignment().ToInt(), excel::xlCenter);
-    EXPECT_EQ(header->Font()->Size().ToDouble(), 8.0);
-    EXPECT_TRUE(header->Font()->Bold().ToBool());
+    ExpectTextSetting(header, excel::xlCenter, excel::xlBottom, 8.0, true);
     EXPECT_EQ(header->Borders(excel::xlInsideHorizontal)->LineStyle().ToInt(), excel::xlLineStyleNone);
 }
 
 TEST_F(TableStandardFormatTest, TheLeftHeaderIsTopLeftAlignedSmallAndBold) {
-    const auto header = table->LeftHeaderRange();
-    EXPECT_EQ(header->VerticalAlignment().ToInt(), excel::xlTop);
-    EXPECT_EQ(header->HorizontalAlignment().ToInt(), excel::xlLeft);
-    EXPECT_EQ(header->Font()->Size().ToDouble(), 8.0);
-    EXPECT_TRUE(header->Font()->Bold().ToBool());
+    ExpectTextSetting(table->LeftHeaderRange(), excel::xlLeft, excel::xlTop, 8.0, true);
 }
 
 TEST_F(TableStandardFormatTest, TheSignatureIsLeftAlignedBoldAndSmall) {
     const auto signature = table->SignatureRange();
-    EXPECT_EQ(signature->HorizontalAlignment().ToInt(), excel::xlLeft);
-    EXPECT_EQ(signature->VerticalAlignment().ToInt(), excel::xlBottom);
-    EXPECT_TRUE(signature->Font()->Bold().ToBool());
-    EXPECT_EQ(signature->Font()->Size().ToDouble(), 8.0);
+    ExpectTextSetting(signature, excel::xlLeft, excel::xlBottom, 8.0, true);
     EXPECT_EQ(signature->Interior()->ColorIndex().ToInt(), excel::xlColorIndexNone);
 }
 
@@ -126,18 +100,4 @@ TEST_F(TableStandardFormatTest, WithoutHeaderColumnsOnlyTheTopHeaderLineIsDrawn)
     ExpectAutomaticLine(narrow->TopHeaderRange()->Borders(excel::xlEdgeBottom), excel::xlThin);
     ExpectAutomaticLine(narrow->InteriorRange()->Borders(excel::xlEdgeLeft), excel::xlMedium);
     EXPECT_EQ(narrow->InteriorRange()->Borders(excel::xlInsideVertical)->LineStyle().ToInt(), excel::xlLineStyleNone);
-}
-
-TEST_F(TableStandardFormatTest, EnglishTablesUseTenAndEightPoints) {
-    ExpectFontSizes(*table, 10.0, 8.0);
-}
-
-TEST_F(TableStandardFormatTest, ChineseTablesUseTwelveAndTenPoints) {
-    UseLanguage(4);
-    ExpectFontSizes(*AddTableWithEveryPart(), 12.0, 10.0);
-}
-
-TEST_F(TableStandardFormatTest, OtherLanguagesUseTenAndEightPoints) {
-    UseLanguage(12);
-    ExpectFontSizes(*AddTableWithEveryPart(), 10.0, 8.0);
 }

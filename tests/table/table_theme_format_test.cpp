@@ -38,12 +38,8 @@ protected:
 TEST_F(TableThemeFormatTest, TheTitleRowsAreLeftAlignedMergedAndSizedAsInAPlainTable) {
     const auto title = table->TitleRange();
     EXPECT_EQ(title->HorizontalAlignment().ToInt(), excel::xlLeft);
-    EXPECT_EQ(AddressOf(At("B2")->MergeArea()), "B2:F2");
-    EXPECT_EQ(AddressOf(At("B3")->MergeArea()), "B3:F3");
-    EXPECT_TRUE(title->Rows(1)->Font()->Bold().ToBool());
-    EXPECT_FALSE(title->Rows(2)->Font()->Bold().ToBool());
-    EXPECT_EQ(At("B2")->Value().ToString(), "Main");
-    EXPECT_EQ(At("B3")->Value().ToString(), "Sub");
+    ExpectTitleRow(At("B2"), "B2:F2", 10.0, true, "Main");
+    ExpectTitleRow(At("B3"), "B3:F3", 8.0, false, "Sub");
 }
 
 TEST_F(TableThemeFormatTest, TheTitleTakesTheTitleColoursAboveABorderColouredLine) {
@@ -56,8 +52,7 @@ TEST_F(TableThemeFormatTest, TheTitleTakesTheTitleColoursAboveABorderColouredLin
 
 TEST_F(TableThemeFormatTest, TheInteriorIsCentredWithBorderColouredLinesBetweenItsRows) {
     const auto interior = table->InteriorRange();
-    EXPECT_EQ(interior->HorizontalAlignment().ToInt(), excel::xlCenter);
-    EXPECT_EQ(interior->VerticalAlignment().ToInt(), excel::xlTop);
+    ExpectTextSetting(interior, excel::xlCenter, excel::xlTop, 8.0, false);
     ExpectThemedLine(interior->Borders(excel::xlEdgeBottom));
     ExpectThemedLine(interior->Borders(excel::xlInsideHorizontal));
     ExpectNoLine(interior->Borders(excel::xlInsideVertical));
@@ -66,8 +61,7 @@ TEST_F(TableThemeFormatTest, TheInteriorIsCentredWithBorderColouredLinesBetweenI
 
 TEST_F(TableThemeFormatTest, TheTopHeaderIsFilledInTheHeaderColourWithALineBelowOnly) {
     const auto header = table->TopHeaderRange();
-    EXPECT_EQ(header->HorizontalAlignment().ToInt(), excel::xlCenter);
-    EXPECT_TRUE(header->Font()->Bold().ToBool());
+    ExpectTextSetting(header, excel::xlCenter, excel::xlBottom, 8.0, true);
     ExpectThemeColour(header->Interior(), vos::VosTableHeader);
     ExpectThemedLine(header->Borders(excel::xlEdgeBottom));
     ExpectNoLine(header->Borders(excel::xlInsideHorizontal));
@@ -76,17 +70,14 @@ TEST_F(TableThemeFormatTest, TheTopHeaderIsFilledInTheHeaderColourWithALineBelow
 
 TEST_F(TableThemeFormatTest, TheLeftHeaderIsFilledInTheHeaderColourWithALineBeside) {
     const auto header = table->LeftHeaderRange();
-    EXPECT_EQ(header->VerticalAlignment().ToInt(), excel::xlTop);
-    EXPECT_EQ(header->HorizontalAlignment().ToInt(), excel::xlLeft);
-    EXPECT_TRUE(header->Font()->Bold().ToBool());
+    ExpectTextSetting(header, excel::xlLeft, excel::xlTop, 8.0, true);
     ExpectThemeColour(header->Interior(), vos::VosTableHeader);
     ExpectThemedLine(header->Borders(excel::xlEdgeRight));
 }
 
 TEST_F(TableThemeFormatTest, TheSignatureIsFilledInTheHeaderColour) {
     const auto signature = table->SignatureRange();
-    EXPECT_EQ(signature->HorizontalAlignment().ToInt(), excel::xlLeft);
-    EXPECT_TRUE(signature->Font()->Bold().ToBool());
+    ExpectTextSetting(signature, excel::xlLeft, excel::xlBottom, 8.0, true);
     ExpectThemeColour(signature->Interior(), vos::VosTableHeader);
 }
 
@@ -121,18 +112,4 @@ TEST_F(TableThemeFormatTest, MissingRangesAreLeftUncoloured) {
     EXPECT_EQ(At("H1")->Interior()->ColorIndex().ToInt(), excel::xlColorIndexNone);
     ExpectNoLine(bare->TopHeaderRange()->Borders(excel::xlEdgeTop));
     ExpectNoLine(bare->InteriorRange()->Borders(excel::xlEdgeLeft));
-}
-
-TEST_F(TableThemeFormatTest, EnglishTablesUseTenAndEightPoints) {
-    ExpectFontSizes(*table, 10.0, 8.0);
-}
-
-TEST_F(TableThemeFormatTest, ChineseTablesUseTwelveAndTenPoints) {
-    UseThemes(4);
-    ExpectFontSizes(*AddTableWithEveryPart(), 12.0, 10.0);
-}
-
-TEST_F(TableThemeFormatTest, OtherLanguagesUseTenAndEightPoints) {
-    UseThemes(12);
-    ExpectFontSizes(*AddTableWithEveryPart(), 10.0, 8.0);
 }

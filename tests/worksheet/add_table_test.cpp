@@ -70,8 +70,7 @@ TEST_F(AddTableTest, InteriorRowsMustBePositive) {
 
 TEST_F(AddTableTest, InteriorColumnsMustBePositive) {
     for (const int32_t columns : {0, -1})
-        ExpectNotPlaced([&] { sheet->AddTable(1, columns, 1, 1); }, vos::error_code::OutOfRange,
-                        "numInteriorColumns");
+        ExpectNotPlaced([&] { sheet->AddTable(1, columns, 1, 1); }, vos::error_code::OutOfRange, "numInteriorColumns");
 }
 
 TEST_F(AddTableTest, HeaderRowsMustBeOneToFive) {
@@ -131,8 +130,7 @@ TEST_F(AddTableTest, ATableMayNotReachTheLastSheetColumn) {
 
 TEST_F(AddTableTest, ASizePastTheIntegerRangeOverflows) {
     ExpectFailureCode([&] { sheet->AddTable(MostInteriorRows, 1, 1, 0); }, excel::hresult::Overflow);
-    ExpectFailureCode([&] { sheet->AddTable(1, std::numeric_limits<int32_t>::max(), 1, 1); },
-                      excel::hresult::Overflow);
+    ExpectFailureCode([&] { sheet->AddTable(1, std::numeric_limits<int32_t>::max(), 1, 1); }, excel::hresult::Overflow);
     EXPECT_EQ(Cursor(), "B2");
 }
 
