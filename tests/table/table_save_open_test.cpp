@@ -5,8 +5,8 @@
 
 namespace {
 
-// A plain table at A1:C5 and, after one empty row, a themed one at A7:C10, saved to a file of
-// their own and opened again.
+// A plain table at A1:C5 and, after one empty row, a themed one at A7:C10, saved and opened
+// again.
 class TableSaveOpenTest : public TableLayoutTest {
 protected:
     void SetUp() override {
@@ -17,11 +17,7 @@ protected:
         sheet->AddTable(2, 2, 1, 1, "Themed");
     }
 
-    std::shared_ptr<excel::Worksheet> SavedAndOpened() {
-        return SavedAndReopened(excelSheet, folder.File("tables.xlsx"));
-    }
-
-    ScratchFolder folder{"report_tables"};
+    std::shared_ptr<excel::Worksheet> SavedAndOpened() { return SavedAndReopened(excelSheet, "tables.xlsx"); }
 };
 
 }  // namespace
