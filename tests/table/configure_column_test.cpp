@@ -26,22 +26,20 @@ std::vector<int32_t> Times(size_t count, int32_t alignment) {
 
 TEST_F(ConfigureColumnTest, PositionsOutsideTheInteriorAreRefused) {
     const auto table = PlaceTable();
-    const auto before = CellStatesOf(At("A1:H8"));
     for (const int32_t position : {0, -1, 4})
-        ExpectAutomationError([&] { table->ConfigureColumn(position, "Caption", excel::xlRight); },
-                              vos::error_code::OutOfRange, "position");
-    EXPECT_EQ(CellStatesOf(At("A1:H8")), before);
+        ExpectRefusalLeavesCells(At("A1:H8"), [&] { table->ConfigureColumn(position, "Caption", excel::xlRight); },
+                                 vos::error_code::OutOfRange, "position");
 }
 
 TEST_F(ConfigureColumnTest, HeaderPropertiesWithoutTopHeaderAreRefusedBeforeAnythingChanges) {
     // Left header B2:B5 beside the interior C2:D5, no header rows.
     const auto table = PlaceTableWithoutTopHeader();
-    const auto before = CellStatesOf(At("A1:E6"));
-    ExpectAutomationError([&] { table->ConfigureColumn(1, "Caption", excel::xlRight, KeepAlignment, 20.0, "0.00", true); },
-                          vos::error_code::NotAllowedNow, NoHeaderForProperties);
-    ExpectAutomationError([&] { table->ConfigureColumn(2, "", excel::xlRight, excel::xlLeft, 20.0, "0.00", true); },
-                          vos::error_code::NotAllowedNow, NoHeaderForProperties);
-    EXPECT_EQ(CellStatesOf(At("A1:E6")), before);
+    ExpectRefusalLeavesCells(
+        At("A1:E6"), [&] { table->ConfigureColumn(1, "Caption", excel::xlRight, KeepAlignment, 20.0, "0.00", true); },
+        vos::error_code::NotAllowedNow, NoHeaderForProperties);
+    ExpectRefusalLeavesCells(
+        At("A1:E6"), [&] { table->ConfigureColumn(2, "", excel::xlRight, excel::xlLeft, 20.0, "0.00", true); },
+        vos::error_code::NotAllowedNow, NoHeaderForProperties);
 }
 
 TEST_F(ConfigureColumnTest, ThePositionIsCheckedBeforeTheHeader) {

@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 // A report sheet with one table placed at B2 and the helpers the interior tests read it back with.
@@ -90,4 +91,14 @@ inline std::vector<std::string> EdgesOf(const std::shared_ptr<excel::Range>& ran
         for (int32_t column = 1; column <= range->Columns()->Count(); ++column)
             lines.push_back(LineOf(range->Cells(row, column)->Borders(edge)));
     return lines;
+}
+
+// Runs the call and checks that it fails with exactly this code and text, leaving every cell of the
+// range as it was.
+template <class Call>
+void ExpectRefusalLeavesCells(const std::shared_ptr<excel::Range>& cells, Call&& call, int32_t code,
+                              const std::string& text) {
+    const auto before = CellStatesOf(cells);
+    ExpectAutomationError(std::forward<Call>(call), code, text);
+    EXPECT_EQ(CellStatesOf(cells), before);
 }
