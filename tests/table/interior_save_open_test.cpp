@@ -1,21 +1,15 @@
 #include "table/interior_fixture.hpp"
-
-#include <filesystem>
-#include <unistd.h>
+#include "table/saved_and_reopened.hpp"
 
 namespace {
 
 constexpr int32_t KeepAlignment = -12345;
 
-// The usual table filled with data, comments, dividers and column settings, then saved to a file of
-// its own and opened again.
+// The usual table filled with data, comments, dividers and column settings, for saving and opening.
 class InteriorSaveOpenTest : public InteriorTest {
 protected:
     void SetUp() override {
         InteriorTest::SetUp();
-        folder = std::filesystem::temp_directory_path() / ("table_interior_" + std::to_string(::getpid()));
-        std::filesystem::create_directories(folder);
-
         const auto table = PlaceTable();
         table->WriteDataToColumn(1, ArrayOf(excel::VarType::Variant, 0, {"North", "South", "#1", true}));
         table->WriteDataToColumn(2, ArrayOf(excel::VarType::Double, 1, {1250.5, 980.25, 47.0}), 2);
@@ -27,23 +21,12 @@ protected:
         table->ConfigureColumn(2, "Revenue", excel::xlRight, KeepAlignment, 18.0, "#,##0.00");
         table->ConfigureColumn(3, "", KeepAlignment, excel::xlLeft, -1.0, "[LOCAL]0.0%", true);
     }
-    void TearDown() override { std::filesystem::remove_all(folder); }
-
-    std::shared_ptr<excel::Worksheet> SavedAndOpened() {
-        const std::string path = (folder / "interior.xlsx").string();
-        const std::string sheetName = excelSheet->Name();
-        report->ExcelWorkbook()->SaveAs(path);
-        report->ExcelWorkbook()->Close();
-        return app->Workbooks()->Open(path)->Worksheets(sheetName);
-    }
-
-    std::filesystem::path folder;
 };
 
 }  // namespace
 
 TEST_F(InteriorSaveOpenTest, ColumnDataSurvives) {
-    excelSheet = SavedAndOpened();
+    excelSheet = SavedAndReopened(excelSheet, "interior.xlsx");
     EXPECT_EQ(ValuesOf(At("D4:E7")),
               (std::vector<std::string>{"North", "", "South", "1250.5", "#1", "980.25", "True", "47"}));
     EXPECT_EQ(At("D6")->Value(), excel::Variant("#1"));
@@ -51,7 +34,7 @@ TEST_F(InteriorSaveOpenTest, ColumnDataSurvives) {
 }
 
 TEST_F(InteriorSaveOpenTest, CommentsOnInteriorHeaderAndSignatureCellsSurvive) {
-    excelSheet = SavedAndOpened();
+    excelSheet = SavedAndReopened(excelSheet, "interior.xlsx");
     EXPECT_EQ(excelSheet->Shapes()->Count(), 3);
     const std::vector<std::pair<std::string, std::string>> expected{
         {"E5", "Source\nledger"}, {"D3", "Region\nas booked"}, {"C3", "Table\nall figures in USD"}};
@@ -65,13 +48,13 @@ TEST_F(InteriorSaveOpenTest, CommentsOnInteriorHeaderAndSignatureCellsSurvive) {
 }
 
 TEST_F(InteriorSaveOpenTest, DividersSurvive) {
-    excelSheet = SavedAndOpened();
+    excelSheet = SavedAndReopened(excelSheet, "interior.xlsx");
     EXPECT_EQ(EdgesOf(At("B3:F3"), excel::xlEdgeBottom), std::vector<std::string>(5, "-4115/-4138/3"));
     EXPECT_EQ(EdgesOf(At("D2:D7"), excel::xlEdgeRight), std::vector<std::string>(6, "1/2/15"));
 }
 
 TEST_F(InteriorSaveOpenTest, ColumnSettingsSurvive) {
-    excelSheet = SavedAndOpened();
+    excelSheet = SavedAndReopened(excelSheet, "interior.xlsx");
     EXPECT_EQ(At("E3")->Value(), excel::Variant("Revenue"));
     EXPECT_DOUBLE_EQ(At("E1")->ColumnWidth().ToDouble(), 18.0);
     EXPECT_EQ(TextOf(At("E4:E7")->NumberFormat()), "#,##0.00");
