@@ -12,18 +12,26 @@
 
 namespace vos {
 
+namespace {
+
+// The line run back over the header cells before it: rows up and columns left, as many as given.
+std::shared_ptr<excel::Range> ExtendedBackOverHeader(const std::shared_ptr<excel::Range>& line, int32_t rows,
+                                                     int32_t columns) {
+    const auto& ranges = Support().Ranges();
+    const auto moved = ranges.RangeOffset(line, -rows, -columns);
+    return ranges.RangeResize(moved, moved->Rows()->Count() + rows, moved->Columns()->Count() + columns);
+}
+
+}  // namespace
+
 void ReportTable::AddRowDividerLine(int32_t position, bool extendIntoColumnHeader, int32_t lineStyle,
                                     int32_t weight, int16_t colorIndex) {
     if (position < 0 || position > InteriorRowCount())
         RaiseLibraryError(error_code::OutOfRange, "position");
     // Row 0 is the row just above the interior: its bottom edge runs under the header.
     auto line = interiorRange_->Rows(position);
-    if (extendIntoColumnHeader) {
-        const auto& ranges = Support().Ranges();
-        const int32_t headerColumns = LeftHeaderColumnCount();
-        line = ranges.RangeOffset(line, 0, -headerColumns);
-        line = ranges.RangeResize(line, RangeServices::KeepCount, line->Columns()->Count() + headerColumns);
-    }
+    if (extendIntoColumnHeader)
+        line = ExtendedBackOverHeader(line, 0, LeftHeaderColumnCount());
     DrawDivider(line->Borders(excel::xlEdgeBottom), lineStyle, weight, colorIndex);
 }
 
@@ -32,12 +40,8 @@ void ReportTable::AddColumnDividerLine(int32_t position, bool extendIntoRowHeade
     if (position < 0 || position > InteriorColumnCount())
         RaiseLibraryError(error_code::OutOfRange, "position");
     auto line = interiorRange_->Columns(position);
-    if (extendIntoRowHeader) {
-        const auto& ranges = Support().Ranges();
-        const int32_t headerRows = TopHeaderRowCount();
-        line = ranges.RangeOffset(line, -headerRows, 0);
-        line = ranges.RangeResize(line, line->Rows()->Count() + headerRows, RangeServices::KeepCount);
-    }
+    if (extendIntoRowHeader)
+        line = ExtendedBackOverHeader(line, TopHeaderRowCount(), 0);
     DrawDivider(line->Borders(excel::xlEdgeRight), lineStyle, weight, colorIndex);
 }
 

@@ -177,3 +177,13 @@ TEST_F(ColumnDataTest, AHundredThousandRowsAreWrittenInOneGo) {
     EXPECT_EQ(At("B100002")->Value().ToDouble(), 100000.0);
     EXPECT_TRUE(At("B100003")->Value().IsEmpty());
 }
+
+// An array without elements has nothing to write: the call succeeds and the column stays as it was.
+TEST_F(ColumnDataTest, AnArrayWithoutElementsWritesNothing) {
+    const auto table = PlaceTable();
+    At("E4")->SetValue("kept");
+    const auto before = CellStatesOf(table->TableRange());
+    table->WriteDataToColumn(2, Doubles(0, {}));
+    table->WriteDataToColumn(2, Doubles(0, {}), 4);
+    EXPECT_EQ(CellStatesOf(table->TableRange()), before);
+}
