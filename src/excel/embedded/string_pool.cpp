@@ -3,11 +3,13 @@
 namespace excel::embedded {
 
 uint32_t StringPool::Intern(std::string_view text) {
-    auto [it, inserted] = plainIds_.try_emplace(std::string(text), static_cast<uint32_t>(strings_.size()));
-    if (inserted) {
-        strings_.push_back(ooxml::SharedString{std::string(text), {}});
+    if (const auto found = plainIds_.find(text); found != plainIds_.end()) {
+        return found->second;
     }
-    return it->second;
+    const auto id = static_cast<uint32_t>(strings_.size());
+    strings_.push_back(ooxml::SharedString{std::string(text), {}});
+    plainIds_.emplace(strings_.back().text, id);
+    return id;
 }
 
 uint32_t StringPool::Add(ooxml::SharedString richText) {
