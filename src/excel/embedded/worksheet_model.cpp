@@ -45,7 +45,7 @@ void WorksheetModel::ApplyFormat(const CellBlock& block, FormatChange& change) {
         for (size_t i = first; i < first + static_cast<size_t>(block.Rows()); ++i) {
             RowData& row = rows[i];
             row.UpdateRange(block.left, block.right, [&](int32_t column, const Cell* existing, Cell& result) {
-                const uint32_t underneath = row.hasFormat ? row.format : columns_.Get(column).format;
+                const uint32_t underneath = formatUnderneath(row, column);
                 result.format = change.Apply(existing ? existing->format : underneath);
                 // A blank cell is kept only for a format its row or column does not give it.
                 return (existing && existing->HasValue()) || result.format != underneath;
@@ -185,14 +185,14 @@ void WorksheetModel::WriteCells(const CellBlock& block,
             auto it = row.LowerBound(column);
             if (it == row.cells.end() || it->column != column) {
                 it =
-                    row.cells.insert(it, Cell::Blank(column, row.hasFormat ? row.format : columns_.Get(column).format));
+                    row.cells.insert(it, Cell::Blank(column, formatUnderneath(row, column)));
             }
             write(row.index, column, *it);
             continue;
         }
         row.UpdateRange(block.left, block.right, [&](int32_t column, const Cell* existing, Cell& result) {
             if (!existing) {
-                result.format = row.hasFormat ? row.format : columns_.Get(column).format;
+                result.format = formatUnderneath(row, column);
             }
             write(row.index, column, result);
             return true;
@@ -208,7 +208,7 @@ void WorksheetModel::ClearValues(const CellBlock& block) {
         const auto end = row.LowerBound(block.right + 1);
         const auto kept = std::remove_if(row.LowerBound(block.left), end, [&](Cell& cell) {
             cell.ClearValue();
-            return cell.format == (row.hasFormat ? row.format : columns_.Get(cell.column).format);
+            return cell.format == formatUnderneath(row, cell.column);
         });
         row.cells.erase(kept, end);
     }

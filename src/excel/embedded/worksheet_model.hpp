@@ -101,6 +101,10 @@ public:
     const std::vector<BlockShift>& ShiftsApplied() const { return shiftsApplied_; }
 
 private:
+    // The format a cell of the row shows when it is not stored: the row's own, else its column's.
+    uint32_t formatUnderneath(const RowData& row, int32_t column) const {
+        return row.hasFormat ? row.format : columns_.Get(column).format;
+    }
     void applyToWholeRows(int32_t top, int32_t bottom, FormatChange& change);
     void applyToWholeColumns(int32_t left, int32_t right, FormatChange& change);
     void applyToWholeSheet(FormatChange& change);

@@ -182,7 +182,7 @@ void WorksheetModel::copyFormatsIntoInserted(const BlockShift& shift) {
                 row.height = copy.height;
             }
             for (const Cell& cell : copy.CellsIn(shift.bandFirst, shift.bandLast)) {
-                const uint32_t shown = row.hasFormat ? row.format : columns_.Get(cell.column).format;
+                const uint32_t shown = formatUnderneath(row, cell.column);
                 if (cell.format != shown) {
                     row.cells.insert(row.LowerBound(cell.column), Cell::Blank(cell.column, cell.format));
                 }
@@ -200,7 +200,7 @@ void WorksheetModel::copyFormatsIntoInserted(const BlockShift& shift) {
         }
         const uint32_t format = left->format;
         row.UpdateRange(shift.at, lastInserted, [&](int32_t column, const Cell*, Cell& result) {
-            const uint32_t shown = row.hasFormat ? row.format : columns_.Get(column).format;
+            const uint32_t shown = formatUnderneath(row, column);
             result.format = format;
             return format != shown;
         });
