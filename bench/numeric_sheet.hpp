@@ -3,7 +3,7 @@
 // The workbook the package benchmarks write and read: one sheet of numbers in a few number
 // formats, one of them bold.
 
-#include "ooxml/workbook_document.hpp"
+#include "ooxml/document/workbook_document.hpp"
 
 #include <cstdint>
 #include <utility>

@@ -5,8 +5,8 @@
 
 #include "measure.hpp"
 #include "numeric_sheet.hpp"
-#include "ooxml/package_reader.hpp"
-#include "ooxml/package_writer.hpp"
+#include "ooxml/opc/package_reader.hpp"
+#include "ooxml/opc/package_writer.hpp"
 
 #include <cstddef>
 #include <cstdio>

@@ -4,7 +4,7 @@
 
 #include "measure.hpp"
 #include "numeric_sheet.hpp"
-#include "ooxml/package_writer.hpp"
+#include "ooxml/opc/package_writer.hpp"
 
 #include <cstdint>
 #include <cstdio>

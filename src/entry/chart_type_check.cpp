@@ -1,6 +1,6 @@
 #include "entry/chart_type_check.hpp"
 
-#include "entry/library_error.hpp"
+#include "support/library_error.hpp"
 
 #include <vos/chart_type.hpp>
 

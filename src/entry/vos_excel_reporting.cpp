@@ -1,12 +1,12 @@
 #include <vos/vos_excel_reporting.hpp>
 
-#include "entry/library_error.hpp"
-#include "entry/unit_testing_mode.hpp"
+#include "support/cell_comment.hpp"
+#include "support/library_error.hpp"
 #include "support/trim_blanks.hpp"
+#include "support/unit_testing_mode.hpp"
 #include "workbook/creation_tags.hpp"
 #include "workbook/placeholder_sheet.hpp"
 #include "workbook/report_workbook.hpp"
-#include "worksheet/cell_comment.hpp"
 
 #include <excel/application.hpp>
 #include <excel/object.hpp>

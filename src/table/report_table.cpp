@@ -1,6 +1,6 @@
 #include "table/report_table.hpp"
 
-#include "entry/library_error.hpp"
+#include "support/library_error.hpp"
 #include "support/support_services.hpp"
 #include "workbook/report_workbook.hpp"
 

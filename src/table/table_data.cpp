@@ -1,10 +1,10 @@
 #include "table/report_table.hpp"
 
-#include "entry/library_error.hpp"
+#include "support/cell_comment.hpp"
+#include "support/library_error.hpp"
 #include "support/support_services.hpp"
 #include "support/trim_blanks.hpp"
 #include "workbook/report_workbook.hpp"
-#include "worksheet/cell_comment.hpp"
 
 #include <vos/theme_property_type.hpp>
 

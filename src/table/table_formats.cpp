@@ -1,8 +1,8 @@
 #include "table/report_table.hpp"
 
 #include "support/support_services.hpp"
+#include "support/workbook_range_theme.hpp"
 #include "workbook/report_workbook.hpp"
-#include "worksheet/workbook_range_theme.hpp"
 
 #include <vos/table_inside_border_type.hpp>
 

@@ -1,6 +1,6 @@
 #include "workbook/report_workbook.hpp"
 
-#include "entry/library_error.hpp"
+#include "support/library_error.hpp"
 #include "support/support_services.hpp"
 #include "support/trim_blanks.hpp"
 #include "workbook/creation_tags.hpp"

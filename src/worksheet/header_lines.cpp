@@ -1,10 +1,10 @@
 #include "worksheet/header_lines.hpp"
 
-#include "entry/localized_label.hpp"
-#include "entry/unit_testing_mode.hpp"
+#include "support/ignoring_excel_errors.hpp"
+#include "support/localized_label.hpp"
 #include "support/support_services.hpp"
 #include "support/trim_blanks.hpp"
-#include "worksheet/ignoring_excel_errors.hpp"
+#include "support/unit_testing_mode.hpp"
 #include "worksheet/long_date_time.hpp"
 
 #include <excel/application.hpp>

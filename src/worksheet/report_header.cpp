@@ -1,13 +1,13 @@
 #include "worksheet/report_worksheet.hpp"
 
-#include "entry/library_error.hpp"
+#include "support/character_count.hpp"
+#include "support/ignoring_excel_errors.hpp"
+#include "support/library_error.hpp"
+#include "support/text_margins.hpp"
 #include "support/trim_blanks.hpp"
 #include "workbook/report_workbook.hpp"
-#include "worksheet/character_count.hpp"
 #include "worksheet/header_lines.hpp"
-#include "worksheet/ignoring_excel_errors.hpp"
 #include "worksheet/shape_text.hpp"
-#include "worksheet/text_margins.hpp"
 
 #include <vos/theme_property_type.hpp>
 

@@ -1,7 +1,7 @@
 #include "worksheet/report_worksheet.hpp"
 
-#include "entry/library_error.hpp"
 #include "support/checked_sum.hpp"
+#include "support/library_error.hpp"
 #include "support/support_services.hpp"
 #include "table/report_table.hpp"
 

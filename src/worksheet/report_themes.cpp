@@ -1,7 +1,7 @@
 #include "worksheet/report_worksheet.hpp"
 
+#include "support/workbook_range_theme.hpp"
 #include "workbook/report_workbook.hpp"
-#include "worksheet/workbook_range_theme.hpp"
 
 namespace vos {
 

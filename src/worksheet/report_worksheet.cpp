@@ -1,11 +1,11 @@
 #include "worksheet/report_worksheet.hpp"
 
-#include "entry/library_error.hpp"
+#include "support/cell_comment.hpp"
 #include "support/checked_sum.hpp"
+#include "support/library_error.hpp"
 #include "support/support_services.hpp"
 #include "workbook/creation_tags.hpp"
 #include "workbook/report_workbook.hpp"
-#include "worksheet/cell_comment.hpp"
 
 #include <excel/automation_error.hpp>
 #include <excel/constants.hpp>

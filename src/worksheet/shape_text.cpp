@@ -1,6 +1,6 @@
 #include "worksheet/shape_text.hpp"
 
-#include "entry/library_error.hpp"
+#include "support/library_error.hpp"
 
 #include <excel/characters.hpp>
 #include <excel/constants.hpp>

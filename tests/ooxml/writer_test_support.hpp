@@ -3,9 +3,9 @@
 // Helpers for the package writer tests: a scratch folder, reading entries of a written zip with
 // libzip (independently of our own reader), parsing XML, and running the conformance tools.
 
-#include "ooxml/byte_sink.hpp"
-#include "ooxml/workbook_document.hpp"
-#include "ooxml/xml_writer.hpp"
+#include "ooxml/document/workbook_document.hpp"
+#include "ooxml/xml/byte_sink.hpp"
+#include "ooxml/xml/xml_writer.hpp"
 #include "reader_test_package.hpp"
 
 #include <gtest/gtest.h>

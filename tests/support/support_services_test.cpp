@@ -1,6 +1,6 @@
 #include "report_fixture.hpp"
 
-#include "entry/library_error.hpp"
+#include "support/library_error.hpp"
 #include "support/support_services.hpp"
 
 #include <thread>

@@ -1,7 +1,7 @@
 #include "worksheet/report_comment_expectations.hpp"
 #include "worksheet/report_sheet_fixture.hpp"
 
-#include "worksheet/cell_comment.hpp"
+#include "support/cell_comment.hpp"
 
 using ReportCommentTest = ReportSheetTest;
 

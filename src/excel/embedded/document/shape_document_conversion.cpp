@@ -1,0 +1,263 @@
+#include "excel/embedded/document/shape_document_conversion.hpp"
+
+#include "excel/embedded/format/color_conversion.hpp"
+#include "excel/embedded/model/geometry/geometry.hpp"
+#include "excel/embedded/model/shapes/cell_comments.hpp"
+#include "excel/embedded/model/shapes/shape_placement.hpp"
+#include "excel/embedded/model/workbook_model.hpp"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <string_view>
+#include <utility>
+
+namespace excel::embedded {
+
+namespace {
+
+constexpr double EmuPerPoint = 12700.0;
+
+int64_t Emu(double points) {
+    return std::llround(points * EmuPerPoint);
+}
+
+double PointsFromEmu(int64_t emu) {
+    return static_cast<double>(emu) / EmuPerPoint;
+}
+
+uint32_t Pixels(double points) {
+    return static_cast<uint32_t>(std::lround(points / PointsPerPixel));
+}
+
+constexpr std::array<std::pair<int32_t, std::string_view>, 5> HorizontalAlignments{{
+    {xlHAlignLeft, "l"}, {xlHAlignCenter, "ctr"}, {xlHAlignRight, "r"}, {xlHAlignJustify, "just"},
+    {xlHAlignDistributed, "dist"}}};
+constexpr std::array<std::pair<int32_t, std::string_view>, 5> VerticalAnchors{{
+    {xlVAlignTop, "t"}, {xlVAlignCenter, "ctr"}, {xlVAlignBottom, "b"}, {xlVAlignJustify, "just"},
+    {xlVAlignDistributed, "dist"}}};
+constexpr std::array<std::pair<int32_t, std::string_view>, 3> AnchorKinds{{
+    {xlMoveAndSize, "twoCell"}, {xlMove, "oneCell"}, {xlFreeFloating, "absolute"}}};
+
+template <size_t N>
+std::string_view NameOf(const std::array<std::pair<int32_t, std::string_view>, N>& table, int32_t value) {
+    for (const auto& [constant, name] : table) {
+        if (constant == value) {
+            return name;
+        }
+    }
+    return table.front().second;
+}
+
+template <size_t N>
+int32_t ValueOf(const std::array<std::pair<int32_t, std::string_view>, N>& table, std::string_view name) {
+    for (const auto& [constant, entry] : table) {
+        if (entry == name) {
+            return constant;
+        }
+    }
+    return table.front().first;
+}
+
+ooxml::CellAnchor AnchorOf(const CellPoint& point) {
+    return ooxml::CellAnchor{static_cast<uint32_t>(point.column - 1), Emu(point.columnOffset),
+                             static_cast<uint32_t>(point.row - 1), Emu(point.rowOffset)};
+}
+
+// The text with a font on every run: the files have no frame font to fall back on.
+ooxml::SharedString SpelledOut(const ShapeText& frame) {
+    ooxml::SharedString text = frame.text;
+    if (text.runs.empty() && !text.text.empty()) {
+        text.runs.push_back(ooxml::TextRun{text.text, std::nullopt});
+    }
+    for (ooxml::TextRun& run : text.runs) {
+        run.font = run.font.value_or(frame.font);
+    }
+    return text;
+}
+
+// Takes a file's text; a font shared by every run becomes the frame's font.
+void LoadText(ShapeText& frame, const ooxml::SharedString& text) {
+    frame.text = text;
+    if (text.runs.empty() || !text.runs.front().font) {
+        return;
+    }
+    const ooxml::Font& first = *text.runs.front().font;
+    const bool shared = std::all_of(text.runs.begin(), text.runs.end(),
+                                    [&](const ooxml::TextRun& run) { return run.font == first; });
+    if (shared) {
+        frame.font = first;
+        frame.text.runs.clear();
+    }
+}
+
+ShapeColor ShapeColorOf(const ooxml::Color& color) {
+    if (color.kind == ooxml::Color::Kind::Theme && color.index >= 0 && color.index < 12) {
+        return ShapeColorFromThemeIndex(color.index, color.tint);
+    }
+    if (color.kind == ooxml::Color::Kind::Rgb) {
+        return ShapeColor{color, msoNotThemeColor};
+    }
+    return ShapeColorFromRgb(0);
+}
+
+// 0x00BBGGRR <-> the legacy drawing's 0x00RRGGBB.
+uint32_t RrggbbOf(uint32_t rgbLong) {
+    return ArgbFromRgbLong(rgbLong) & 0xFFFFFFu;
+}
+
+int32_t RgbLongOf(uint32_t rrggbb) {
+    return static_cast<int32_t>(RgbLongFromArgb(rrggbb));
+}
+
+struct Corners {
+    ShapeBounds bounds;
+    CellPoint from;
+    CellPoint to;
+};
+
+Corners CornersOf(const WorksheetModel& sheet, const ShapeModel& shape) {
+    const ShapeBounds bounds = BoundsOf(sheet, shape);
+    return Corners{bounds, CellPointAt(sheet, bounds.left, bounds.top),
+                   CellPointAt(sheet, bounds.left + bounds.width, bounds.top + bounds.height)};
+}
+
+ooxml::TextBoxShape TextBoxOf(const WorksheetModel& sheet, const ShapeModel& shape) {
+    const Corners corners = CornersOf(sheet, shape);
+    const TextMargins margins = shape.text.Margins();
+    ooxml::TextBoxShape out;
+    out.id = shape.id;
+    out.name = shape.name;
+    out.editAs = std::string(NameOf(AnchorKinds, shape.placement));
+    out.from = AnchorOf(corners.from);
+    out.to = AnchorOf(corners.to);
+    out.x = Emu(corners.bounds.left);
+    out.y = Emu(corners.bounds.top);
+    out.width = Emu(corners.bounds.width);
+    out.height = Emu(corners.bounds.height);
+    if (shape.fill.visible) {
+        out.fill = shape.fill.color.color;
+    }
+    out.fillTransparency = shape.fill.transparency;
+    if (shape.line.visible) {
+        out.line = shape.line.color.color;
+    }
+    out.lineWidth = Emu(shape.line.weight);
+    out.insetLeft = Emu(margins.left);
+    out.insetTop = Emu(margins.top);
+    out.insetRight = Emu(margins.right);
+    out.insetBottom = Emu(margins.bottom);
+    out.wrap = shape.text.wordWrap;
+    out.autoFit = shape.text.autoSize;
+    out.verticalAnchor = std::string(NameOf(VerticalAnchors, shape.text.verticalAlignment));
+    out.alignment = std::string(NameOf(HorizontalAlignments, shape.text.horizontalAlignment));
+    out.macro = shape.onAction;
+    out.hidden = !shape.visible;
+    out.text = SpelledOut(shape.text);
+    return out;
+}
+
+ooxml::CellComment CommentOf(const WorksheetModel& sheet, const ShapeModel& shape) {
+    const Corners corners = CornersOf(sheet, shape);
+    const Palette& palette = sheet.Book().Palette();
+    ooxml::CellComment out;
+    out.row = static_cast<uint32_t>(shape.comment->row);
+    out.column = static_cast<uint32_t>(shape.comment->column);
+    out.author = shape.comment->author;
+    out.text = SpelledOut(shape.text);
+    out.visible = shape.visible;
+    out.left = corners.bounds.left;
+    out.top = corners.bounds.top;
+    out.width = corners.bounds.width;
+    out.height = corners.bounds.height;
+    out.anchor = ooxml::LegacyAnchor{static_cast<uint32_t>(corners.from.column - 1),
+                                     Pixels(corners.from.columnOffset),
+                                     static_cast<uint32_t>(corners.from.row - 1),
+                                     Pixels(corners.from.rowOffset),
+                                     static_cast<uint32_t>(corners.to.column - 1),
+                                     Pixels(corners.to.columnOffset),
+                                     static_cast<uint32_t>(corners.to.row - 1),
+                                     Pixels(corners.to.rowOffset)};
+    out.moveWithCells = shape.placement != xlFreeFloating;
+    out.sizeWithCells = shape.placement == xlMoveAndSize;
+    out.fillRgb = RrggbbOf(RgbOf(shape.fill.color, palette));
+    out.lineRgb = RrggbbOf(RgbOf(shape.line.color, palette));
+    out.lineWeight = shape.line.weight;
+    if (!shape.text.autoMargins) {
+        const TextMargins& margins = shape.text.margins;
+        out.insets = std::array<double, 4>{margins.left, margins.top, margins.right, margins.bottom};
+    }
+    return out;
+}
+
+void LoadTextBox(WorksheetModel& sheet, const ooxml::TextBoxShape& in) {
+    auto shape = std::make_shared<ShapeModel>();
+    shape->id = in.id;
+    shape->name = in.name;
+    shape->type = msoTextBox;
+    shape->placement = ValueOf(AnchorKinds, in.editAs);
+    shape->visible = !in.hidden;
+    shape->fill.visible = in.fill.has_value();
+    shape->fill.color = in.fill ? ShapeColorOf(*in.fill) : ShapeColorFromRgb(0xFFFFFF);
+    shape->fill.transparency = in.fillTransparency;
+    shape->line.visible = in.line.has_value();
+    shape->line.color = in.line ? ShapeColorOf(*in.line) : ShapeColorFromRgb(0);
+    shape->line.weight = PointsFromEmu(in.lineWidth);
+    ShapeText& text = shape->text;
+    text.margins = TextMargins{PointsFromEmu(in.insetLeft), PointsFromEmu(in.insetTop), PointsFromEmu(in.insetRight),
+                               PointsFromEmu(in.insetBottom)};
+    text.autoMargins = text.margins == TextMargins{};
+    text.wordWrap = in.wrap;
+    text.autoSize = in.autoFit;
+    text.verticalAlignment = ValueOf(VerticalAnchors, in.verticalAnchor);
+    text.horizontalAlignment = ValueOf(HorizontalAlignments, in.alignment);
+    shape->onAction = in.macro;
+    LoadText(text, in.text);
+    Place(sheet, *shape,
+          ShapeBounds{PointsFromEmu(in.x), PointsFromEmu(in.y), PointsFromEmu(in.width), PointsFromEmu(in.height)});
+    sheet.Shapes().AddOpened(std::move(shape));
+}
+
+void LoadComment(WorksheetModel& sheet, const ooxml::CellComment& in) {
+    auto shape = AddCellComment(sheet, static_cast<int32_t>(in.row), static_cast<int32_t>(in.column), in.author, "");
+    LoadText(shape->text, in.text);
+    shape->visible = in.visible;
+    shape->placement = !in.moveWithCells ? xlFreeFloating : in.sizeWithCells ? xlMoveAndSize : xlMove;
+    shape->fill.color = ShapeColorFromRgb(RgbLongOf(in.fillRgb));
+    shape->line.color = ShapeColorFromRgb(RgbLongOf(in.lineRgb));
+    shape->line.weight = in.lineWeight;
+    if (in.insets) {
+        const auto& [left, top, right, bottom] = *in.insets;
+        shape->text.autoMargins = false;
+        shape->text.margins = TextMargins{left, top, right, bottom};
+    }
+    if (in.hasShape) {
+        Place(sheet, *shape, ShapeBounds{in.left, in.top, in.width, in.height});
+    }
+}
+
+}  // namespace
+
+void ConvertShapes(const WorksheetModel& sheet, ooxml::SheetDocument& out) {
+    for (const auto& shape : sheet.Shapes().All()) {
+        if (shape->comment) {
+            out.comments.push_back(CommentOf(sheet, *shape));
+        } else {
+            out.textBoxes.push_back(TextBoxOf(sheet, *shape));
+        }
+    }
+    std::sort(out.comments.begin(), out.comments.end(), [](const auto& a, const auto& b) {
+        return std::pair(a.row, a.column) < std::pair(b.row, b.column);
+    });
+}
+
+void LoadShapes(WorksheetModel& sheet, const ooxml::SheetDocument& in) {
+    for (const ooxml::TextBoxShape& box : in.textBoxes) {
+        LoadTextBox(sheet, box);
+    }
+    for (const ooxml::CellComment& comment : in.comments) {
+        LoadComment(sheet, comment);
+    }
+}
+
+}  // namespace excel::embedded

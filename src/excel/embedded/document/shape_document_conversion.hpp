@@ -1,0 +1,15 @@
+#pragma once
+
+#include "excel/embedded/model/worksheet_model.hpp"
+#include "ooxml/document/workbook_document.hpp"
+
+namespace excel::embedded {
+
+// A sheet's text boxes and comments as the drawing, comments and legacy drawing parts store
+// them, and back. Saved and opened again, every text box and comment keeps its text, fonts,
+// colours, margins, sizing and place.
+void ConvertShapes(const WorksheetModel& sheet, ooxml::SheetDocument& out);
+// Loads them into a sheet whose rows and columns are loaded already.
+void LoadShapes(WorksheetModel& sheet, const ooxml::SheetDocument& in);
+
+}  // namespace excel::embedded

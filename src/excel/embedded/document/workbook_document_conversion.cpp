@@ -1,0 +1,335 @@
+#include "excel/embedded/document/workbook_document_conversion.hpp"
+
+#include "excel/embedded/document/shape_document_conversion.hpp"
+#include "excel/embedded/format/color_conversion.hpp"
+#include "excel/embedded/format/palette.hpp"
+#include "excel/embedded/model/geometry/geometry.hpp"
+#include "excel/embedded/model/names/defined_name_rules.hpp"
+#include "excel/embedded/text/text_entry.hpp"
+
+#include <algorithm>
+#include <ctime>
+#include <unordered_map>
+
+namespace excel::embedded {
+
+namespace {
+
+constexpr uint32_t unmapped = UINT32_MAX;
+
+// The file's palette entries are 0x00RRGGBB; the object model's are 0x00BBGGRR.
+uint32_t SwapRedBlue(uint32_t color) {
+    return ((color & 0xFFu) << 16) | (color & 0xFF00u) | ((color >> 16) & 0xFFu);
+}
+
+// Numbers the strings cells use, in first-use order, so unused pool entries are not saved.
+class StringNumbering {
+public:
+    StringNumbering(const StringPool& pool, std::vector<ooxml::SharedString>& out) : pool_(pool), out_(out) {}
+
+    uint32_t Number(uint32_t poolId) {
+        if (poolId >= numbers_.size()) {
+            numbers_.resize(poolId + 1, unmapped);
+        }
+        if (numbers_[poolId] == unmapped) {
+            numbers_[poolId] = static_cast<uint32_t>(out_.size());
+            out_.push_back(pool_.Get(poolId));
+        }
+        return numbers_[poolId];
+    }
+    uint32_t NumberText(const std::string& text) {
+        auto [it, inserted] = texts_.try_emplace(text, static_cast<uint32_t>(out_.size()));
+        if (inserted) {
+            out_.push_back(ooxml::SharedString{text, {}});
+        }
+        return it->second;
+    }
+
+private:
+    const StringPool& pool_;
+    std::vector<ooxml::SharedString>& out_;
+    std::vector<uint32_t> numbers_;
+    std::unordered_map<std::string, uint32_t> texts_;
+};
+
+void ConvertColumns(const WorksheetModel& sheet, ooxml::SheetDocument& out) {
+    for (const ColumnRun& run : sheet.Columns().Runs()) {
+        const ColumnInfo& info = run.info;
+        ooxml::ColumnRange range;
+        range.first = static_cast<uint32_t>(run.first);
+        range.last = static_cast<uint32_t>(run.last);
+        if (info.HasCustomWidth()) {
+            range.width = FileColumnWidth(info.width);
+        }
+        if (info.format != 0) {
+            range.format = info.format;
+        }
+        range.hidden = info.hidden || (info.HasCustomWidth() && info.width == 0.0);
+        out.columns.push_back(range);
+    }
+}
+
+// Puts a value, a cell's own or the result an opened formula keeps, into the document's cell.
+void ConvertValue(const Cell& value, StringNumbering& strings, ooxml::Cell& out) {
+    switch (value.kind) {
+        case CellKind::Blank:
+        case CellKind::Formula:
+        case CellKind::OpenedFormula:
+            break;
+        case CellKind::Number:
+            out.type = ooxml::CellType::Number;
+            out.number = value.number;
+            break;
+        case CellKind::Boolean:
+            out.type = ooxml::CellType::Boolean;
+            out.number = value.number;
+            break;
+        case CellKind::Text:
+            out.type = ooxml::CellType::String;
+            out.string = strings.Number(value.text);
+            break;
+        case CellKind::Error:
+            out.type = ooxml::CellType::Error;
+            out.string = strings.NumberText(ErrorTextFromNumber(value.error));
+            break;
+    }
+}
+
+// Adds an opened formula of the cell at row, column to the sheet's formulas with its result and,
+// for an array formula, the block it fills.
+uint32_t ConvertOpenedFormula(const OpenedFormula& formula, int32_t row, int32_t column, const StringPool& pool,
+                              StringNumbering& strings, ooxml::SheetDocument& sheet, ooxml::Cell& out) {
+    const auto index = static_cast<uint32_t>(sheet.formulas.size());
+    sheet.formulas.push_back(pool.Get(formula.text).text);
+    ConvertValue(formula.result, strings, out);
+    if (formula.IsArray()) {
+        sheet.arrayFormulas.emplace(
+            index, ooxml::CellBlock{static_cast<uint32_t>(row), static_cast<uint32_t>(column),
+                                    static_cast<uint32_t>(std::min(row + formula.arrayRows - 1, MaxRow)),
+                                    static_cast<uint32_t>(std::min(column + formula.arrayColumns - 1, MaxColumn))});
+    }
+    return index;
+}
+
+ooxml::SheetDocument ConvertSheet(const WorksheetModel& sheet, StringNumbering& strings) {
+    const StringPool& pool = sheet.Book().Strings();
+    const OpenedFormulaTable& formulas = sheet.Book().OpenedFormulas();
+    const SheetSettings& settings = sheet.Settings();
+    ooxml::SheetDocument out;
+    out.name = settings.name;
+    out.state = settings.visibility == 0 ? "hidden" : settings.visibility == 2 ? "veryHidden" : "visible";
+    out.showGridLines = settings.showGridlines;
+    out.printGridLines = settings.printGridlines;
+    out.showPageBreaks = settings.showPageBreaks;
+    out.defaultRowHeight = settings.defaultRowHeight;
+    out.activeCell = settings.activeCell;
+    ConvertColumns(sheet, out);
+    out.rows.reserve(sheet.Cells().Rows().size());
+    for (const RowData& row : sheet.Cells().Rows()) {
+        if (row.IsBare()) {
+            continue;
+        }
+        ooxml::Row outRow;
+        outRow.index = static_cast<uint32_t>(row.index);
+        if (row.HasCustomHeight()) {
+            outRow.height = row.height;
+        }
+        if (row.hasFormat) {
+            outRow.format = row.format;
+        }
+        outRow.hidden = row.hidden;
+        outRow.cells.reserve(row.cells.size());
+        for (const Cell& cell : row.cells) {
+            ooxml::Cell outCell;
+            outCell.column = cell.column;
+            outCell.format = cell.format;
+            if (cell.kind == CellKind::Formula) {
+                outCell.formula = static_cast<uint32_t>(out.formulas.size());
+                out.formulas.push_back(pool.Get(cell.text).text);
+            } else if (cell.kind == CellKind::OpenedFormula) {
+                outCell.formula =
+                    ConvertOpenedFormula(formulas.Get(cell.text), row.index, cell.column, pool, strings, out, outCell);
+            } else {
+                ConvertValue(cell, strings, outCell);
+            }
+            outRow.cells.push_back(outCell);
+        }
+        out.rows.push_back(std::move(outRow));
+    }
+    for (const CellBlock& merge : sheet.Merges()) {
+        out.merges.push_back(ooxml::CellBlock{static_cast<uint32_t>(merge.top), static_cast<uint32_t>(merge.left),
+                                              static_cast<uint32_t>(merge.bottom), static_cast<uint32_t>(merge.right)});
+    }
+    ConvertShapes(sheet, out);
+    return out;
+}
+
+// The document's strings as the workbook's StringPool ids, and its texts for error values.
+struct DocumentStrings {
+    std::vector<uint32_t> ids;
+    const std::vector<ooxml::SharedString>& texts;
+};
+
+// Gives the cell the value the document's cell holds (its own, or a formula's result).
+void LoadValue(const ooxml::Cell& in, const DocumentStrings& strings, Cell& cell) {
+    if (in.type == ooxml::CellType::Number || in.type == ooxml::CellType::Boolean) {
+        cell.kind = in.type == ooxml::CellType::Number ? CellKind::Number : CellKind::Boolean;
+        cell.number = in.number;
+    } else if (in.type == ooxml::CellType::String && in.string < strings.ids.size()) {
+        cell.kind = CellKind::Text;
+        cell.text = strings.ids[in.string];
+    } else if (in.type == ooxml::CellType::Error && in.string < strings.texts.size()) {
+        cell.kind = CellKind::Error;
+        cell.error = ErrorNumberFromText(strings.texts[in.string].text).value_or(2042);
+    }
+}
+
+// Gives the cell the document cell's formula. One with a cached result or an array block becomes
+// an opened formula that keeps them; any other is stored as a formula set by the client is.
+void LoadFormula(const ooxml::SheetDocument& sheet, const ooxml::Cell& in, const DocumentStrings& strings,
+                 WorkbookModel& book, Cell& cell) {
+    const uint32_t text = book.Strings().Intern(sheet.formulas[in.formula]);
+    const auto array = sheet.arrayFormulas.find(in.formula);
+    if (in.type == ooxml::CellType::Blank && array == sheet.arrayFormulas.end()) {
+        cell.kind = CellKind::Formula;
+        cell.text = text;
+        return;
+    }
+    OpenedFormula formula;
+    formula.text = text;
+    LoadValue(in, strings, formula.result);
+    if (array != sheet.arrayFormulas.end()) {
+        formula.arrayRows = static_cast<int32_t>(array->second.lastRow - array->second.firstRow + 1);
+        formula.arrayColumns = static_cast<int32_t>(array->second.lastColumn - array->second.firstColumn + 1);
+    }
+    cell.kind = CellKind::OpenedFormula;
+    cell.text = book.OpenedFormulas().Add(formula);
+}
+
+void LoadSheet(WorksheetModel& sheet, const ooxml::SheetDocument& in, const std::vector<uint32_t>& formatIds,
+               const DocumentStrings& strings) {
+    SheetSettings& settings = sheet.Settings();
+    settings.visibility = in.state == "hidden" ? 0 : in.state == "veryHidden" ? 2 : -1;
+    settings.showGridlines = in.showGridLines;
+    settings.printGridlines = in.printGridLines;
+    settings.showPageBreaks = in.showPageBreaks;
+    settings.defaultRowHeight = in.defaultRowHeight;
+    settings.activeCell = in.activeCell;
+    auto formatId = [&](uint32_t index) { return index < formatIds.size() ? formatIds[index] : 0u; };
+    for (const ooxml::ColumnRange& range : in.columns) {
+        const auto last = static_cast<int32_t>(std::min<uint32_t>(range.last, MaxColumn));
+        sheet.Columns().Update(static_cast<int32_t>(range.first), last, [&](ColumnInfo& info) {
+            if (range.width) {
+                info.width = ColumnWidthFromFile(*range.width);
+            }
+            info.format = range.format ? formatId(*range.format) : 0;
+            info.hidden = range.hidden;
+        });
+    }
+    auto& rows = sheet.Cells().Rows();
+    rows.reserve(in.rows.size());
+    for (const ooxml::Row& inRow : in.rows) {
+        RowData& row = sheet.Cells().EnsureRow(static_cast<int32_t>(inRow.index));
+        row.height = inRow.height.value_or(-1.0);
+        row.hasFormat = inRow.format.has_value();
+        row.format = inRow.format ? formatId(*inRow.format) : 0;
+        row.hidden = inRow.hidden;
+        row.cells.reserve(inRow.cells.size());
+        for (const ooxml::Cell& inCell : inRow.cells) {
+            Cell cell = Cell::Blank(static_cast<int32_t>(inCell.column), formatId(inCell.format));
+            if (inCell.formula != ooxml::NoFormula && inCell.formula < in.formulas.size()) {
+                LoadFormula(in, inCell, strings, sheet.Book(), cell);
+            } else {
+                LoadValue(inCell, strings, cell);
+            }
+            row.cells.push_back(cell);
+        }
+    }
+    sheet.RowHeightsChanged();
+    for (const ooxml::CellBlock& merge : in.merges) {
+        sheet.Merges().push_back(CellBlock{static_cast<int32_t>(merge.firstRow),
+                                           static_cast<int32_t>(merge.firstColumn), static_cast<int32_t>(merge.lastRow),
+                                           static_cast<int32_t>(merge.lastColumn)});
+    }
+    LoadShapes(sheet, in);
+}
+
+}  // namespace
+
+ooxml::WorkbookDocument ToDocument(const WorkbookModel& book, const std::string& author) {
+    ooxml::WorkbookDocument document;
+    document.formats = book.Formats().All();
+    StringNumbering strings(book.Strings(), document.strings);
+    for (const auto& sheet : book.Sheets()) {
+        document.sheets.push_back(ConvertSheet(*sheet, strings));
+        document.sheets.back().tabSelected = sheet.get() == book.ActiveSheet();
+        if (sheet.get() == book.ActiveSheet()) {
+            document.activeSheet = static_cast<uint32_t>(document.sheets.size() - 1);
+        }
+    }
+    for (const auto& name : book.Names()) {
+        ooxml::DefinedName out{name->name, name->formula, std::nullopt, !name->visible};
+        if (name->localSheet) {
+            out.localSheet = static_cast<uint32_t>(book.SheetPosition(*name->localSheet));
+        }
+        document.names.push_back(out);
+    }
+    if (book.Palette() != DefaultPalette()) {
+        for (uint32_t color : book.Palette()) {
+            document.palette.push_back(SwapRedBlue(color));
+        }
+    }
+    document.lockStructure = book.ProtectStructure();
+    document.lockWindows = book.ProtectWindows();
+    document.properties.creator = author;
+    document.properties.lastModifiedBy = author;
+    document.properties.created = std::time(nullptr);
+    document.properties.modified = document.properties.created;
+    return document;
+}
+
+void LoadDocument(WorkbookModel& book, const ooxml::WorkbookDocument& document) {
+    std::vector<uint32_t> formatIds;
+    formatIds.reserve(document.formats.size());
+    for (const ooxml::CellFormat& format : document.formats) {
+        formatIds.push_back(book.Formats().Intern(format));
+    }
+    DocumentStrings strings{{}, document.strings};
+    strings.ids.reserve(document.strings.size());
+    for (const ooxml::SharedString& text : document.strings) {
+        strings.ids.push_back(book.Strings().Add(text));
+    }
+    for (const ooxml::SheetDocument& sheet : document.sheets) {
+        LoadSheet(*book.AppendSheet(sheet.name), sheet, formatIds, strings);
+    }
+    if (document.activeSheet < book.Sheets().size() &&
+        book.Sheets()[document.activeSheet]->Settings().visibility == -1) {
+        book.ActivateSheet(*book.Sheets()[document.activeSheet]);
+    }
+    std::vector<std::shared_ptr<DefinedNameModel>> names;
+    for (const ooxml::DefinedName& name : document.names) {
+        std::shared_ptr<WorksheetModel> local;
+        if (name.localSheet && *name.localSheet < book.Sheets().size()) {
+            local = book.Sheets()[*name.localSheet];
+        }
+        // A name defined twice in one scope (files from other programs have them) keeps its first
+        // definition: saved twice, it would make Excel repair the file.
+        const auto sameNameAndScope = [&](const std::shared_ptr<DefinedNameModel>& earlier) {
+            return earlier->localSheet == local && SameDefinedName(earlier->name, name.name);
+        };
+        if (std::any_of(names.begin(), names.end(), sameNameAndScope)) {
+            continue;
+        }
+        names.push_back(
+            std::make_shared<DefinedNameModel>(DefinedNameModel{name.name, name.formula, local, !name.hidden, false}));
+    }
+    book.AddOpenedNames(std::move(names));
+    if (document.palette.size() == 56) {
+        for (size_t i = 0; i < 56; ++i) {
+            book.Palette()[i] = SwapRedBlue(document.palette[i]);
+        }
+    }
+    book.Protect("", document.lockStructure, document.lockWindows);
+}
+
+}  // namespace excel::embedded

@@ -1,0 +1,108 @@
+#include "excel/embedded/format/color_model.hpp"
+
+#include "excel/embedded/engine_errors.hpp"
+#include "excel/embedded/format/color_conversion.hpp"
+#include "excel/embedded/format/palette.hpp"
+#include "excel/embedded/format/theme_colors.hpp"
+
+#include <excel/constants.hpp>
+
+namespace excel::embedded {
+
+namespace {
+// The file's indexed colours 0..7 repeat the palette's first eight; 8..63 are the palette.
+constexpr int32_t firstPaletteIndex = 8;
+constexpr int32_t systemForeground = 64;
+constexpr int32_t systemBackground = 65;
+constexpr uint32_t white = 0xFFFFFF;
+}  // namespace
+
+uint32_t RgbOf(const ooxml::Color& color, const Palette& palette, uint32_t automatic) {
+    switch (color.kind) {
+        case ooxml::Color::Kind::Rgb:
+            return ApplyTintAndShade(RgbLongFromArgb(color.argb), color.tint);
+        case ooxml::Color::Kind::Indexed:
+            if (color.index >= 0 && color.index < firstPaletteIndex) {
+                return palette[static_cast<size_t>(color.index)];
+            }
+            if (color.index >= firstPaletteIndex && color.index < firstPaletteIndex + 56) {
+                return palette[static_cast<size_t>(color.index - firstPaletteIndex)];
+            }
+            return color.index == systemBackground ? white : automatic;
+        case ooxml::Color::Kind::Theme:
+            if (color.index >= 0 && color.index < 12) {
+                return ApplyTintAndShade(OfficeThemeColors()[static_cast<size_t>(color.index)], color.tint);
+            }
+            return automatic;
+        case ooxml::Color::Kind::None:
+        case ooxml::Color::Kind::Auto:
+            break;
+    }
+    return automatic;
+}
+
+int32_t ColorIndexOf(const ooxml::Color& color, const Palette& palette, int32_t whenAutomatic) {
+    switch (color.kind) {
+        case ooxml::Color::Kind::None:
+        case ooxml::Color::Kind::Auto:
+            return whenAutomatic;
+        case ooxml::Color::Kind::Indexed:
+            if (color.index >= 0 && color.index < firstPaletteIndex) {
+                return color.index + 1;
+            }
+            if (color.index >= firstPaletteIndex && color.index < firstPaletteIndex + 56) {
+                return color.index - firstPaletteIndex + 1;
+            }
+            return color.index == systemForeground ? whenAutomatic : NearestColorIndex(palette, white);
+        case ooxml::Color::Kind::Rgb:
+        case ooxml::Color::Kind::Theme:
+            break;
+    }
+    return NearestColorIndex(palette, RgbOf(color, palette, 0));
+}
+
+int32_t ThemeColorOf(const ooxml::Color& color) {
+    if (color.kind != ooxml::Color::Kind::Theme) {
+        ThrowRefused("Unable to get the ThemeColor property: the colour is not a theme colour");
+    }
+    return ThemeColorFromThemeIndex(color.index);
+}
+
+double TintOf(const ooxml::Color& color) {
+    return color.kind == ooxml::Color::Kind::None ? 0.0 : color.tint;
+}
+
+ooxml::Color ColorFromRgb(int32_t rgb) {
+    if (rgb < 0 || rgb > 0xFFFFFF) {
+        ThrowRefused("Unable to set the Color property");
+    }
+    return ooxml::Color{ooxml::Color::Kind::Rgb, ArgbFromRgbLong(static_cast<uint32_t>(rgb)), 0, 0.0};
+}
+
+ooxml::Color ColorFromIndex(int32_t colorIndex) {
+    if (colorIndex < 1 || colorIndex > 56) {
+        ThrowRefused("Unable to set the ColorIndex property");
+    }
+    return ooxml::Color{ooxml::Color::Kind::Indexed, 0, colorIndex + firstPaletteIndex - 1, 0.0};
+}
+
+ooxml::Color ColorFromTheme(int32_t themeColor) {
+    const int32_t index = ThemeIndexFromThemeColor(themeColor);
+    if (index < 0) {
+        ThrowRefused("Unable to set the ThemeColor property");
+    }
+    return ooxml::Color{ooxml::Color::Kind::Theme, 0, index, 0.0};
+}
+
+ooxml::Color WithTint(ooxml::Color color, double tint) {
+    if (!(tint >= -1.0 && tint <= 1.0)) {
+        ThrowRefused("Unable to set the TintAndShade property");
+    }
+    if (color.kind == ooxml::Color::Kind::None || color.kind == ooxml::Color::Kind::Auto) {
+        color = ooxml::Color{ooxml::Color::Kind::Theme, 0, 1, 0.0};
+    }
+    color.tint = tint;
+    return color;
+}
+
+}  // namespace excel::embedded

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "ooxml/document/workbook_document.hpp"
+
+#include <cstddef>
+#include <cstdint>
+#include <unordered_map>
+#include <vector>
+
+namespace excel::embedded {
+
+struct CellFormatHash {
+    size_t operator()(const ooxml::CellFormat& format) const;
+};
+
+// The workbook's cell formats, each stored once; cells, rows and columns hold an id. Id 0 is the
+// default format.
+class FormatTable {
+public:
+    FormatTable();
+
+    uint32_t Intern(const ooxml::CellFormat& format);
+    const ooxml::CellFormat& Get(uint32_t id) const { return formats_[id]; }
+    const std::vector<ooxml::CellFormat>& All() const { return formats_; }
+
+private:
+    std::vector<ooxml::CellFormat> formats_;
+    std::unordered_map<ooxml::CellFormat, uint32_t, CellFormatHash> ids_;
+};
+
+}  // namespace excel::embedded

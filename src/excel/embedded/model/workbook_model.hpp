@@ -1,0 +1,110 @@
+#pragma once
+
+#include "excel/embedded/format/format_table.hpp"
+#include "excel/embedded/model/block_shift.hpp"
+#include "excel/embedded/model/cells/opened_formula_table.hpp"
+#include "excel/embedded/model/names/defined_name_model.hpp"
+#include "excel/embedded/model/string_pool.hpp"
+#include "excel/embedded/model/worksheet_model.hpp"
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace excel::embedded {
+
+class ApplicationModel;
+
+// A workbook's content and state. Owned by the application while open; views hold it by
+// shared_ptr and find it detached once closed.
+class WorkbookModel : public std::enable_shared_from_this<WorkbookModel> {
+public:
+    WorkbookModel(ApplicationModel& app, std::string name);
+    ~WorkbookModel();
+    WorkbookModel(const WorkbookModel&) = delete;
+    WorkbookModel& operator=(const WorkbookModel&) = delete;
+
+    bool Alive() const { return app_ != nullptr; }
+    // Closes: the sheets and every view of them stop working.
+    void Detach();
+    ApplicationModel& App() const;
+
+    const std::string& Name() const { return name_; }
+    const std::string& FullName() const { return fullName_; }
+    // The workbook now lives at path (absolute): its name becomes the file name.
+    void SetFile(const std::string& path);
+    bool HasFile() const { return !fullName_.empty(); }
+
+    // Sheets
+    const std::vector<std::shared_ptr<WorksheetModel>>& Sheets() const { return sheets_; }
+    int32_t SheetPosition(const WorksheetModel& sheet) const;  // 0-based, -1 when absent
+    std::shared_ptr<WorksheetModel> FindSheet(std::string_view name) const;
+    // Inserts count new sheets at position (0-based), named SheetN with the next free numbers;
+    // the last one becomes active and is returned.
+    std::shared_ptr<WorksheetModel> AddSheets(size_t position, int32_t count);
+    // Appends a sheet with a given name (opening a file); no checks.
+    std::shared_ptr<WorksheetModel> AppendSheet(const std::string& name);
+    void DeleteSheet(WorksheetModel& sheet);
+    void RenameSheet(WorksheetModel& sheet, const std::string& name);
+    void SetSheetVisibility(WorksheetModel& sheet, int32_t visibility);
+    WorksheetModel* ActiveSheet() const { return activeSheet_; }
+    void ActivateSheet(WorksheetModel& sheet);
+    int32_t VisibleSheetCount() const;
+
+    // Defined names, kept in Excel's order (alphabetical, case-insensitive).
+    const std::vector<std::shared_ptr<DefinedNameModel>>& Names() const { return names_; }
+    std::shared_ptr<DefinedNameModel> FindName(std::string_view name, const WorksheetModel* localSheet) const;
+    // Adds or replaces a name; "Sheet1!Total" or a localSheet makes it local.
+    std::shared_ptr<DefinedNameModel> AddName(const std::string& name, const std::string& formula, bool visible,
+                                              const std::shared_ptr<WorksheetModel>& localSheet);
+    // Takes the names of an opened file as they are, unchecked, so they are saved again unchanged.
+    void AddOpenedNames(std::vector<std::shared_ptr<DefinedNameModel>> names);
+    void DeleteName(DefinedNameModel& name);
+    void RenameName(DefinedNameModel& name, const std::string& newName);
+    // The name as Name.Name reads it: "Total" or "Sheet1!Total".
+    static std::string ScopedName(const DefinedNameModel& name);
+
+    // Inserts or deletes cells of a sheet: the cells move, and names referring to them follow.
+    void ShiftCells(WorksheetModel& sheet, const BlockShift& shift);
+
+    FormatTable& Formats() { return formats_; }
+    const FormatTable& Formats() const { return formats_; }
+    StringPool& Strings() { return strings_; }
+    const StringPool& Strings() const { return strings_; }
+    OpenedFormulaTable& OpenedFormulas() { return openedFormulas_; }
+    const OpenedFormulaTable& OpenedFormulas() const { return openedFormulas_; }
+    std::array<uint32_t, 56>& Palette() { return palette_; }
+    const std::array<uint32_t, 56>& Palette() const { return palette_; }
+
+    bool ProtectStructure() const { return protectStructure_; }
+    bool ProtectWindows() const { return protectWindows_; }
+    void Protect(const std::string& password, bool structure, bool windows);
+    void Unprotect(const std::string& password);
+    void RefuseWhenStructureProtected() const;
+
+    bool Saved() const { return saved_; }
+    void SetSaved(bool saved) { saved_ = saved; }
+
+private:
+    static bool NameListedBefore(const std::shared_ptr<DefinedNameModel>& a, const std::shared_ptr<DefinedNameModel>& b);
+    void sortNames();
+
+    ApplicationModel* app_;
+    std::string name_;
+    std::string fullName_;
+    std::vector<std::shared_ptr<WorksheetModel>> sheets_;
+    WorksheetModel* activeSheet_ = nullptr;
+    std::vector<std::shared_ptr<DefinedNameModel>> names_;
+    FormatTable formats_;
+    StringPool strings_;
+    OpenedFormulaTable openedFormulas_;
+    std::array<uint32_t, 56> palette_;
+    bool protectStructure_ = false;
+    bool protectWindows_ = false;
+    std::string password_;
+    bool saved_ = true;
+};
+
+}  // namespace excel::embedded

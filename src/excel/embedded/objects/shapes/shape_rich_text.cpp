@@ -1,0 +1,43 @@
+#include "excel/embedded/objects/shapes/shape_rich_text.hpp"
+
+#include "excel/embedded/model/workbook_model.hpp"
+#include "excel/embedded/text/rich_text.hpp"
+
+#include <algorithm>
+
+namespace excel::embedded {
+
+ooxml::SharedString ShapeRichText::Text() {
+    return shape_.Shape().text.text;
+}
+
+ooxml::Font ShapeRichText::BaseFont() {
+    return shape_.Shape().text.font;
+}
+
+void ShapeRichText::SetText(const ooxml::SharedString& text) {
+    shape_.Shape().text.text = text;
+    shape_.Changed();
+}
+
+void ShapeRichText::EditFonts(size_t start, size_t count, const std::function<void(ooxml::Font&)>& edit) {
+    ShapeText& frame = shape_.Shape().text;
+    const ooxml::Font oldFont = frame.font;
+    ooxml::SharedString edited = WithFont(frame.text, start, count, edit, oldFont);
+    if (start == 0 && count == CharacterCount(frame.text)) {
+        edit(frame.font);
+        const bool allFrameFont = std::all_of(edited.runs.begin(), edited.runs.end(),
+                                              [&](const ooxml::TextRun& run) { return run.font == frame.font; });
+        if (allFrameFont) {
+            edited.runs.clear();
+        }
+    }
+    frame.text = std::move(edited);
+    shape_.Changed();
+}
+
+const Palette& ShapeRichText::Colors() {
+    return shape_.Sheet().Book().Palette();
+}
+
+}  // namespace excel::embedded

@@ -1,0 +1,152 @@
+#include "excel/embedded/text/rich_text.hpp"
+
+#include "excel/embedded/text/utf8_text.hpp"
+
+namespace excel::embedded {
+
+namespace {
+
+size_t ByteOffset(std::string_view text, size_t characters) {
+    size_t position = 0;
+    for (size_t i = 0; i < characters && position < text.size(); ++i) {
+        NextCodePoint(text, position);
+    }
+    return position;
+}
+
+std::vector<ooxml::TextRun> RunsOf(const ooxml::SharedString& text) {
+    if (text.runs.empty()) {
+        return {ooxml::TextRun{text.text, std::nullopt}};
+    }
+    return text.runs;
+}
+
+// The runs with boundaries at the characters start and end.
+std::vector<ooxml::TextRun> SplitRuns(const ooxml::SharedString& text, size_t start, size_t end) {
+    std::vector<ooxml::TextRun> result;
+    size_t offset = 0;
+    for (ooxml::TextRun& run : RunsOf(text)) {
+        const size_t length = CodePointCount(run.text);
+        size_t cut = 0;
+        for (size_t boundary : {start, end}) {
+            if (boundary > offset + cut && boundary < offset + length) {
+                const size_t bytes = ByteOffset(run.text, boundary - offset - cut);
+                result.push_back(ooxml::TextRun{run.text.substr(0, bytes), run.font});
+                run.text.erase(0, bytes);
+                cut = boundary - offset;
+            }
+        }
+        result.push_back(std::move(run));
+        offset += length;
+    }
+    return result;
+}
+
+ooxml::SharedString Joined(std::vector<ooxml::TextRun> runs) {
+    ooxml::SharedString result;
+    for (ooxml::TextRun& run : runs) {
+        if (run.text.empty()) {
+            continue;
+        }
+        result.text += run.text;
+        if (!result.runs.empty() && result.runs.back().font == run.font) {
+            result.runs.back().text += run.text;
+        } else {
+            result.runs.push_back(std::move(run));
+        }
+    }
+    if (result.runs.size() == 1 && !result.runs.front().font) {
+        result.runs.clear();
+    }
+    return result;
+}
+
+}  // namespace
+
+size_t CharacterCount(const ooxml::SharedString& text) {
+    return CodePointCount(text.text);
+}
+
+std::string CharactersOf(const ooxml::SharedString& text, size_t start, size_t count) {
+    const size_t first = ByteOffset(text.text, start);
+    const size_t last = ByteOffset(text.text, start + count);
+    return text.text.substr(first, last - first);
+}
+
+std::vector<ooxml::Font> FontsOf(const ooxml::SharedString& text, size_t start, size_t count,
+                                 const ooxml::Font& cellFont) {
+    std::vector<ooxml::Font> fonts;
+    size_t offset = 0;
+    for (const ooxml::TextRun& run : SplitRuns(text, start, start + count)) {
+        const size_t length = CodePointCount(run.text);
+        if (offset >= start && offset < start + count) {
+            fonts.push_back(run.font.value_or(cellFont));
+        }
+        offset += length;
+    }
+    if (fonts.empty()) {
+        fonts.push_back(cellFont);
+    }
+    return fonts;
+}
+
+ooxml::SharedString WithFont(const ooxml::SharedString& text, size_t start, size_t count,
+                             const std::function<void(ooxml::Font&)>& edit, const ooxml::Font& cellFont) {
+    std::vector<ooxml::TextRun> runs = SplitRuns(text, start, start + count);
+    size_t offset = 0;
+    for (ooxml::TextRun& run : runs) {
+        const size_t length = CodePointCount(run.text);
+        if (offset >= start && offset < start + count) {
+            ooxml::Font font = run.font.value_or(cellFont);
+            edit(font);
+            run.font = font;
+        }
+        offset += length;
+    }
+    // Runs left on the cell's font get it spelled out, so every run of a rich text has one.
+    for (ooxml::TextRun& run : runs) {
+        if (!run.font) {
+            run.font = cellFont;
+        }
+    }
+    ooxml::SharedString result = Joined(std::move(runs));
+    if (result.runs.size() == 1 && result.runs.front().font == cellFont) {
+        result.runs.clear();
+    }
+    return result;
+}
+
+ooxml::SharedString WithReplaced(const ooxml::SharedString& text, size_t start, size_t count,
+                                 std::string_view replacement) {
+    std::vector<ooxml::TextRun> runs = SplitRuns(text, start, start + count);
+    std::vector<ooxml::TextRun> result;
+    std::optional<ooxml::Font> font;
+    bool fontChosen = false;
+    bool inserted = false;
+    size_t offset = 0;
+    for (ooxml::TextRun& run : runs) {
+        const size_t length = CodePointCount(run.text);
+        const bool replaced = offset >= start && offset < start + count;
+        if (replaced && !fontChosen) {
+            font = run.font;
+            fontChosen = true;
+        }
+        if (!fontChosen && offset + length <= start) {
+            font = run.font;
+        }
+        if (!inserted && offset >= start) {
+            result.push_back(ooxml::TextRun{std::string(replacement), font});
+            inserted = true;
+        }
+        if (!replaced) {
+            result.push_back(std::move(run));
+        }
+        offset += length;
+    }
+    if (!inserted) {
+        result.push_back(ooxml::TextRun{std::string(replacement), font});
+    }
+    return Joined(std::move(result));
+}
+
+}  // namespace excel::embedded

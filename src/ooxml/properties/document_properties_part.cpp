@@ -1,0 +1,96 @@
+#include "ooxml/properties/document_properties_part.hpp"
+
+#include <ctime>
+#include <string>
+
+namespace ooxml {
+
+namespace {
+
+std::string W3cUtcTime(std::time_t time) {
+    std::tm utc{};
+    gmtime_r(&time, &utc);
+    char text[32];
+    const std::size_t length = std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%SZ", &utc);
+    return std::string(text, length);
+}
+
+void OptionalText(XmlWriter& xml, std::string_view element, const std::string& text) {
+    if (!text.empty()) {
+        xml.StartElement(element);
+        xml.LiteralText(text);
+        xml.EndElement();
+    }
+}
+
+void OptionalTime(XmlWriter& xml, std::string_view element, const std::optional<std::time_t>& time) {
+    if (time) {
+        xml.StartElement(element);
+        xml.Attribute("xsi:type", "dcterms:W3CDTF");
+        xml.LiteralText(W3cUtcTime(*time));
+        xml.EndElement();
+    }
+}
+
+void TextElement(XmlWriter& xml, std::string_view element, std::string_view text) {
+    xml.StartElement(element);
+    xml.LiteralText(text);
+    xml.EndElement();
+}
+
+}  // namespace
+
+void WriteCorePropertiesPart(XmlWriter& xml, const DocumentProperties& properties) {
+    xml.Declaration();
+    xml.StartElement("cp:coreProperties");
+    xml.Attribute("xmlns:cp", "http://schemas.openxmlformats.org/package/2006/metadata/core-properties");
+    xml.Attribute("xmlns:dc", "http://purl.org/dc/elements/1.1/");
+    xml.Attribute("xmlns:dcterms", "http://purl.org/dc/terms/");
+    xml.Attribute("xmlns:dcmitype", "http://purl.org/dc/dcmitype/");
+    xml.Attribute("xmlns:xsi", "http://www.w3.org/2001/XMLSchema-instance");
+    OptionalText(xml, "dc:creator", properties.creator);
+    OptionalText(xml, "cp:lastModifiedBy", properties.lastModifiedBy);
+    OptionalTime(xml, "dcterms:created", properties.created);
+    OptionalTime(xml, "dcterms:modified", properties.modified);
+    xml.EndElement();
+}
+
+void WriteAppPropertiesPart(XmlWriter& xml, const WorkbookDocument& document) {
+    xml.Declaration();
+    xml.StartElement("Properties");
+    xml.Attribute("xmlns", "http://schemas.openxmlformats.org/officeDocument/2006/extended-properties");
+    xml.Attribute("xmlns:vt", "http://schemas.openxmlformats.org/officeDocument/2006/docPropsVTypes");
+    TextElement(xml, "Application", kApplicationName);
+    TextElement(xml, "DocSecurity", "0");
+    TextElement(xml, "ScaleCrop", "false");
+
+    xml.StartElement("HeadingPairs");
+    xml.StartElement("vt:vector");
+    xml.Attribute("size", 2);
+    xml.Attribute("baseType", "variant");
+    xml.StartElement("vt:variant");
+    TextElement(xml, "vt:lpstr", "Worksheets");
+    xml.EndElement();
+    xml.StartElement("vt:variant");
+    TextElement(xml, "vt:i4", std::to_string(document.sheets.size()));
+    xml.EndElement();
+    xml.EndElement();
+    xml.EndElement();
+
+    xml.StartElement("TitlesOfParts");
+    xml.StartElement("vt:vector");
+    xml.Attribute("size", document.sheets.size());
+    xml.Attribute("baseType", "lpstr");
+    for (const SheetDocument& sheet : document.sheets) {
+        TextElement(xml, "vt:lpstr", sheet.name);
+    }
+    xml.EndElement();
+    xml.EndElement();
+
+    TextElement(xml, "LinksUpToDate", "false");
+    TextElement(xml, "SharedDoc", "false");
+    TextElement(xml, "HyperlinksChanged", "false");
+    xml.EndElement();
+}
+
+}  // namespace ooxml

@@ -1,0 +1,83 @@
+#include "ooxml/shared_strings/shared_strings_part.hpp"
+
+#include "ooxml/styles/font_element.hpp"
+
+#include <cstdint>
+
+namespace ooxml {
+
+namespace {
+
+bool IsXmlWhitespace(char c) {
+    return c == ' ' || c == '\t' || c == '\n' || c == '\r';
+}
+
+bool NeedsPreservedSpace(std::string_view text) {
+    return !text.empty() && (IsXmlWhitespace(text.front()) || IsXmlWhitespace(text.back()) ||
+                             text.find_first_of("\t\n") != std::string_view::npos);
+}
+
+}  // namespace
+
+SharedStringTable BuildSharedStringTable(const WorkbookDocument& document) {
+    SharedStringTable table;
+    table.positions.assign(document.strings.size(), SharedStringTable::kNotShared);
+    // Formula results are written in their cells, not as references. Indices out of range are
+    // skipped here and refused by the worksheet writer.
+    for (const SheetDocument& sheet : document.sheets) {
+        for (const Row& row : sheet.rows) {
+            for (const Cell& cell : row.cells) {
+                if (cell.type == CellType::String && cell.formula == NoFormula && cell.string < table.positions.size()) {
+                    table.positions[cell.string] = 0;
+                    ++table.references;
+                }
+            }
+        }
+    }
+    for (uint32_t index = 0; index < table.positions.size(); ++index) {
+        if (table.positions[index] != SharedStringTable::kNotShared) {
+            table.positions[index] = static_cast<uint32_t>(table.strings.size());
+            table.strings.push_back(index);
+        }
+    }
+    return table;
+}
+
+void WriteTextElement(XmlWriter& xml, std::string_view text) {
+    xml.StartElement("t");
+    if (NeedsPreservedSpace(text)) {
+        xml.Attribute("xml:space", "preserve");
+    }
+    xml.Text(text);
+    xml.EndElement();
+}
+
+void WriteStringItem(XmlWriter& xml, std::string_view element, const SharedString& string) {
+    xml.StartElement(element);
+    if (string.runs.empty()) {
+        WriteTextElement(xml, string.text);
+    }
+    for (const TextRun& run : string.runs) {
+        xml.StartElement("r");
+        if (run.font) {
+            WriteFont(xml, "rPr", "rFont", *run.font);
+        }
+        WriteTextElement(xml, run.text);
+        xml.EndElement();
+    }
+    xml.EndElement();
+}
+
+void WriteSharedStringsPart(XmlWriter& xml, const WorkbookDocument& document, const SharedStringTable& table) {
+    xml.Declaration();
+    xml.StartElement("sst");
+    xml.Attribute("xmlns", "http://schemas.openxmlformats.org/spreadsheetml/2006/main");
+    xml.Attribute("count", table.references);
+    xml.Attribute("uniqueCount", table.strings.size());
+    for (uint32_t index : table.strings) {
+        WriteStringItem(xml, "si", document.strings[index]);
+    }
+    xml.EndElement();
+}
+
+}  // namespace ooxml

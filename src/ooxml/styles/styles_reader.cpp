@@ -1,0 +1,157 @@
+#include "ooxml/styles/styles_reader.hpp"
+
+#include "ooxml/styles/builtin_number_formats.hpp"
+#include "ooxml/styles/color_reader.hpp"
+#include "ooxml/styles/default_palette.hpp"
+#include "ooxml/styles/font_reader.hpp"
+#include "ooxml/xml/xml_node_access.hpp"
+#include "ooxml/xml/xml_part_parser.hpp"
+
+#include <algorithm>
+#include <map>
+
+namespace ooxml {
+
+namespace {
+
+// The palette part lists all 64 indexed colours; the first 8 repeat the fixed ones, and indexes
+// 8..63 are the 56 a workbook may change.
+constexpr std::size_t FixedIndexedColors = 8;
+constexpr int32_t MaxIndent = 250;
+constexpr int32_t VerticalTextRotation = 255;
+
+template <typename Item, typename Read>
+std::vector<Item> ReadList(pugi::xml_node list, std::string_view itemName, Read read) {
+    std::vector<Item> items;
+    ForEachChild(list, itemName, [&](pugi::xml_node node) { items.push_back(read(node)); });
+    return items;
+}
+
+Fill ReadFill(pugi::xml_node node) {
+    Fill fill;
+    // A gradient has no pattern to keep; it reads as no fill.
+    if (const pugi::xml_node pattern = FirstChild(node, "patternFill")) {
+        const std::string_view type = AttributeText(pattern, "patternType");
+        fill.patternType = type.empty() ? std::string_view("none") : type;
+        fill.foreground = ReadColor(FirstChild(pattern, "fgColor"));
+        fill.background = ReadColor(FirstChild(pattern, "bgColor"));
+    }
+    return fill;
+}
+
+BorderLine ReadBorderLine(pugi::xml_node border, std::string_view side, std::string_view alternativeSide) {
+    pugi::xml_node node = FirstChild(border, side);
+    if (!node) {
+        node = FirstChild(border, alternativeSide);
+    }
+    BorderLine line;
+    const std::string_view style = AttributeText(node, "style");
+    line.style = style == "none" ? std::string_view() : style;
+    line.color = ReadColor(FirstChild(node, "color"));
+    return line;
+}
+
+Border ReadBorder(pugi::xml_node node) {
+    Border border;
+    // "start" and "end" are the names newer writers give the left and right edges.
+    border.left = ReadBorderLine(node, "left", "start");
+    border.right = ReadBorderLine(node, "right", "end");
+    border.top = ReadBorderLine(node, "top", "top");
+    border.bottom = ReadBorderLine(node, "bottom", "bottom");
+    border.diagonal = ReadBorderLine(node, "diagonal", "diagonal");
+    border.diagonalUp = AttributeBool(node, "diagonalUp", false);
+    border.diagonalDown = AttributeBool(node, "diagonalDown", false);
+    return border;
+}
+
+Alignment ReadAlignment(pugi::xml_node node) {
+    Alignment alignment;
+    const std::string_view horizontal = AttributeText(node, "horizontal");
+    alignment.horizontal = horizontal == "general" ? std::string_view() : horizontal;
+    const std::string_view vertical = AttributeText(node, "vertical");
+    alignment.vertical = vertical == "bottom" ? std::string_view() : vertical;
+    alignment.wrapText = AttributeBool(node, "wrapText", false);
+    alignment.shrinkToFit = AttributeBool(node, "shrinkToFit", false);
+    alignment.indent =
+        static_cast<int32_t>(std::min<uint32_t>(AttributeUnsigned(node, "indent").value_or(0), MaxIndent));
+    const uint32_t rotation = AttributeUnsigned(node, "textRotation").value_or(0);
+    alignment.textRotation = rotation <= 180 ? static_cast<int32_t>(rotation) : VerticalTextRotation;
+    return alignment;
+}
+
+std::map<uint32_t, std::string> ReadNumberFormatCodes(pugi::xml_node list) {
+    std::map<uint32_t, std::string> codes;
+    ForEachChild(list, "numFmt", [&](pugi::xml_node node) {
+        if (const std::optional<uint32_t> id = AttributeUnsigned(node, "numFmtId")) {
+            codes[*id] = AttributeText(node, "formatCode");
+        }
+    });
+    return codes;
+}
+
+std::string NumberFormatCode(const std::map<uint32_t, std::string>& customCodes, uint32_t id) {
+    if (const auto found = customCodes.find(id); found != customCodes.end()) {
+        return found->second;
+    }
+    const std::string_view builtin = BuiltinNumberFormatCode(id);
+    return std::string(builtin.empty() ? std::string_view("General") : builtin);
+}
+
+template <typename Item>
+const Item& ItemAt(const std::vector<Item>& items, std::optional<uint32_t> index, const Item& fallback) {
+    return index && *index < items.size() ? items[*index] : fallback;
+}
+
+std::vector<uint32_t> ReadPalette(pugi::xml_node colors) {
+    const pugi::xml_node indexed = FirstChild(colors, "indexedColors");
+    if (!indexed) {
+        return {};
+    }
+    std::vector<uint32_t> palette(DefaultPalette().begin(), DefaultPalette().end());
+    std::size_t position = 0;
+    ForEachChild(indexed, "rgbColor", [&](pugi::xml_node node) {
+        const Color color = ReadColor(node);
+        if (position >= FixedIndexedColors && position - FixedIndexedColors < palette.size() &&
+            color.kind == Color::Kind::Rgb) {
+            palette[position - FixedIndexedColors] = color.argb & 0x00FFFFFFu;
+        }
+        ++position;
+    });
+    return palette;
+}
+
+}  // namespace
+
+StylesPart ReadStyles(std::string& xml, std::string_view partName) {
+    pugi::xml_document document;
+    ParseXmlPart(document, xml, partName);
+    const pugi::xml_node styleSheet = document.document_element();
+
+    const std::map<uint32_t, std::string> customCodes = ReadNumberFormatCodes(FirstChild(styleSheet, "numFmts"));
+    const std::vector<Font> fonts = ReadList<Font>(FirstChild(styleSheet, "fonts"), "font", ReadFont);
+    const std::vector<Fill> fills = ReadList<Fill>(FirstChild(styleSheet, "fills"), "fill", ReadFill);
+    const std::vector<Border> borders = ReadList<Border>(FirstChild(styleSheet, "borders"), "border", ReadBorder);
+    const CellFormat defaults;
+
+    StylesPart styles;
+    ForEachChild(FirstChild(styleSheet, "cellXfs"), "xf", [&](pugi::xml_node xf) {
+        CellFormat format;
+        format.numberFormat = NumberFormatCode(customCodes, AttributeUnsigned(xf, "numFmtId").value_or(0));
+        format.font = ItemAt(fonts, AttributeUnsigned(xf, "fontId"), defaults.font);
+        format.fill = ItemAt(fills, AttributeUnsigned(xf, "fillId"), defaults.fill);
+        format.border = ItemAt(borders, AttributeUnsigned(xf, "borderId"), defaults.border);
+        format.alignment = ReadAlignment(FirstChild(xf, "alignment"));
+        format.quotePrefix = AttributeBool(xf, "quotePrefix", false);
+        const pugi::xml_node protection = FirstChild(xf, "protection");
+        format.locked = AttributeBool(protection, "locked", true);
+        format.hidden = AttributeBool(protection, "hidden", false);
+        styles.formats.push_back(std::move(format));
+    });
+    if (styles.formats.empty()) {
+        styles.formats.push_back(defaults);
+    }
+    styles.palette = ReadPalette(FirstChild(styleSheet, "colors"));
+    return styles;
+}
+
+}  // namespace ooxml

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "ooxml/document/workbook_document.hpp"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace ooxml {
+
+struct StylesPart {
+    std::vector<CellFormat> formats;  // one per cellXfs entry, at least one
+    std::vector<uint32_t> palette;    // 56 entries 0x00RRGGBB when the package changes the palette
+};
+
+// Resolves every cellXfs entry of the styles part into a complete CellFormat. Throws
+// PackageError(Corrupt).
+StylesPart ReadStyles(std::string& xml, std::string_view partName);
+
+}  // namespace ooxml

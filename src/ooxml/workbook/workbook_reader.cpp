@@ -1,0 +1,53 @@
+#include "ooxml/workbook/workbook_reader.hpp"
+
+#include "ooxml/xml/xml_node_access.hpp"
+#include "ooxml/xml/xml_part_parser.hpp"
+
+namespace ooxml {
+
+namespace {
+
+SheetEntry ReadSheetEntry(pugi::xml_node sheet) {
+    SheetEntry entry;
+    entry.name = AttributeText(sheet, "name");
+    const std::string_view state = AttributeText(sheet, "state");
+    if (state == "hidden" || state == "veryHidden") {
+        entry.state = state;
+    }
+    entry.relationshipId = AttributeText(sheet, "id");
+    return entry;
+}
+
+DefinedName ReadDefinedName(pugi::xml_node node) {
+    DefinedName name;
+    name.name = AttributeText(node, "name");
+    std::string_view formula = node.child_value();
+    if (!formula.empty() && formula.front() == '=') {
+        formula.remove_prefix(1);
+    }
+    name.formula = formula;
+    name.localSheet = AttributeUnsigned(node, "localSheetId");
+    name.hidden = AttributeBool(node, "hidden", false);
+    return name;
+}
+
+}  // namespace
+
+WorkbookPart ReadWorkbook(std::string& xml, std::string_view partName) {
+    pugi::xml_document document;
+    ParseXmlPart(document, xml, partName);
+    const pugi::xml_node workbook = document.document_element();
+    WorkbookPart part;
+    ForEachChild(FirstChild(workbook, "sheets"), "sheet",
+                 [&](pugi::xml_node sheet) { part.sheets.push_back(ReadSheetEntry(sheet)); });
+    ForEachChild(FirstChild(workbook, "definedNames"), "definedName",
+                 [&](pugi::xml_node name) { part.names.push_back(ReadDefinedName(name)); });
+    const pugi::xml_node view = FirstChild(FirstChild(workbook, "bookViews"), "workbookView");
+    part.activeTab = AttributeUnsigned(view, "activeTab").value_or(0);
+    const pugi::xml_node protection = FirstChild(workbook, "workbookProtection");
+    part.lockStructure = AttributeBool(protection, "lockStructure", false);
+    part.lockWindows = AttributeBool(protection, "lockWindows", false);
+    return part;
+}
+
+}  // namespace ooxml

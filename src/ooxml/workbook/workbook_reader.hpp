@@ -1,0 +1,30 @@
+#pragma once
+
+#include "ooxml/document/workbook_document.hpp"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ooxml {
+
+// A <sheet> of the workbook part. Its part is found through the workbook's relationships.
+struct SheetEntry {
+    std::string name;
+    std::string state = "visible";
+    std::string relationshipId;
+};
+
+struct WorkbookPart {
+    std::vector<SheetEntry> sheets;
+    std::vector<DefinedName> names;  // localSheet counts positions in sheets
+    uint32_t activeTab = 0;          // a position in sheets
+    bool lockStructure = false;
+    bool lockWindows = false;
+};
+
+// Throws PackageError(Corrupt).
+WorkbookPart ReadWorkbook(std::string& xml, std::string_view partName);
+
+}  // namespace ooxml

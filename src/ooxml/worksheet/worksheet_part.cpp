@@ -1,0 +1,370 @@
+#include "ooxml/worksheet/worksheet_part.hpp"
+
+#include "ooxml/opc/package_error.hpp"
+#include "ooxml/worksheet/column_name.hpp"
+#include "ooxml/worksheet/unresolvable_references.hpp"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <string>
+#include <vector>
+
+namespace ooxml {
+
+namespace {
+
+constexpr uint32_t kMaxRows = 1048576;
+constexpr uint32_t kMaxColumns = 16384;
+// Excel's standard column width in the file's units for the Calibri 11 Normal font (8.43 characters
+// plus cell padding). A col element must carry a width (Excel reads a missing one as 0, hiding the
+// columns), so ranges that set only a format or visibility get the sheet's standard width.
+constexpr double kStandardColumnWidth = 9.140625;
+
+// Column names ("A" .. "XFD") by column number, made once per column.
+class ColumnNames {
+public:
+    std::string_view Name(uint32_t column) {
+        while (names_.size() <= column) {
+            names_.push_back(ColumnName(static_cast<uint32_t>(names_.size())));
+        }
+        return names_[column];
+    }
+
+private:
+    std::vector<std::string> names_;
+};
+
+// A cell reference ("B12") composed in place.
+class CellReference {
+public:
+    std::string_view Compose(std::string_view column, uint32_t row) {
+        std::copy(column.begin(), column.end(), text_);
+        char* end = std::to_chars(text_ + column.size(), text_ + sizeof text_, row).ptr;
+        return std::string_view(text_, static_cast<std::size_t>(end - text_));
+    }
+
+private:
+    char text_[16];
+};
+
+[[noreturn]] void Malformed(const SheetDocument& sheet, const std::string& problem) {
+    throw PackageError(PackageError::Reason::WriteFailed, "sheet \"" + sheet.name + "\": " + problem);
+}
+
+class WorksheetWriter {
+public:
+    WorksheetWriter(XmlWriter& xml, const WorkbookDocument& document, const SheetDocument& sheet,
+                    const SharedStringTable& sharedStrings, const SheetDrawingReferences& drawings)
+        : xml_(xml), document_(document), sheet_(sheet), sharedStrings_(sharedStrings), drawings_(drawings) {}
+
+    // The elements in the order the worksheet schema requires.
+    void Write() {
+        xml_.Declaration();
+        xml_.StartElement("worksheet");
+        xml_.Attribute("xmlns", "http://schemas.openxmlformats.org/spreadsheetml/2006/main");
+        xml_.Attribute("xmlns:r", "http://schemas.openxmlformats.org/officeDocument/2006/relationships");
+        WriteDimension();
+        WriteSheetViews();
+        WriteSheetFormat();
+        WriteColumns();
+        WriteSheetData();
+        WriteMerges();
+        WritePrintOptions();
+        WritePageMargins();
+        WriteReference("drawing", drawings_.drawing);
+        WriteReference("legacyDrawing", drawings_.legacyDrawing);
+        xml_.EndElement();
+    }
+
+private:
+    void CheckFormat(uint32_t format) const {
+        if (format >= document_.formats.size()) {
+            Malformed(sheet_, "format " + std::to_string(format) + " does not exist");
+        }
+    }
+
+    void WriteDimension() {
+        uint32_t firstRow = 0, lastRow = 0, firstColumn = kMaxColumns, lastColumn = 0;
+        for (const Row& row : sheet_.rows) {
+            if (row.cells.empty()) {
+                continue;
+            }
+            firstRow = firstRow == 0 ? row.index : firstRow;
+            lastRow = row.index;
+            firstColumn = std::min(firstColumn, row.cells.front().column);
+            lastColumn = std::max(lastColumn, row.cells.back().column);
+        }
+        xml_.StartElement("dimension");
+        if (firstRow == 0) {
+            xml_.AttributeVerbatim("ref", "A1");
+        } else {
+            xml_.Attribute("ref", BlockReference(CellBlock{firstRow, firstColumn, lastRow, lastColumn}));
+        }
+        xml_.EndElement();
+    }
+
+    void WriteSheetViews() {
+        xml_.StartElement("sheetViews");
+        xml_.StartElement("sheetView");
+        if (!sheet_.showGridLines) {
+            xml_.Attribute("showGridLines", "0");
+        }
+        if (sheet_.tabSelected) {
+            xml_.Attribute("tabSelected", "1");
+        }
+        xml_.Attribute("workbookViewId", 0);
+        if (!sheet_.activeCell.empty() && sheet_.activeCell != "A1") {
+            xml_.StartElement("selection");
+            xml_.Attribute("activeCell", sheet_.activeCell);
+            xml_.Attribute("sqref", sheet_.activeCell);
+            xml_.EndElement();
+        }
+        xml_.EndElement();
+        xml_.EndElement();
+    }
+
+    void WriteSheetFormat() {
+        xml_.StartElement("sheetFormatPr");
+        if (sheet_.defaultColumnWidth) {
+            xml_.Attribute("defaultColWidth", *sheet_.defaultColumnWidth);
+        }
+        xml_.Attribute("defaultRowHeight", sheet_.defaultRowHeight);
+        xml_.EndElement();
+    }
+
+    void WriteColumns() {
+        if (sheet_.columns.empty()) {
+            return;
+        }
+        xml_.StartElement("cols");
+        for (const ColumnRange& range : sheet_.columns) {
+            if (range.first < 1 || range.first > range.last || range.last > kMaxColumns) {
+                Malformed(sheet_, "column range " + std::to_string(range.first) + ":" + std::to_string(range.last) +
+                                      " is not valid");
+            }
+            xml_.StartElement("col");
+            xml_.Attribute("min", range.first);
+            xml_.Attribute("max", range.last);
+            xml_.Attribute("width", range.width.value_or(sheet_.defaultColumnWidth.value_or(kStandardColumnWidth)));
+            if (range.format) {
+                CheckFormat(*range.format);
+                xml_.Attribute("style", *range.format);
+            }
+            if (range.hidden) {
+                xml_.Attribute("hidden", "1");
+            }
+            if (range.width) {
+                xml_.Attribute("customWidth", "1");
+            }
+            xml_.EndElement();
+        }
+        xml_.EndElement();
+    }
+
+    void WriteSheetData() {
+        xml_.StartElement("sheetData");
+        uint32_t previousRow = 0;
+        for (const Row& row : sheet_.rows) {
+            if (row.index <= previousRow || row.index > kMaxRows) {
+                Malformed(sheet_, "row " + std::to_string(row.index) + " is out of order or range");
+            }
+            previousRow = row.index;
+            if (row.cells.empty() && !row.height && !row.format && !row.hidden) {
+                continue;
+            }
+            WriteRow(row);
+        }
+        xml_.EndElement();
+    }
+
+    void WriteRow(const Row& row) {
+        char digits[12];
+        const std::string_view rowNumber(digits, static_cast<std::size_t>(
+                                                     std::to_chars(digits, digits + sizeof digits, row.index).ptr - digits));
+        xml_.StartElement("row");
+        xml_.AttributeVerbatim("r", rowNumber);
+        if (row.format) {
+            CheckFormat(*row.format);
+            xml_.Attribute("s", *row.format);
+            xml_.Attribute("customFormat", "1");
+        }
+        if (row.height) {
+            xml_.Attribute("ht", *row.height);
+            xml_.Attribute("customHeight", "1");
+        }
+        if (row.hidden) {
+            xml_.Attribute("hidden", "1");
+        }
+        uint32_t previousColumn = 0;
+        for (const Cell& cell : row.cells) {
+            if (cell.column <= previousColumn || cell.column > kMaxColumns) {
+                Malformed(sheet_, "cell in column " + std::to_string(cell.column) + " of row " +
+                                      std::to_string(row.index) + " is out of order or range");
+            }
+            previousColumn = cell.column;
+            WriteCell(cell, Reference(row.index, cell.column));
+        }
+        xml_.EndElement();
+    }
+
+    void CheckString(const Cell& cell, std::string_view reference) const {
+        if (cell.string >= document_.strings.size()) {
+            Malformed(sheet_, "cell " + std::string(reference) + " refers to a missing string");
+        }
+    }
+
+    const SharedString& StringOf(const Cell& cell, std::string_view reference) const {
+        CheckString(cell, reference);
+        return document_.strings[cell.string];
+    }
+
+    void WriteCell(const Cell& cell, std::string_view reference) {
+        CheckFormat(cell.format);
+        const bool hasFormula = cell.formula != NoFormula;
+        if (hasFormula && cell.formula >= sheet_.formulas.size()) {
+            Malformed(sheet_, "cell " + std::string(reference) + " refers to a missing formula");
+        }
+        // A number the file cannot hold (NaN, infinity) is stored as Excel would show it.
+        const bool unrepresentable = cell.type == CellType::Number && !std::isfinite(cell.number);
+        xml_.StartElement("c");
+        xml_.AttributeVerbatim("r", reference);
+        if (cell.format != 0) {
+            xml_.Attribute("s", cell.format);
+        }
+        if (cell.type == CellType::String) {
+            xml_.AttributeVerbatim("t", hasFormula ? "str" : "s");
+        } else if (cell.type == CellType::Boolean) {
+            xml_.AttributeVerbatim("t", "b");
+        } else if (cell.type == CellType::Error || unrepresentable) {
+            xml_.AttributeVerbatim("t", "e");
+        }
+        if (hasFormula) {
+            WriteFormula(cell.formula);
+        }
+        switch (cell.type) {
+        case CellType::Blank:
+            break;
+        case CellType::Number:
+            xml_.StartElement("v");
+            if (unrepresentable) {
+                xml_.Text("#NUM!");
+            } else {
+                xml_.Number(cell.number);
+            }
+            xml_.EndElement();
+            break;
+        case CellType::Boolean:
+            xml_.Element("v", cell.number != 0.0 ? "1" : "0");
+            break;
+        case CellType::String:
+            if (hasFormula) {
+                xml_.Element("v", StringOf(cell, reference).text);
+            } else {
+                CheckString(cell, reference);
+                xml_.StartElement("v");
+                xml_.Number(sharedStrings_.positions[cell.string]);
+                xml_.EndElement();
+            }
+            break;
+        case CellType::Error:
+            xml_.Element("v", StringOf(cell, reference).text);
+            break;
+        }
+        xml_.EndElement();
+    }
+
+    void WriteFormula(uint32_t index) {
+        const std::string& formula = sheet_.formulas[index];
+        xml_.StartElement("f");
+        if (const auto array = sheet_.arrayFormulas.find(index); array != sheet_.arrayFormulas.end()) {
+            xml_.AttributeVerbatim("t", "array");
+            xml_.Attribute("ref", BlockReference(array->second));
+        }
+        // Only a formula with a bracket can refer to another workbook; the rest are written as they are.
+        if (formula.find('[') == std::string::npos) {
+            xml_.Text(formula);
+        } else {
+            xml_.Text(WithoutUnresolvableReferences(formula));
+        }
+        xml_.EndElement();
+    }
+
+    void WriteMerges() {
+        if (sheet_.merges.empty()) {
+            return;
+        }
+        xml_.StartElement("mergeCells");
+        xml_.Attribute("count", sheet_.merges.size());
+        for (const CellBlock& block : sheet_.merges) {
+            if (block.firstRow < 1 || block.firstRow > block.lastRow || block.lastRow > kMaxRows ||
+                block.firstColumn < 1 || block.firstColumn > block.lastColumn || block.lastColumn > kMaxColumns) {
+                Malformed(sheet_, "a merged area is not a valid range");
+            }
+            xml_.StartElement("mergeCell");
+            xml_.Attribute("ref", BlockReference(block));
+            xml_.EndElement();
+        }
+        xml_.EndElement();
+    }
+
+    void WritePrintOptions() {
+        if (sheet_.printGridLines) {
+            xml_.StartElement("printOptions");
+            xml_.Attribute("gridLines", "1");
+            xml_.EndElement();
+        }
+    }
+
+    // Excel's default margins (inches).
+    void WritePageMargins() {
+        xml_.StartElement("pageMargins");
+        xml_.Attribute("left", 0.7);
+        xml_.Attribute("right", 0.7);
+        xml_.Attribute("top", 0.75);
+        xml_.Attribute("bottom", 0.75);
+        xml_.Attribute("header", 0.3);
+        xml_.Attribute("footer", 0.3);
+        xml_.EndElement();
+    }
+
+    void WriteReference(std::string_view element, const std::string& relationshipId) {
+        if (!relationshipId.empty()) {
+            xml_.StartElement(element);
+            xml_.Attribute("r:id", relationshipId);
+            xml_.EndElement();
+        }
+    }
+
+    std::string_view Reference(uint32_t row, uint32_t column) {
+        return reference_.Compose(columnNames_.Name(column), row);
+    }
+
+    // "B2:C4", or "B2" for a single cell.
+    std::string BlockReference(const CellBlock& block) {
+        std::string text(Reference(block.firstRow, block.firstColumn));
+        if (block.lastRow == block.firstRow && block.lastColumn == block.firstColumn) {
+            return text;
+        }
+        text += ':';
+        text += Reference(block.lastRow, block.lastColumn);
+        return text;
+    }
+
+    XmlWriter& xml_;
+    const WorkbookDocument& document_;
+    const SheetDocument& sheet_;
+    const SharedStringTable& sharedStrings_;
+    const SheetDrawingReferences& drawings_;
+    ColumnNames columnNames_;
+    CellReference reference_;
+};
+
+}  // namespace
+
+void WriteWorksheetPart(XmlWriter& xml, const WorkbookDocument& document, const SheetDocument& sheet,
+                        const SharedStringTable& sharedStrings, const SheetDrawingReferences& drawings) {
+    WorksheetWriter(xml, document, sheet, sharedStrings, drawings).Write();
+}
+
+}  // namespace ooxml

@@ -1,0 +1,103 @@
+#include "ooxml/zip/zip_archive_reader.hpp"
+
+#include "ooxml/opc/package_error.hpp"
+
+#include <zip.h>
+
+#include <filesystem>
+#include <fstream>
+#include <system_error>
+
+namespace ooxml {
+
+namespace {
+
+[[noreturn]] void ThrowOpenError(const std::string& path, int zipError) {
+    switch (zipError) {
+        case ZIP_ER_NOENT:
+            throw PackageError(PackageError::Reason::FileNotFound, "File not found: " + path);
+        case ZIP_ER_OPEN:
+        case ZIP_ER_READ:
+            throw PackageError(PackageError::Reason::AccessDenied, "Cannot read: " + path);
+        case ZIP_ER_MEMORY:
+            throw std::bad_alloc();
+        default:
+            throw PackageError(PackageError::Reason::NotAPackage, "Not a zip package: " + path);
+    }
+}
+
+// libzip reports a folder or an unreadable file only as a failed open; tell the caller which.
+void CheckReadable(const std::string& path) {
+    std::error_code error;
+    const auto status = std::filesystem::status(path, error);
+    if (!std::filesystem::exists(status)) {
+        throw PackageError(PackageError::Reason::FileNotFound, "File not found: " + path);
+    }
+    if (std::filesystem::is_directory(status) || !std::ifstream(path, std::ios::binary)) {
+        throw PackageError(PackageError::Reason::AccessDenied, "Cannot read: " + path);
+    }
+}
+
+}  // namespace
+
+void ZipArchiveReader::Closer::operator()(zip* archive) const {
+    zip_discard(archive);
+}
+
+ZipArchiveReader::ZipArchiveReader(const std::string& path) : path_(path) {
+    CheckReadable(path);
+    int zipError = 0;
+    zip* archive = zip_open(path.c_str(), ZIP_RDONLY, &zipError);
+    if (archive == nullptr) {
+        ThrowOpenError(path, zipError);
+    }
+    archive_.reset(archive);
+}
+
+ZipArchiveReader::~ZipArchiveReader() = default;
+
+bool ZipArchiveReader::Contains(std::string_view entryName) const {
+    const std::string name(entryName);
+    return zip_name_locate(archive_.get(), name.c_str(), ZIP_FL_NOCASE) >= 0;
+}
+
+std::optional<ZipEntryReader> ZipArchiveReader::Open(std::string_view entryName) const {
+    const std::string name(entryName);
+    const zip_int64_t index = zip_name_locate(archive_.get(), name.c_str(), ZIP_FL_NOCASE);
+    if (index < 0) {
+        return std::nullopt;
+    }
+    zip_file_t* file = zip_fopen_index(archive_.get(), static_cast<zip_uint64_t>(index), 0);
+    if (file == nullptr) {
+        throw PackageError(PackageError::Reason::Corrupt, "Cannot open entry " + name + " in " + path_);
+    }
+    return std::optional<ZipEntryReader>(std::in_place, file, name + " in " + path_);
+}
+
+std::optional<std::size_t> ZipArchiveReader::StatedSize(std::string_view entryName) const {
+    const std::string name(entryName);
+    zip_stat_t stat;
+    zip_stat_init(&stat);
+    if (zip_stat(archive_.get(), name.c_str(), ZIP_FL_NOCASE, &stat) != 0 || (stat.valid & ZIP_STAT_SIZE) == 0) {
+        return std::nullopt;
+    }
+    return static_cast<std::size_t>(stat.size);
+}
+
+std::optional<std::string> ZipArchiveReader::Read(std::string_view entryName) const {
+    std::optional<ZipEntryReader> entry = Open(entryName);
+    if (!entry) {
+        return std::nullopt;
+    }
+    std::string bytes;
+    if (const std::optional<std::size_t> size = StatedSize(entryName); size && *size <= ZipEntryReader::MaxSize) {
+        bytes.reserve(*size);
+    }
+    char buffer[64 * 1024];
+    while (const std::size_t count = entry->Read(buffer, sizeof buffer)) {
+        bytes.append(buffer, count);
+    }
+    return bytes;
+}
+
+}  // namespace ooxml

@@ -1,0 +1,28 @@
+#include "ooxml/zip/zip_entry_reader.hpp"
+
+#include "ooxml/opc/package_error.hpp"
+
+#include <zip.h>
+
+namespace ooxml {
+
+void ZipEntryReader::Closer::operator()(zip_file* file) const {
+    zip_fclose(file);
+}
+
+ZipEntryReader::ZipEntryReader(zip_file* file, std::string description)
+    : file_(file), description_(std::move(description)) {}
+
+std::size_t ZipEntryReader::Read(char* buffer, std::size_t size) {
+    const zip_int64_t count = zip_fread(file_.get(), buffer, size);
+    if (count < 0) {
+        throw PackageError(PackageError::Reason::Corrupt, "Damaged entry " + description_);
+    }
+    total_ += static_cast<std::size_t>(count);
+    if (total_ > MaxSize) {
+        throw PackageError(PackageError::Reason::Corrupt, "Oversized entry " + description_);
+    }
+    return static_cast<std::size_t>(count);
+}
+
+}  // namespace ooxml

@@ -1,0 +1,72 @@
+#include "excel/embedded/document/workbook_document_conversion.hpp"
+#include "excel/embedded/model/application_model.hpp"
+#include "excel/embedded/model/cell_address.hpp"
+#include "excel/embedded/model/geometry/geometry.hpp"
+#include "excel/embedded/model/workbook_model.hpp"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace excel::embedded {
+namespace {
+
+ooxml::WorkbookDocument TwoSheetDocument() {
+    ooxml::WorkbookDocument document;
+    document.sheets.resize(2);
+    document.sheets[0].name = "Data";
+    document.sheets[1].name = "Users";
+    return document;
+}
+
+TEST(WorkbookDocumentConversion, NameDefinedTwiceInOneScopeKeepsItsFirstDefinition) {
+    ooxml::WorkbookDocument document = TwoSheetDocument();
+    document.names = {{"_xlnm._FilterDatabase", "Users!$A$1:$E$32", 1u, true},
+                      {"_XLNM._filterdatabase", "Users!$A$1:$E$9", 1u, false},
+                      {"_xlnm._FilterDatabase", "Data!$A$1:$B$2", 0u, true},
+                      {"Total", "Data!$B$2", std::nullopt, false},
+                      {"TOTAL", "Data!$B$3", std::nullopt, false}};
+    auto app = std::make_shared<ApplicationModel>();
+    auto book = std::make_shared<WorkbookModel>(*app, "Names.xlsx");
+    LoadDocument(*book, document);
+
+    const ooxml::WorkbookDocument saved = ToDocument(*book, "test");
+    ASSERT_EQ(saved.names.size(), 3u);
+    for (const ooxml::DefinedName& name : saved.names) {
+        if (name.name == "Total") {
+            EXPECT_EQ(name.formula, "Data!$B$2");
+        } else if (name.localSheet == 1u) {
+            EXPECT_EQ(name.formula, "Users!$A$1:$E$32");
+        } else {
+            EXPECT_EQ(name.formula, "Data!$A$1:$B$2");
+        }
+    }
+}
+
+TEST(WorkbookDocumentConversion, ColumnSpansLoadAsRunsAndSaveAsOneElementPerRun) {
+    ooxml::WorkbookDocument document = TwoSheetDocument();
+    ooxml::ColumnRange wide;
+    wide.first = 1;
+    wide.last = 4;
+    wide.width = FileColumnWidth(20.0);
+    ooxml::ColumnRange rest = wide;
+    rest.first = 5;
+    rest.last = 16384;
+    rest.width = FileColumnWidth(8.45);
+    document.sheets[0].columns = {wide, rest};
+    auto app = std::make_shared<ApplicationModel>();
+    auto book = std::make_shared<WorkbookModel>(*app, "Columns.xlsx");
+    LoadDocument(*book, document);
+
+    const ColumnStore& columns = book->Sheets()[0]->Columns();
+    ASSERT_EQ(columns.Runs().size(), 2u);
+    EXPECT_EQ(columns.Runs()[1].first, 5);
+    EXPECT_EQ(columns.Runs()[1].last, MaxColumn);
+    EXPECT_EQ(columns.Get(MaxColumn), columns.Get(5));
+
+    const ooxml::WorkbookDocument saved = ToDocument(*book, "test");
+    EXPECT_EQ(saved.sheets[0].columns, document.sheets[0].columns);
+}
+
+}  // namespace
+}  // namespace excel::embedded

@@ -1,0 +1,54 @@
+#include "ooxml/workbook/workbook_part.hpp"
+#include "ooxml/writer_test_support.hpp"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+
+namespace {
+
+using namespace ooxml;
+using writer_test::ParseXml;
+using writer_test::WriteToString;
+
+// A one-sheet workbook whose A1 holds a formula, with a cached number when given one.
+WorkbookDocument FormulaInA1(std::optional<double> cachedResult) {
+    WorkbookDocument document;
+    document.sheets.push_back(SheetDocument{});
+    document.sheets[0].name = "S";
+    document.sheets[0].formulas = {"1+2"};
+    Cell cell;
+    cell.formula = 0;
+    if (cachedResult) {
+        cell.type = CellType::Number;
+        cell.number = *cachedResult;
+    }
+    document.sheets[0].rows = {Row{1, {}, {}, false, {cell}}};
+    return document;
+}
+
+// calcPr's fullCalcOnLoad as the workbook part writes it, "" when left out.
+std::string FullCalculationOnLoad(const WorkbookDocument& document) {
+    const auto xml = ParseXml(WriteToString([&](XmlWriter& writer) { WriteWorkbookPart(writer, document, {"rId1"}); }));
+    const pugi::xml_node calculation = xml->child("workbook").child("calcPr");
+    EXPECT_TRUE(calculation);
+    return calculation.attribute("fullCalcOnLoad").value();
+}
+
+TEST(WorkbookPart, FormulaWithoutResultAsksExcelToCalculateOnOpening) {
+    EXPECT_EQ(FullCalculationOnLoad(FormulaInA1(std::nullopt)), "1");
+}
+
+TEST(WorkbookPart, FormulaWithAKeptResultIsStillRecalculatedOnOpening) {
+    EXPECT_EQ(FullCalculationOnLoad(FormulaInA1(3.0)), "1");
+}
+
+TEST(WorkbookPart, WorkbookWithoutFormulasIsNotRecalculatedOnOpening) {
+    WorkbookDocument document = FormulaInA1(3.0);
+    document.sheets[0].formulas.clear();
+    document.sheets[0].rows[0].cells[0].formula = NoFormula;
+    EXPECT_EQ(FullCalculationOnLoad(document), "");
+}
+
+}  // namespace
