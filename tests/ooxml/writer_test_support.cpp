@@ -220,6 +220,7 @@ WorkbookDocument FullDocument() {
         DefinedName{"Secret", "Hidden!$A$1", std::nullopt, true},
         DefinedName{"Local", "Empty!$B$2", 2u, false},
     };
+    document.palette = {0x000000, 0xFFFFFF, 0xFF0000, 0x00FF00, 0x0000FF, 0xFFFF00, 0xFF00FF, 0x00FFFF};
     for (uint32_t i = 0; i < 56; ++i) {
         document.palette.push_back((i * 0x040404u) ^ 0x102030u);
     }

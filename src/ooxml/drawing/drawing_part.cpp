@@ -26,7 +26,7 @@ bool OneOf(const std::array<std::string_view, N>& values, std::string_view value
 
 class DrawingWriter {
 public:
-    DrawingWriter(XmlWriter& xml, const WorkbookDocument& document) : xml_(xml), palette_(document.palette) {}
+    explicit DrawingWriter(XmlWriter& xml) : xml_(xml) {}
 
     void Write(const SheetDocument& sheet) {
         xml_.Declaration();
@@ -119,7 +119,7 @@ private:
 
     void WriteFill(const std::optional<Color>& color, double transparency = 0.0) {
         if (color) {
-            WriteSolidFill(xml_, *color, palette_, transparency);
+            WriteSolidFill(xml_, *color, transparency);
         } else {
             xml_.StartElement("a:noFill");
             xml_.EndElement();
@@ -226,7 +226,7 @@ private:
         }
         if (font->color.kind != Color::Kind::None && font->color.kind != Color::Kind::Auto &&
             font->color != DefaultTextColor) {
-            WriteSolidFill(xml_, font->color, palette_);
+            WriteSolidFill(xml_, font->color);
         }
         WriteTypeface(*font);
         xml_.EndElement();
@@ -265,13 +265,12 @@ private:
     static constexpr int32_t SubscriptBaseline = -25000;
 
     XmlWriter& xml_;
-    const std::vector<uint32_t>& palette_;
 };
 
 }  // namespace
 
-void WriteDrawingPart(XmlWriter& xml, const WorkbookDocument& document, const SheetDocument& sheet) {
-    DrawingWriter(xml, document).Write(sheet);
+void WriteDrawingPart(XmlWriter& xml, const SheetDocument& sheet) {
+    DrawingWriter(xml).Write(sheet);
 }
 
 }  // namespace ooxml

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ooxml/document/workbook_document.hpp"
+#include "ooxml/document/sheet_document.hpp"
 #include "ooxml/xml/xml_writer.hpp"
 
 #include <string_view>
@@ -12,8 +12,7 @@ inline constexpr std::string_view kDrawingRelationshipType =
     "http://schemas.openxmlformats.org/officeDocument/2006/relationships/drawing";
 
 // Writes a sheet's drawing part (xl/drawings/drawingN.xml): each text box as a shape in a two-cell
-// anchor, with the style, body and runs Excel gives a text box it inserts. Indexed colours are
-// resolved through the document's palette.
-void WriteDrawingPart(XmlWriter& xml, const WorkbookDocument& document, const SheetDocument& sheet);
+// anchor, with the style, body and runs Excel gives a text box it inserts.
+void WriteDrawingPart(XmlWriter& xml, const SheetDocument& sheet);
 
 }  // namespace ooxml

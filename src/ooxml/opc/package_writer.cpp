@@ -61,14 +61,13 @@ struct DrawingPlan {
 
 // Plans the parts that hold a sheet's text boxes and comments, related from the sheet's part;
 // returns the ids the worksheet refers to them by.
-SheetDrawingReferences PlanSheetDrawings(const WorkbookDocument& document, const SheetDocument& sheet,
-                                         PackagePart& sheetPart, DrawingPlan& plan) {
+SheetDrawingReferences PlanSheetDrawings(const SheetDocument& sheet, PackagePart& sheetPart, DrawingPlan& plan) {
     SheetDrawingReferences references;
     if (!sheet.textBoxes.empty()) {
         const std::string drawing = fmt::format("drawings/drawing{}.xml", ++plan.drawingCount);
         references.drawing = sheetPart.relationships.Add(kDrawingRelationshipType, "../" + drawing);
         plan.drawings.push_back({"xl/" + drawing, kDrawingContentType,
-                                 [&document, &sheet](XmlWriter& xml) { WriteDrawingPart(xml, document, sheet); }, {}});
+                                 [&sheet](XmlWriter& xml) { WriteDrawingPart(xml, sheet); }, {}});
     }
     if (!sheet.comments.empty()) {
         ++plan.commentsCount;
@@ -101,7 +100,7 @@ void PlanPackage(const WorkbookDocument& document, Package& package) {
         sheetRelationshipIds.push_back(workbook.relationships.Add(kWorksheetRelationshipType, name));
         const SheetDocument& sheet = document.sheets[i];
         PackagePart sheetPart{"xl/" + name, kWorksheetContentType, {}, {}};
-        const SheetDrawingReferences drawings = PlanSheetDrawings(document, sheet, sheetPart, drawingPlan);
+        const SheetDrawingReferences drawings = PlanSheetDrawings(sheet, sheetPart, drawingPlan);
         sheetPart.write = [&document, &sheet, &sharedStrings, drawings](XmlWriter& xml) {
             WriteWorksheetPart(xml, document, sheet, sharedStrings, drawings);
         };
@@ -124,7 +123,8 @@ void PlanPackage(const WorkbookDocument& document, Package& package) {
     for (PackagePart& sheetPart : sheetParts) {
         package.parts.push_back(std::move(sheetPart));
     }
-    package.parts.push_back({"xl/theme/theme1.xml", kThemeContentType, WriteThemePart, {}});
+    package.parts.push_back({"xl/theme/theme1.xml", kThemeContentType,
+                             [&document](XmlWriter& xml) { WriteThemePart(xml, document.themeColors); }, {}});
     package.parts.push_back({"xl/styles.xml", kStylesContentType,
                              [&document](XmlWriter& xml) { WriteStylesPart(xml, document); }, {}});
     if (!sharedStrings.strings.empty()) {

@@ -16,10 +16,6 @@ namespace {
 
 constexpr std::string_view kMainNamespace = "http://schemas.openxmlformats.org/spreadsheetml/2006/main";
 
-// The eight fixed colours that precede the 56 changeable ones in the indexed colour table.
-constexpr std::array<uint32_t, 8> kFixedIndexedColors{0x000000, 0xFFFFFF, 0xFF0000, 0x00FF00,
-                                                      0x0000FF, 0xFFFF00, 0xFF00FF, 0x00FFFF};
-
 // Serialised pieces of a kind (fonts, fills, borders), each kept once; a piece's XML is its
 // identity, so two formats share a piece exactly when the file would say the same for both.
 class PieceTable {
@@ -188,20 +184,15 @@ void WriteCellXf(XmlWriter& xml, const CellXf& xf, const CellFormat& format) {
     xml.EndElement();
 }
 
-void WritePalette(XmlWriter& xml, const std::vector<uint32_t>& palette) {
+// An entry without a colour keeps its place, as black: the table is indexed by position.
+void WritePalette(XmlWriter& xml, const std::vector<std::optional<uint32_t>>& palette) {
     if (palette.empty()) {
         return;
     }
     xml.StartElement("colors");
     xml.StartElement("indexedColors");
-    auto writeEntry = [&xml](uint32_t rgb) {
-        WriteColor(xml, "rgbColor", Color{Color::Kind::Rgb, 0xFF000000u | rgb, 0, 0.0});
-    };
-    for (uint32_t rgb : kFixedIndexedColors) {
-        writeEntry(rgb);
-    }
-    for (uint32_t rgb : palette) {
-        writeEntry(rgb);
+    for (const std::optional<uint32_t>& rgb : palette) {
+        WriteColor(xml, "rgbColor", Color{Color::Kind::Rgb, 0xFF000000u | rgb.value_or(0), 0, 0.0});
     }
     xml.EndElement();
     xml.EndElement();

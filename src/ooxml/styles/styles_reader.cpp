@@ -2,7 +2,6 @@
 
 #include "ooxml/styles/builtin_number_formats.hpp"
 #include "ooxml/styles/color_reader.hpp"
-#include "ooxml/styles/default_palette.hpp"
 #include "ooxml/styles/font_reader.hpp"
 #include "ooxml/xml/xml_node_access.hpp"
 #include "ooxml/xml/xml_part_parser.hpp"
@@ -14,9 +13,8 @@ namespace ooxml {
 
 namespace {
 
-// The palette part lists all 64 indexed colours; the first 8 repeat the fixed ones, and indexes
-// 8..63 are the 56 a workbook may change.
-constexpr std::size_t FixedIndexedColors = 8;
+// The indexed colour table: 8 fixed colours, then the 56 a workbook may change.
+constexpr std::size_t IndexedColorCount = 64;
 constexpr int32_t MaxIndent = 250;
 constexpr int32_t VerticalTextRotation = 255;
 
@@ -102,20 +100,13 @@ const Item& ItemAt(const std::vector<Item>& items, std::optional<uint32_t> index
     return index && *index < items.size() ? items[*index] : fallback;
 }
 
-std::vector<uint32_t> ReadPalette(pugi::xml_node colors) {
-    const pugi::xml_node indexed = FirstChild(colors, "indexedColors");
-    if (!indexed) {
-        return {};
-    }
-    std::vector<uint32_t> palette(DefaultPalette().begin(), DefaultPalette().end());
-    std::size_t position = 0;
-    ForEachChild(indexed, "rgbColor", [&](pugi::xml_node node) {
-        const Color color = ReadColor(node);
-        if (position >= FixedIndexedColors && position - FixedIndexedColors < palette.size() &&
-            color.kind == Color::Kind::Rgb) {
-            palette[position - FixedIndexedColors] = color.argb & 0x00FFFFFFu;
+std::vector<std::optional<uint32_t>> ReadPalette(pugi::xml_node colors) {
+    std::vector<std::optional<uint32_t>> palette;
+    ForEachChild(FirstChild(colors, "indexedColors"), "rgbColor", [&](pugi::xml_node node) {
+        if (palette.size() < IndexedColorCount) {
+            const Color color = ReadColor(node);
+            palette.push_back(color.kind == Color::Kind::Rgb ? std::optional(color.argb & 0x00FFFFFFu) : std::nullopt);
         }
-        ++position;
     });
     return palette;
 }

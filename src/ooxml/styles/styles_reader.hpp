@@ -3,14 +3,15 @@
 #include "ooxml/document/workbook_document.hpp"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace ooxml {
 
 struct StylesPart {
-    std::vector<CellFormat> formats;  // one per cellXfs entry, at least one
-    std::vector<uint32_t> palette;    // 56 entries 0x00RRGGBB when the package changes the palette
+    std::vector<CellFormat> formats;               // one per cellXfs entry, at least one
+    std::vector<std::optional<uint32_t>> palette;  // the indexed colours the package lists
 };
 
 // Resolves every cellXfs entry of the styles part into a complete CellFormat. Throws

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <fmt/format.h>
+#include <string>
 
 namespace ooxml {
 
@@ -11,23 +12,24 @@ namespace {
 struct SchemeColor {
     std::string_view element;
     std::string_view systemColor;  // empty for a fixed colour
-    uint32_t rgb;
+    std::size_t index;             // in the order cells index theme colours
 };
 
-// In the order the colour scheme's schema requires.
-constexpr std::array<SchemeColor, 12> kOfficeColors{{
-    {"a:dk1", "windowText", 0x000000},
-    {"a:lt1", "window", 0xFFFFFF},
-    {"a:dk2", "", 0x44546A},
-    {"a:lt2", "", 0xE7E6E6},
-    {"a:accent1", "", 0x4472C4},
-    {"a:accent2", "", 0xED7D31},
-    {"a:accent3", "", 0xA5A5A5},
-    {"a:accent4", "", 0xFFC000},
-    {"a:accent5", "", 0x5B9BD5},
-    {"a:accent6", "", 0x70AD47},
-    {"a:hlink", "", 0x0563C1},
-    {"a:folHlink", "", 0x954F72},
+// In the order the colour scheme's schema requires. The dark and light text colours are the
+// system's window colours, as Excel writes them, with the last colour they had.
+constexpr std::array<SchemeColor, 12> kSchemeColors{{
+    {"a:dk1", "windowText", 1},
+    {"a:lt1", "window", 0},
+    {"a:dk2", "", 3},
+    {"a:lt2", "", 2},
+    {"a:accent1", "", 4},
+    {"a:accent2", "", 5},
+    {"a:accent3", "", 6},
+    {"a:accent4", "", 7},
+    {"a:accent5", "", 8},
+    {"a:accent6", "", 9},
+    {"a:hlink", "", 10},
+    {"a:folHlink", "", 11},
 }};
 
 // A colour transform of the placeholder colour, in thousandths of a percent.
@@ -85,18 +87,19 @@ void GradientFill(XmlWriter& xml, const std::array<GradientStop, 3>& stops) {
     xml.EndElement();
 }
 
-void WriteColorScheme(XmlWriter& xml) {
+void WriteColorScheme(XmlWriter& xml, const std::array<uint32_t, 12>& colors) {
     xml.StartElement("a:clrScheme");
     xml.Attribute("name", "Office");
-    for (const SchemeColor& color : kOfficeColors) {
+    for (const SchemeColor& color : kSchemeColors) {
+        const std::string rgb = fmt::format("{:06X}", colors[color.index] & 0xFFFFFFu);
         xml.StartElement(color.element);
         if (color.systemColor.empty()) {
             xml.StartElement("a:srgbClr");
-            xml.Attribute("val", fmt::format("{:06X}", color.rgb));
+            xml.Attribute("val", rgb);
         } else {
             xml.StartElement("a:sysClr");
             xml.Attribute("val", color.systemColor);
-            xml.Attribute("lastClr", fmt::format("{:06X}", color.rgb));
+            xml.Attribute("lastClr", rgb);
         }
         xml.EndElement();
         xml.EndElement();
@@ -195,13 +198,13 @@ void WriteFormatScheme(XmlWriter& xml) {
 
 }  // namespace
 
-void WriteThemePart(XmlWriter& xml) {
+void WriteThemePart(XmlWriter& xml, const std::array<uint32_t, 12>& colors) {
     xml.Declaration();
     xml.StartElement("a:theme");
     xml.Attribute("xmlns:a", "http://schemas.openxmlformats.org/drawingml/2006/main");
     xml.Attribute("name", "Office Theme");
     xml.StartElement("a:themeElements");
-    WriteColorScheme(xml);
+    WriteColorScheme(xml, colors);
     WriteFontScheme(xml);
     WriteFormatScheme(xml);
     xml.EndElement();

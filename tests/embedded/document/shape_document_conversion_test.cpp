@@ -1,6 +1,7 @@
 #include "excel/embedded/document/workbook_document_conversion.hpp"
 #include "excel/embedded/model/application_model.hpp"
 #include "excel/embedded/model/workbook_model.hpp"
+#include "excel/embedded/objects/book/workbook_view.hpp"
 #include "excel/embedded/objects/book/worksheet_view.hpp"
 
 #include <excel/excel.hpp>
@@ -112,6 +113,24 @@ TEST_F(ShapeDocumentConversion, TextBoxFormattingAndText) {
     EXPECT_TRUE(box.text.runs[0].font->bold);
     EXPECT_FALSE(box.text.runs[1].font->bold);
     EXPECT_EQ(box.text.runs[1].font->name, "Calibri");
+}
+
+TEST_F(ShapeDocumentConversion, PaletteColoursOfTextBoxRunsAreSavedAsTheRgbTheyShow) {
+    // DrawingML has no palette: a run coloured by ColorIndex is saved as the colour the workbook's
+    // palette gives it, its tint kept; a comment's runs keep the palette index.
+    std::make_shared<WorkbookView>(book)->SetColors(3, 0x563412);  // RGB 12 34 56
+    auto frame = AddBox(0, 0, 100, 30)->TextFrame();
+    frame->Characters()->SetText("ab");
+    frame->Characters(1, 1)->Font()->SetColorIndex(3);
+    frame->Characters(2, 1)->Font()->SetColorIndex(4);
+    sheet->Range("B2")->AddComment("c")->Shape()->TextFrame()->Characters()->Font()->SetColorIndex(3);
+    const ooxml::SheetDocument& saved = Saved();
+    const auto& runs = saved.textBoxes.front().text.runs;
+    ASSERT_EQ(runs.size(), 2u);
+    EXPECT_EQ(runs[0].font->color, (ooxml::Color{ooxml::Color::Kind::Rgb, 0xFF123456, 0, 0.0}));
+    EXPECT_EQ(runs[1].font->color, (ooxml::Color{ooxml::Color::Kind::Rgb, 0xFF00FF00, 0, 0.0}));
+    EXPECT_EQ(saved.comments.front().text.runs.front().font->color,
+              (ooxml::Color{ooxml::Color::Kind::Indexed, 0, 10, 0.0}));
 }
 
 TEST_F(ShapeDocumentConversion, CommentFields) {

@@ -43,6 +43,46 @@ TEST(WorkbookDocumentConversion, NameDefinedTwiceInOneScopeKeepsItsFirstDefiniti
     }
 }
 
+TEST(WorkbookDocumentConversion, AChangedPaletteIsSavedAfterTheEightFixedColours) {
+    auto app = std::make_shared<ApplicationModel>();
+    auto book = app->AddWorkbook();
+    EXPECT_TRUE(ToDocument(*book, "test").palette.empty());  // Excel's standard palette is not written
+    book->Palette()[0] = 0x563412;                            // ColorIndex 1 as RGB 12 34 56
+    book->Palette()[55] = 0x996633;
+    const ooxml::WorkbookDocument saved = ToDocument(*book, "test");
+    ASSERT_EQ(saved.palette.size(), 64u);
+    EXPECT_EQ(saved.palette[0], 0x000000u);  // the fixed colours: black, white, red, ...
+    EXPECT_EQ(saved.palette[2], 0xFF0000u);
+    EXPECT_EQ(saved.palette[7], 0x00FFFFu);
+    EXPECT_EQ(saved.palette[8], 0x123456u);
+    EXPECT_EQ(saved.palette[9], 0xFFFFFFu);
+    EXPECT_EQ(saved.palette[63], 0x336699u);
+}
+
+TEST(WorkbookDocumentConversion, AnOpenedPaletteKeepsExcelsStandardColoursWhereTheFileListsNone) {
+    ooxml::WorkbookDocument document = TwoSheetDocument();
+    document.palette = {0x000000, 0xFFFFFF, 0xFF0000, 0x00FF00, 0x0000FF, 0xFFFF00, 0xFF00FF, 0x00FFFF,
+                        0x123456, std::nullopt, 0xABCDEF};
+    auto app = std::make_shared<ApplicationModel>();
+    auto book = std::make_shared<WorkbookModel>(*app, "Palette.xlsx");
+    LoadDocument(*book, document);
+    EXPECT_EQ(book->Palette()[0], 0x563412u);  // indexed 8, ColorIndex 1
+    EXPECT_EQ(book->Palette()[1], 0xFFFFFFu);  // no RGB given: the standard white
+    EXPECT_EQ(book->Palette()[2], 0xEFCDABu);
+    EXPECT_EQ(book->Palette()[3], 0x00FF00u);  // not listed: Excel's standard colour
+    EXPECT_EQ(book->Palette()[55], 0x333333u);
+}
+
+TEST(WorkbookDocumentConversion, TheThemeIsSavedWithTheOfficeColours) {
+    auto app = std::make_shared<ApplicationModel>();
+    const ooxml::WorkbookDocument saved = ToDocument(*app->AddWorkbook(), "test");
+    EXPECT_EQ(saved.themeColors[0], 0xFFFFFFu);   // lt1
+    EXPECT_EQ(saved.themeColors[1], 0x000000u);   // dk1
+    EXPECT_EQ(saved.themeColors[3], 0x44546Au);   // dk2
+    EXPECT_EQ(saved.themeColors[4], 0x4472C4u);   // accent1
+    EXPECT_EQ(saved.themeColors[11], 0x954F72u);  // folHlink
+}
+
 TEST(WorkbookDocumentConversion, ColumnSpansLoadAsRunsAndSaveAsOneElementPerRun) {
     ooxml::WorkbookDocument document = TwoSheetDocument();
     ooxml::ColumnRange wide;

@@ -7,11 +7,12 @@
 
 namespace {
 
+using excel::embedded::FontFormat;
 using excel::embedded::LineHeight;
 using excel::embedded::TextAdvance;
 
-ooxml::Font FontOf(std::string name, double size, bool bold = false) {
-    ooxml::Font font;
+FontFormat FontOf(std::string name, double size, bool bold = false) {
+    FontFormat font;
     font.name = std::move(name);
     font.size = size;
     font.bold = bold;
@@ -51,7 +52,7 @@ TEST(TextMetricsTest, BoldIsWiderThanRegular) {
 }
 
 TEST(TextMetricsTest, ItalicMeasuresAsRegular) {
-    ooxml::Font italic = FontOf("Calibri", 11);
+    FontFormat italic = FontOf("Calibri", 11);
     italic.italic = true;
     EXPECT_DOUBLE_EQ(TextAdvance("Quarterly sales report", italic),
                      TextAdvance("Quarterly sales report", FontOf("Calibri", 11)));
@@ -76,7 +77,7 @@ TEST(TextMetricsTest, LatinOneCharactersHaveTheirOwnAdvance) {
 }
 
 TEST(TextMetricsTest, EastAsianWideCharactersAreOneEm) {
-    const ooxml::Font calibri = FontOf("Calibri", 11);
+    const FontFormat calibri = FontOf("Calibri", 11);
     EXPECT_DOUBLE_EQ(TextAdvance("\u65E5\u672C\u8A9E", calibri), 33.0);  // CJK ideographs
     EXPECT_DOUBLE_EQ(TextAdvance("\u3072\u3089\u304C\u306A", calibri), 44.0);  // hiragana
     EXPECT_DOUBLE_EQ(TextAdvance("\uD55C\uAD6D", calibri), 22.0);  // Hangul syllables
@@ -86,7 +87,7 @@ TEST(TextMetricsTest, EastAsianWideCharactersAreOneEm) {
 }
 
 TEST(TextMetricsTest, CombiningMarksAdvanceNothing) {
-    const ooxml::Font calibri = FontOf("Calibri", 11);
+    const FontFormat calibri = FontOf("Calibri", 11);
     EXPECT_DOUBLE_EQ(TextAdvance("e\u0301", calibri), TextAdvance("e", calibri));
     EXPECT_DOUBLE_EQ(TextAdvance("a\u200Bb", calibri), TextAdvance("ab", calibri));  // zero-width space
 }

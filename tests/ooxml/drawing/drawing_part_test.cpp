@@ -12,13 +12,10 @@ using namespace ooxml;
 using writer_test::ParseXml;
 using writer_test::WriteToString;
 
-std::unique_ptr<pugi::xml_document> Write(const std::vector<TextBoxShape>& boxes,
-                                          std::vector<uint32_t> palette = {}) {
-    WorkbookDocument document;
-    document.palette = std::move(palette);
+std::unique_ptr<pugi::xml_document> Write(const std::vector<TextBoxShape>& boxes) {
     SheetDocument sheet;
     sheet.textBoxes = boxes;
-    return ParseXml(WriteToString([&](XmlWriter& xml) { WriteDrawingPart(xml, document, sheet); }));
+    return ParseXml(WriteToString([&](XmlWriter& xml) { WriteDrawingPart(xml, sheet); }));
 }
 
 TextBoxShape Box(std::string text) {
@@ -181,16 +178,14 @@ TEST(DrawingPart, AFillsTransparencyIsItsColoursAlpha) {
     EXPECT_FALSE(FillColor(properties.child("a:ln")).child("a:alpha"));
 }
 
-TEST(DrawingPart, IndexedColoursAreResolvedThroughTheWorkbookPalette) {
+TEST(DrawingPart, ColoursWithoutRgbAreWrittenBlack) {
     TextBoxShape box = Box("a");
-    box.fill = Color{Color::Kind::Indexed, 0, 10, 0.0};  // the palette's third colour
-    box.line = Color{Color::Kind::Indexed, 0, 2, 0.0};   // fixed red
-    std::vector<uint32_t> palette(56, 0x000000);
-    palette[2] = 0x123456;
-    auto xml = Write({box}, palette);
+    box.fill = Color{Color::Kind::Indexed, 0, 10, 0.0};
+    box.line = Color{Color::Kind::Auto, 0, 0, 0.0};
+    auto xml = Write({box});
     const pugi::xml_node properties = Shape(*xml).child("xdr:spPr");
-    EXPECT_STREQ(FillColor(properties).attribute("val").value(), "123456");
-    EXPECT_STREQ(FillColor(properties.child("a:ln")).attribute("val").value(), "FF0000");
+    EXPECT_STREQ(FillColor(properties).attribute("val").value(), "000000");
+    EXPECT_STREQ(FillColor(properties.child("a:ln")).attribute("val").value(), "000000");
 }
 
 TEST(DrawingPart, BodyPropertiesCarryWrapInsetsAnchorAndAutoFit) {

@@ -120,8 +120,8 @@ ooxml::WorkbookDocument RichDocument() {
     document.names = {{"Total", "'Data & Co'!$B$2:$B$3", std::nullopt, false},
                       {"_xlnm.Print_Area", "Hidden!$A$1:$C$3", 1u, false},
                       {"Internal", "Secret!$A$1", 2u, true}};
-    document.palette.assign(56, 0x102030);
-    document.palette[55] = 0xFEDCBA;
+    document.palette.assign(64, 0x102030);
+    document.palette[63] = 0xFEDCBA;
     document.lockStructure = true;
     document.lockWindows = true;
     document.properties = {"Ann Author", "Bob Editor", std::time_t{1158364800}, std::time_t{1709244015}};

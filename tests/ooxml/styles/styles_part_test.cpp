@@ -91,10 +91,11 @@ TEST(StylesPart, OmitsOptionalListsWhenUnused) {
     EXPECT_FALSE(Xf(*styles, 0).first_child());
 }
 
-TEST(StylesPart, WritesThePaletteAfterTheEightFixedColours) {
+TEST(StylesPart, WritesTheIndexedColoursInOrder) {
     WorkbookDocument document;
-    document.palette.assign(56, 0x336699);
-    document.palette[0] = 0x123456;
+    document.palette = {0x000000, 0xFFFFFF, 0xFF0000, 0x00FF00, 0x0000FF, 0xFFFF00, 0xFF00FF, 0x00FFFF};
+    document.palette.resize(64, 0x336699);
+    document.palette[8] = 0x123456;
     auto styles = Styles(document);
     const pugi::xml_node colors = styles->child("styleSheet").child("colors").child("indexedColors");
     std::vector<std::string> rgb;

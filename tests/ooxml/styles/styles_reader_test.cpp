@@ -101,14 +101,14 @@ TEST(StylesReaderTest, BuiltinNumberFormatsAndMissingPiecesFallBackToDefaults) {
     EXPECT_EQ(date.alignment, ooxml::Alignment{});
 }
 
-TEST(StylesReaderTest, ChangedPaletteGivesAllFiftySixColours) {
+TEST(StylesReaderTest, ChangedPaletteListsTheIndexedColoursTheFileGives) {
     const auto document = ReadStyled();
-    ASSERT_EQ(document.palette.size(), 56u);
-    EXPECT_EQ(document.palette[0], 0x123456u);  // indexed 8, ColorIndex 1
-    EXPECT_EQ(document.palette[1], 0xFFFFFFu);
-    EXPECT_EQ(document.palette[2], 0xABCDEFu);
-    EXPECT_EQ(document.palette[3], 0x00FF00u);  // not listed: Excel's standard colour
-    EXPECT_EQ(document.palette[55], 0x333333u);
+    ASSERT_EQ(document.palette.size(), 11u);
+    EXPECT_EQ(document.palette[0], 0x000000u);
+    EXPECT_EQ(document.palette[7], 0x00FFFFu);
+    EXPECT_EQ(document.palette[8], 0x123456u);  // indexed 8, ColorIndex 1
+    EXPECT_EQ(document.palette[9], 0xFFFFFFu);
+    EXPECT_EQ(document.palette[10], 0xABCDEFu);
 }
 
 TEST(StylesReaderTest, RichTextRunsCarryTheirFonts) {

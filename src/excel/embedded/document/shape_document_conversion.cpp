@@ -1,5 +1,7 @@
 #include "excel/embedded/document/shape_document_conversion.hpp"
 
+#include "excel/embedded/document/format_document_conversion.hpp"
+#include "excel/embedded/document/rich_text_document_conversion.hpp"
 #include "excel/embedded/format/color_conversion.hpp"
 #include "excel/embedded/model/geometry/geometry.hpp"
 #include "excel/embedded/model/shapes/cell_comments.hpp"
@@ -64,27 +66,39 @@ ooxml::CellAnchor AnchorOf(const CellPoint& point) {
                              static_cast<uint32_t>(point.row - 1), Emu(point.rowOffset)};
 }
 
-// The text with a font on every run: the files have no frame font to fall back on.
-ooxml::SharedString SpelledOut(const ShapeText& frame) {
-    ooxml::SharedString text = frame.text;
+// A palette colour as the RGB it shows, keeping its tint: drawings have no palette.
+FormatColor WithoutPalette(const FormatColor& color, const Palette& palette) {
+    if (color.kind != FormatColor::Kind::Indexed) {
+        return color;
+    }
+    return FormatColor{FormatColor::Kind::Rgb, ArgbFromRgbLong(RgbOf(color, palette, 0)), 0, color.tint};
+}
+
+// The text with a font on every run: the files have no frame font to fall back on. Runs of a
+// drawing's text show palette colours by their RGB; a comment's runs keep them.
+ooxml::SharedString SpelledOut(const ShapeText& frame, const Palette* drawingPalette) {
+    RichText text = frame.text;
     if (text.runs.empty() && !text.text.empty()) {
-        text.runs.push_back(ooxml::TextRun{text.text, std::nullopt});
+        text.runs.push_back(TextRun{text.text, std::nullopt});
     }
-    for (ooxml::TextRun& run : text.runs) {
+    for (TextRun& run : text.runs) {
         run.font = run.font.value_or(frame.font);
+        if (drawingPalette) {
+            run.font->color = WithoutPalette(run.font->color, *drawingPalette);
+        }
     }
-    return text;
+    return DocumentText(text);
 }
 
 // Takes a file's text; a font shared by every run becomes the frame's font.
 void LoadText(ShapeText& frame, const ooxml::SharedString& text) {
-    frame.text = text;
-    if (text.runs.empty() || !text.runs.front().font) {
+    frame.text = TextFromDocument(text);
+    const std::vector<TextRun>& runs = frame.text.runs;
+    if (runs.empty() || !runs.front().font) {
         return;
     }
-    const ooxml::Font& first = *text.runs.front().font;
-    const bool shared = std::all_of(text.runs.begin(), text.runs.end(),
-                                    [&](const ooxml::TextRun& run) { return run.font == first; });
+    const FontFormat first = *runs.front().font;
+    const bool shared = std::all_of(runs.begin(), runs.end(), [&](const TextRun& run) { return run.font == first; });
     if (shared) {
         frame.font = first;
         frame.text.runs.clear();
@@ -96,7 +110,7 @@ ShapeColor ShapeColorOf(const ooxml::Color& color) {
         return ShapeColorFromThemeIndex(color.index, color.tint);
     }
     if (color.kind == ooxml::Color::Kind::Rgb) {
-        return ShapeColor{color, msoNotThemeColor};
+        return ShapeColor{ColorFromDocument(color), msoNotThemeColor};
     }
     return ShapeColorFromRgb(0);
 }
@@ -124,6 +138,7 @@ Corners CornersOf(const WorksheetModel& sheet, const ShapeModel& shape) {
 
 ooxml::TextBoxShape TextBoxOf(const WorksheetModel& sheet, const ShapeModel& shape) {
     const Corners corners = CornersOf(sheet, shape);
+    const Palette& palette = sheet.Book().Palette();
     const TextMargins margins = shape.text.Margins();
     ooxml::TextBoxShape out;
     out.id = shape.id;
@@ -136,11 +151,11 @@ ooxml::TextBoxShape TextBoxOf(const WorksheetModel& sheet, const ShapeModel& sha
     out.width = Emu(corners.bounds.width);
     out.height = Emu(corners.bounds.height);
     if (shape.fill.visible) {
-        out.fill = shape.fill.color.color;
+        out.fill = DocumentColor(WithoutPalette(shape.fill.color.color, palette));
     }
     out.fillTransparency = shape.fill.transparency;
     if (shape.line.visible) {
-        out.line = shape.line.color.color;
+        out.line = DocumentColor(WithoutPalette(shape.line.color.color, palette));
     }
     out.lineWidth = Emu(shape.line.weight);
     out.insetLeft = Emu(margins.left);
@@ -153,7 +168,7 @@ ooxml::TextBoxShape TextBoxOf(const WorksheetModel& sheet, const ShapeModel& sha
     out.alignment = std::string(NameOf(HorizontalAlignments, shape.text.horizontalAlignment));
     out.macro = shape.onAction;
     out.hidden = !shape.visible;
-    out.text = SpelledOut(shape.text);
+    out.text = SpelledOut(shape.text, &palette);
     return out;
 }
 
@@ -164,7 +179,7 @@ ooxml::CellComment CommentOf(const WorksheetModel& sheet, const ShapeModel& shap
     out.row = static_cast<uint32_t>(shape.comment->row);
     out.column = static_cast<uint32_t>(shape.comment->column);
     out.author = shape.comment->author;
-    out.text = SpelledOut(shape.text);
+    out.text = SpelledOut(shape.text, nullptr);
     out.visible = shape.visible;
     out.left = corners.bounds.left;
     out.top = corners.bounds.top;

@@ -1,8 +1,11 @@
 #include "excel/embedded/document/workbook_document_conversion.hpp"
 
+#include "excel/embedded/document/format_document_conversion.hpp"
+#include "excel/embedded/document/rich_text_document_conversion.hpp"
 #include "excel/embedded/document/shape_document_conversion.hpp"
 #include "excel/embedded/format/color_conversion.hpp"
 #include "excel/embedded/format/palette.hpp"
+#include "excel/embedded/format/theme_colors.hpp"
 #include "excel/embedded/model/geometry/geometry.hpp"
 #include "excel/embedded/model/names/defined_name_rules.hpp"
 #include "excel/embedded/text/text_entry.hpp"
@@ -17,9 +20,12 @@ namespace {
 
 constexpr uint32_t unmapped = UINT32_MAX;
 
-// The file's palette entries are 0x00RRGGBB; the object model's are 0x00BBGGRR.
-uint32_t SwapRedBlue(uint32_t color) {
-    return ((color & 0xFFu) << 16) | (color & 0xFF00u) | ((color >> 16) & 0xFFu);
+// The indexed colours 0..7 of the file are fixed: Excel's standard first eight.
+constexpr size_t fixedIndexedColors = 8;
+
+// The file's colours are 0x00RRGGBB; the object model's RGB Longs are 0x00BBGGRR.
+uint32_t FileRgb(uint32_t rgbLong) {
+    return ArgbFromRgbLong(rgbLong) & 0xFFFFFFu;
 }
 
 // Numbers the strings cells use, in first-use order, so unused pool entries are not saved.
@@ -33,7 +39,7 @@ public:
         }
         if (numbers_[poolId] == unmapped) {
             numbers_[poolId] = static_cast<uint32_t>(out_.size());
-            out_.push_back(pool_.Get(poolId));
+            out_.push_back(DocumentText(pool_.Get(poolId)));
         }
         return numbers_[poolId];
     }
@@ -258,7 +264,10 @@ void LoadSheet(WorksheetModel& sheet, const ooxml::SheetDocument& in, const std:
 
 ooxml::WorkbookDocument ToDocument(const WorkbookModel& book, const std::string& author) {
     ooxml::WorkbookDocument document;
-    document.formats = book.Formats().All();
+    document.formats.clear();
+    for (const CellFormat& format : book.Formats().All()) {
+        document.formats.push_back(DocumentCellFormat(format));
+    }
     StringNumbering strings(book.Strings(), document.strings);
     for (const auto& sheet : book.Sheets()) {
         document.sheets.push_back(ConvertSheet(*sheet, strings));
@@ -275,10 +284,14 @@ ooxml::WorkbookDocument ToDocument(const WorkbookModel& book, const std::string&
         document.names.push_back(out);
     }
     if (book.Palette() != DefaultPalette()) {
+        for (size_t i = 0; i < fixedIndexedColors; ++i) {
+            document.palette.push_back(FileRgb(DefaultPalette()[i]));
+        }
         for (uint32_t color : book.Palette()) {
-            document.palette.push_back(SwapRedBlue(color));
+            document.palette.push_back(FileRgb(color));
         }
     }
+    std::transform(OfficeThemeColors().begin(), OfficeThemeColors().end(), document.themeColors.begin(), FileRgb);
     document.lockStructure = book.ProtectStructure();
     document.lockWindows = book.ProtectWindows();
     document.properties.creator = author;
@@ -292,12 +305,12 @@ void LoadDocument(WorkbookModel& book, const ooxml::WorkbookDocument& document) 
     std::vector<uint32_t> formatIds;
     formatIds.reserve(document.formats.size());
     for (const ooxml::CellFormat& format : document.formats) {
-        formatIds.push_back(book.Formats().Intern(format));
+        formatIds.push_back(book.Formats().Intern(CellFormatFromDocument(format)));
     }
     DocumentStrings strings{{}, document.strings};
     strings.ids.reserve(document.strings.size());
     for (const ooxml::SharedString& text : document.strings) {
-        strings.ids.push_back(book.Strings().Add(text));
+        strings.ids.push_back(book.Strings().Add(TextFromDocument(text)));
     }
     for (const ooxml::SheetDocument& sheet : document.sheets) {
         LoadSheet(*book.AppendSheet(sheet.name), sheet, formatIds, strings);
@@ -324,9 +337,11 @@ void LoadDocument(WorkbookModel& book, const ooxml::WorkbookDocument& document) 
             std::make_shared<DefinedNameModel>(DefinedNameModel{name.name, name.formula, local, !name.hidden, false}));
     }
     book.AddOpenedNames(std::move(names));
-    if (document.palette.size() == 56) {
-        for (size_t i = 0; i < 56; ++i) {
-            book.Palette()[i] = SwapRedBlue(document.palette[i]);
+    // The colours a file lists from index 8 on replace the palette's; the rest keep Excel's standard ones.
+    for (size_t i = fixedIndexedColors; i < document.palette.size() && i - fixedIndexedColors < book.Palette().size();
+         ++i) {
+        if (const std::optional<uint32_t>& rgb = document.palette[i]) {
+            book.Palette()[i - fixedIndexedColors] = RgbLongFromArgb(*rgb);
         }
     }
     book.Protect("", document.lockStructure, document.lockWindows);

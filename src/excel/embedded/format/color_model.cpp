@@ -17,11 +17,11 @@ constexpr int32_t systemBackground = 65;
 constexpr uint32_t white = 0xFFFFFF;
 }  // namespace
 
-uint32_t RgbOf(const ooxml::Color& color, const Palette& palette, uint32_t automatic) {
+uint32_t RgbOf(const FormatColor& color, const Palette& palette, uint32_t automatic) {
     switch (color.kind) {
-        case ooxml::Color::Kind::Rgb:
+        case FormatColor::Kind::Rgb:
             return ApplyTintAndShade(RgbLongFromArgb(color.argb), color.tint);
-        case ooxml::Color::Kind::Indexed:
+        case FormatColor::Kind::Indexed:
             if (color.index >= 0 && color.index < firstPaletteIndex) {
                 return palette[static_cast<size_t>(color.index)];
             }
@@ -29,24 +29,24 @@ uint32_t RgbOf(const ooxml::Color& color, const Palette& palette, uint32_t autom
                 return palette[static_cast<size_t>(color.index - firstPaletteIndex)];
             }
             return color.index == systemBackground ? white : automatic;
-        case ooxml::Color::Kind::Theme:
+        case FormatColor::Kind::Theme:
             if (color.index >= 0 && color.index < 12) {
                 return ApplyTintAndShade(OfficeThemeColors()[static_cast<size_t>(color.index)], color.tint);
             }
             return automatic;
-        case ooxml::Color::Kind::None:
-        case ooxml::Color::Kind::Auto:
+        case FormatColor::Kind::None:
+        case FormatColor::Kind::Automatic:
             break;
     }
     return automatic;
 }
 
-int32_t ColorIndexOf(const ooxml::Color& color, const Palette& palette, int32_t whenAutomatic) {
+int32_t ColorIndexOf(const FormatColor& color, const Palette& palette, int32_t whenAutomatic) {
     switch (color.kind) {
-        case ooxml::Color::Kind::None:
-        case ooxml::Color::Kind::Auto:
+        case FormatColor::Kind::None:
+        case FormatColor::Kind::Automatic:
             return whenAutomatic;
-        case ooxml::Color::Kind::Indexed:
+        case FormatColor::Kind::Indexed:
             if (color.index >= 0 && color.index < firstPaletteIndex) {
                 return color.index + 1;
             }
@@ -54,52 +54,52 @@ int32_t ColorIndexOf(const ooxml::Color& color, const Palette& palette, int32_t 
                 return color.index - firstPaletteIndex + 1;
             }
             return color.index == systemForeground ? whenAutomatic : NearestColorIndex(palette, white);
-        case ooxml::Color::Kind::Rgb:
-        case ooxml::Color::Kind::Theme:
+        case FormatColor::Kind::Rgb:
+        case FormatColor::Kind::Theme:
             break;
     }
     return NearestColorIndex(palette, RgbOf(color, palette, 0));
 }
 
-int32_t ThemeColorOf(const ooxml::Color& color) {
-    if (color.kind != ooxml::Color::Kind::Theme) {
+int32_t ThemeColorOf(const FormatColor& color) {
+    if (color.kind != FormatColor::Kind::Theme) {
         ThrowRefused("Unable to get the ThemeColor property: the colour is not a theme colour");
     }
     return ThemeColorFromThemeIndex(color.index);
 }
 
-double TintOf(const ooxml::Color& color) {
-    return color.kind == ooxml::Color::Kind::None ? 0.0 : color.tint;
+double TintOf(const FormatColor& color) {
+    return color.kind == FormatColor::Kind::None ? 0.0 : color.tint;
 }
 
-ooxml::Color ColorFromRgb(int32_t rgb) {
+FormatColor ColorFromRgb(int32_t rgb) {
     if (rgb < 0 || rgb > 0xFFFFFF) {
         ThrowRefused("Unable to set the Color property");
     }
-    return ooxml::Color{ooxml::Color::Kind::Rgb, ArgbFromRgbLong(static_cast<uint32_t>(rgb)), 0, 0.0};
+    return FormatColor{FormatColor::Kind::Rgb, ArgbFromRgbLong(static_cast<uint32_t>(rgb)), 0, 0.0};
 }
 
-ooxml::Color ColorFromIndex(int32_t colorIndex) {
+FormatColor ColorFromIndex(int32_t colorIndex) {
     if (colorIndex < 1 || colorIndex > 56) {
         ThrowRefused("Unable to set the ColorIndex property");
     }
-    return ooxml::Color{ooxml::Color::Kind::Indexed, 0, colorIndex + firstPaletteIndex - 1, 0.0};
+    return FormatColor{FormatColor::Kind::Indexed, 0, colorIndex + firstPaletteIndex - 1, 0.0};
 }
 
-ooxml::Color ColorFromTheme(int32_t themeColor) {
+FormatColor ColorFromTheme(int32_t themeColor) {
     const int32_t index = ThemeIndexFromThemeColor(themeColor);
     if (index < 0) {
         ThrowRefused("Unable to set the ThemeColor property");
     }
-    return ooxml::Color{ooxml::Color::Kind::Theme, 0, index, 0.0};
+    return FormatColor{FormatColor::Kind::Theme, 0, index, 0.0};
 }
 
-ooxml::Color WithTint(ooxml::Color color, double tint) {
+FormatColor WithTint(FormatColor color, double tint) {
     if (!(tint >= -1.0 && tint <= 1.0)) {
         ThrowRefused("Unable to set the TintAndShade property");
     }
-    if (color.kind == ooxml::Color::Kind::None || color.kind == ooxml::Color::Kind::Auto) {
-        color = ooxml::Color{ooxml::Color::Kind::Theme, 0, 1, 0.0};
+    if (color.kind == FormatColor::Kind::None || color.kind == FormatColor::Kind::Automatic) {
+        color = FormatColor{FormatColor::Kind::Theme, 0, 1, 0.0};
     }
     color.tint = tint;
     return color;

@@ -6,7 +6,7 @@ uint32_t FormatChange::Apply(uint32_t id) {
     if (id < results_.size() && results_[id] != unknown) {
         return results_[id];
     }
-    ooxml::CellFormat format = table_.Get(id);
+    CellFormat format = table_.Get(id);
     edit_(format);
     const uint32_t result = table_.Intern(format);
     if (id >= results_.size()) {

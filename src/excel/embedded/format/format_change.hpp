@@ -12,7 +12,7 @@ namespace excel::embedded {
 // distinct old id is edited and interned once; every further cell costs an array lookup.
 class FormatChange {
 public:
-    using Edit = std::function<void(ooxml::CellFormat&)>;
+    using Edit = std::function<void(CellFormat&)>;
 
     FormatChange(FormatTable& table, Edit edit) : table_(table), edit_(std::move(edit)) {}
 

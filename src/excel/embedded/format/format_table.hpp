@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ooxml/document/workbook_document.hpp"
+#include "excel/embedded/format/cell_format.hpp"
 
 #include <cstddef>
 #include <cstdint>
@@ -10,7 +10,7 @@
 namespace excel::embedded {
 
 struct CellFormatHash {
-    size_t operator()(const ooxml::CellFormat& format) const;
+    size_t operator()(const CellFormat& format) const;
 };
 
 // The workbook's cell formats, each stored once; cells, rows and columns hold an id. Id 0 is the
@@ -19,13 +19,13 @@ class FormatTable {
 public:
     FormatTable();
 
-    uint32_t Intern(const ooxml::CellFormat& format);
-    const ooxml::CellFormat& Get(uint32_t id) const { return formats_[id]; }
-    const std::vector<ooxml::CellFormat>& All() const { return formats_; }
+    uint32_t Intern(const CellFormat& format);
+    const CellFormat& Get(uint32_t id) const { return formats_[id]; }
+    const std::vector<CellFormat>& All() const { return formats_; }
 
 private:
-    std::vector<ooxml::CellFormat> formats_;
-    std::unordered_map<ooxml::CellFormat, uint32_t, CellFormatHash> ids_;
+    std::vector<CellFormat> formats_;
+    std::unordered_map<CellFormat, uint32_t, CellFormatHash> ids_;
 };
 
 }  // namespace excel::embedded

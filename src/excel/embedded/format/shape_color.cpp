@@ -26,14 +26,14 @@ ShapeColor ShapeColorFromObjectTheme(int32_t objectThemeColor) {
         ThrowRefused("The specified value is out of range.");
     }
     const int32_t index = ThemeIndexOfObjectThemeColor[static_cast<size_t>(objectThemeColor - 1)];
-    return ShapeColor{ooxml::Color{ooxml::Color::Kind::Theme, 0, index, 0.0}, objectThemeColor};
+    return ShapeColor{FormatColor{FormatColor::Kind::Theme, 0, index, 0.0}, objectThemeColor};
 }
 
 ShapeColor ShapeColorFromThemeIndex(int32_t themeIndex, double tint) {
     for (int32_t objectThemeColor = msoThemeColorDark1; objectThemeColor <= msoThemeColorFollowedHyperlink;
          ++objectThemeColor) {
         if (ThemeIndexOfObjectThemeColor[static_cast<size_t>(objectThemeColor - 1)] == themeIndex) {
-            return ShapeColor{ooxml::Color{ooxml::Color::Kind::Theme, 0, themeIndex, tint}, objectThemeColor};
+            return ShapeColor{FormatColor{FormatColor::Kind::Theme, 0, themeIndex, tint}, objectThemeColor};
         }
     }
     ThrowRefused("The specified value is out of range.");

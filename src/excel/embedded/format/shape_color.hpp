@@ -1,7 +1,6 @@
 #pragma once
 
 #include "excel/embedded/format/color_model.hpp"
-#include "ooxml/document/workbook_document.hpp"
 
 #include <cstdint>
 
@@ -11,7 +10,7 @@ namespace excel::embedded {
 // plus tint, as cells keep theirs) together with the MsoThemeColorIndex it was set by, which is
 // what ObjectThemeColor answers.
 struct ShapeColor {
-    ooxml::Color color;
+    FormatColor color;
     int32_t objectThemeColor = 0;  // msoNotThemeColor for an RGB colour
 
     friend bool operator==(const ShapeColor&, const ShapeColor&) = default;

@@ -1,11 +1,7 @@
 #include "excel/embedded/model/application_model.hpp"
 
-#include "excel/embedded/document/workbook_document_conversion.hpp"
 #include "excel/embedded/engine_errors.hpp"
 #include "excel/embedded/model/names/sheet_name_rules.hpp"
-
-#include "ooxml/opc/package_error.hpp"
-#include "ooxml/opc/package_reader.hpp"
 
 #include <algorithm>
 #include <cstdlib>
@@ -44,33 +40,23 @@ std::shared_ptr<WorkbookModel> ApplicationModel::AddWorkbook() {
     return book;
 }
 
-std::shared_ptr<WorkbookModel> ApplicationModel::OpenWorkbook(const std::string& path) {
-    std::error_code error;
-    const std::string fullName = std::filesystem::absolute(path, error).lexically_normal().string();
+std::shared_ptr<WorkbookModel> ApplicationModel::WorkbookOpenFrom(const std::string& fullName) const {
     for (const auto& book : workbooks_) {
         if (book->FullName() == fullName) {
-            activeWorkbook_ = book.get();
             return book;
         }
     }
+    return nullptr;
+}
+
+std::shared_ptr<WorkbookModel> ApplicationModel::AddOpenedWorkbook(const std::string& fullName,
+                                                                   const std::function<void(WorkbookModel&)>& load) {
     const std::string fileName = std::filesystem::path(fullName).filename().string();
-    ooxml::WorkbookDocument document;
-    try {
-        document = ooxml::ReadPackage(fullName);
-    } catch (const ooxml::PackageError& failure) {
-        if (failure.reason() == ooxml::PackageError::Reason::FileNotFound ||
-            failure.reason() == ooxml::PackageError::Reason::PathNotFound) {
-            ThrowRefused("Sorry, we couldn't find " + fullName + ". Is it possible it was moved, renamed or deleted?");
-        }
-        ThrowRefused("Excel cannot open the file '" + fileName +
-                     "' because the file format or file extension is not valid. Verify that the file has not been "
-                     "corrupted and that the file extension matches the format of the file.");
-    }
     if (FindWorkbook(fileName)) {
         ThrowRefused("Sorry, Excel can't open two workbooks with the same name at the same time.");
     }
     auto book = std::make_shared<WorkbookModel>(*this, fileName);
-    LoadDocument(*book, document);
+    load(*book);
     book->SetFile(fullName);
     book->SetSaved(true);
     workbooks_.push_back(book);

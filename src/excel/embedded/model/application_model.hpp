@@ -3,6 +3,7 @@
 #include "excel/embedded/model/workbook_model.hpp"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -21,8 +22,12 @@ public:
     std::shared_ptr<WorkbookModel> FindWorkbook(std::string_view name) const;
     // A new workbook "BookN" with SheetsInNewWorkbook sheets; it becomes active.
     std::shared_ptr<WorkbookModel> AddWorkbook();
-    // Opens the .xlsx at path, or answers the workbook already open from it.
-    std::shared_ptr<WorkbookModel> OpenWorkbook(const std::string& path);
+    // The workbook open from the file at fullName, or none.
+    std::shared_ptr<WorkbookModel> WorkbookOpenFrom(const std::string& fullName) const;
+    // A workbook opened from the file at fullName, filled by load; it becomes active. Refused while
+    // a workbook of the same file name is open.
+    std::shared_ptr<WorkbookModel> AddOpenedWorkbook(const std::string& fullName,
+                                                     const std::function<void(WorkbookModel&)>& load);
     void CloseWorkbook(WorkbookModel& book);
     WorkbookModel* ActiveWorkbook() const { return activeWorkbook_; }
     void ActivateWorkbook(WorkbookModel& book) { activeWorkbook_ = &book; }

@@ -7,12 +7,12 @@ uint32_t StringPool::Intern(std::string_view text) {
         return found->second;
     }
     const auto id = static_cast<uint32_t>(strings_.size());
-    strings_.push_back(ooxml::SharedString{std::string(text), {}});
+    strings_.push_back(RichText{std::string(text), {}});
     plainIds_.emplace(strings_.back().text, id);
     return id;
 }
 
-uint32_t StringPool::Add(ooxml::SharedString richText) {
+uint32_t StringPool::Add(RichText richText) {
     if (richText.runs.empty()) {
         return Intern(richText.text);
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ooxml/document/workbook_document.hpp"
+#include "excel/embedded/text/rich_text.hpp"
 
 #include <cstdint>
 #include <deque>
@@ -21,13 +21,13 @@ public:
     StringPool& operator=(const StringPool&) = delete;
 
     uint32_t Intern(std::string_view text);
-    uint32_t Add(ooxml::SharedString richText);
-    const ooxml::SharedString& Get(uint32_t id) const { return strings_[id]; }
+    uint32_t Add(RichText richText);
+    const RichText& Get(uint32_t id) const { return strings_[id]; }
 
 private:
     // A deque never moves its elements, so the index can key on views of their texts: a lookup
     // allocates nothing and each text is stored once.
-    std::deque<ooxml::SharedString> strings_;
+    std::deque<RichText> strings_;
     std::unordered_map<std::string_view, uint32_t> plainIds_;
 };
 

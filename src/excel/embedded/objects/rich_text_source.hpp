@@ -1,7 +1,7 @@
 #pragma once
 
 #include "excel/embedded/format/color_model.hpp"
-#include "ooxml/document/workbook_document.hpp"
+#include "excel/embedded/text/rich_text.hpp"
 
 #include <cstddef>
 #include <functional>
@@ -14,12 +14,12 @@ class RichTextSource {
 public:
     virtual ~RichTextSource() = default;
 
-    virtual ooxml::SharedString Text() = 0;
+    virtual RichText Text() = 0;
     // The font of characters whose run has none.
-    virtual ooxml::Font BaseFont() = 0;
-    virtual void SetText(const ooxml::SharedString& text) = 0;
+    virtual FontFormat BaseFont() = 0;
+    virtual void SetText(const RichText& text) = 0;
     // Applies the edit to the fonts of count characters from start (0-based).
-    virtual void EditFonts(size_t start, size_t count, const std::function<void(ooxml::Font&)>& edit) = 0;
+    virtual void EditFonts(size_t start, size_t count, const std::function<void(FontFormat&)>& edit) = 0;
     virtual const Palette& Colors() = 0;
 };
 

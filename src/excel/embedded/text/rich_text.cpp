@@ -14,24 +14,24 @@ size_t ByteOffset(std::string_view text, size_t characters) {
     return position;
 }
 
-std::vector<ooxml::TextRun> RunsOf(const ooxml::SharedString& text) {
+std::vector<TextRun> RunsOf(const RichText& text) {
     if (text.runs.empty()) {
-        return {ooxml::TextRun{text.text, std::nullopt}};
+        return {TextRun{text.text, std::nullopt}};
     }
     return text.runs;
 }
 
 // The runs with boundaries at the characters start and end.
-std::vector<ooxml::TextRun> SplitRuns(const ooxml::SharedString& text, size_t start, size_t end) {
-    std::vector<ooxml::TextRun> result;
+std::vector<TextRun> SplitRuns(const RichText& text, size_t start, size_t end) {
+    std::vector<TextRun> result;
     size_t offset = 0;
-    for (ooxml::TextRun& run : RunsOf(text)) {
+    for (TextRun& run : RunsOf(text)) {
         const size_t length = CodePointCount(run.text);
         size_t cut = 0;
         for (size_t boundary : {start, end}) {
             if (boundary > offset + cut && boundary < offset + length) {
                 const size_t bytes = ByteOffset(run.text, boundary - offset - cut);
-                result.push_back(ooxml::TextRun{run.text.substr(0, bytes), run.font});
+                result.push_back(TextRun{run.text.substr(0, bytes), run.font});
                 run.text.erase(0, bytes);
                 cut = boundary - offset;
             }
@@ -42,9 +42,9 @@ std::vector<ooxml::TextRun> SplitRuns(const ooxml::SharedString& text, size_t st
     return result;
 }
 
-ooxml::SharedString Joined(std::vector<ooxml::TextRun> runs) {
-    ooxml::SharedString result;
-    for (ooxml::TextRun& run : runs) {
+RichText Joined(std::vector<TextRun> runs) {
+    RichText result;
+    for (TextRun& run : runs) {
         if (run.text.empty()) {
             continue;
         }
@@ -63,21 +63,21 @@ ooxml::SharedString Joined(std::vector<ooxml::TextRun> runs) {
 
 }  // namespace
 
-size_t CharacterCount(const ooxml::SharedString& text) {
+size_t CharacterCount(const RichText& text) {
     return CodePointCount(text.text);
 }
 
-std::string CharactersOf(const ooxml::SharedString& text, size_t start, size_t count) {
+std::string CharactersOf(const RichText& text, size_t start, size_t count) {
     const size_t first = ByteOffset(text.text, start);
     const size_t last = ByteOffset(text.text, start + count);
     return text.text.substr(first, last - first);
 }
 
-std::vector<ooxml::Font> FontsOf(const ooxml::SharedString& text, size_t start, size_t count,
-                                 const ooxml::Font& cellFont) {
-    std::vector<ooxml::Font> fonts;
+std::vector<FontFormat> FontsOf(const RichText& text, size_t start, size_t count,
+                                 const FontFormat& cellFont) {
+    std::vector<FontFormat> fonts;
     size_t offset = 0;
-    for (const ooxml::TextRun& run : SplitRuns(text, start, start + count)) {
+    for (const TextRun& run : SplitRuns(text, start, start + count)) {
         const size_t length = CodePointCount(run.text);
         if (offset >= start && offset < start + count) {
             fonts.push_back(run.font.value_or(cellFont));
@@ -90,41 +90,41 @@ std::vector<ooxml::Font> FontsOf(const ooxml::SharedString& text, size_t start, 
     return fonts;
 }
 
-ooxml::SharedString WithFont(const ooxml::SharedString& text, size_t start, size_t count,
-                             const std::function<void(ooxml::Font&)>& edit, const ooxml::Font& cellFont) {
-    std::vector<ooxml::TextRun> runs = SplitRuns(text, start, start + count);
+RichText WithFont(const RichText& text, size_t start, size_t count,
+                             const std::function<void(FontFormat&)>& edit, const FontFormat& cellFont) {
+    std::vector<TextRun> runs = SplitRuns(text, start, start + count);
     size_t offset = 0;
-    for (ooxml::TextRun& run : runs) {
+    for (TextRun& run : runs) {
         const size_t length = CodePointCount(run.text);
         if (offset >= start && offset < start + count) {
-            ooxml::Font font = run.font.value_or(cellFont);
+            FontFormat font = run.font.value_or(cellFont);
             edit(font);
             run.font = font;
         }
         offset += length;
     }
     // Runs left on the cell's font get it spelled out, so every run of a rich text has one.
-    for (ooxml::TextRun& run : runs) {
+    for (TextRun& run : runs) {
         if (!run.font) {
             run.font = cellFont;
         }
     }
-    ooxml::SharedString result = Joined(std::move(runs));
+    RichText result = Joined(std::move(runs));
     if (result.runs.size() == 1 && result.runs.front().font == cellFont) {
         result.runs.clear();
     }
     return result;
 }
 
-ooxml::SharedString WithReplaced(const ooxml::SharedString& text, size_t start, size_t count,
+RichText WithReplaced(const RichText& text, size_t start, size_t count,
                                  std::string_view replacement) {
-    std::vector<ooxml::TextRun> runs = SplitRuns(text, start, start + count);
-    std::vector<ooxml::TextRun> result;
-    std::optional<ooxml::Font> font;
+    std::vector<TextRun> runs = SplitRuns(text, start, start + count);
+    std::vector<TextRun> result;
+    std::optional<FontFormat> font;
     bool fontChosen = false;
     bool inserted = false;
     size_t offset = 0;
-    for (ooxml::TextRun& run : runs) {
+    for (TextRun& run : runs) {
         const size_t length = CodePointCount(run.text);
         const bool replaced = offset >= start && offset < start + count;
         if (replaced && !fontChosen) {
@@ -135,7 +135,7 @@ ooxml::SharedString WithReplaced(const ooxml::SharedString& text, size_t start, 
             font = run.font;
         }
         if (!inserted && offset >= start) {
-            result.push_back(ooxml::TextRun{std::string(replacement), font});
+            result.push_back(TextRun{std::string(replacement), font});
             inserted = true;
         }
         if (!replaced) {
@@ -144,7 +144,7 @@ ooxml::SharedString WithReplaced(const ooxml::SharedString& text, size_t start, 
         offset += length;
     }
     if (!inserted) {
-        result.push_back(ooxml::TextRun{std::string(replacement), font});
+        result.push_back(TextRun{std::string(replacement), font});
     }
     return Joined(std::move(result));
 }

@@ -1,26 +1,42 @@
 #pragma once
 
-#include "ooxml/document/workbook_document.hpp"
+#include "excel/embedded/format/font_format.hpp"
 
 #include <cstddef>
 #include <functional>
+#include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
 namespace excel::embedded {
 
-// Edits of a cell's text as runs, positions in characters (code points). A run without a font
-// shows the cell's font. Results have equal neighbouring runs joined, and no runs at all when
-// nothing differs from the cell's font.
-size_t CharacterCount(const ooxml::SharedString& text);
-std::string CharactersOf(const ooxml::SharedString& text, size_t start, size_t count);
-std::vector<ooxml::Font> FontsOf(const ooxml::SharedString& text, size_t start, size_t count,
-                                 const ooxml::Font& cellFont);
-ooxml::SharedString WithFont(const ooxml::SharedString& text, size_t start, size_t count,
-                             const std::function<void(ooxml::Font&)>& edit, const ooxml::Font& cellFont);
+// A run of rich text; a run without a font shows the font of its cell or text frame.
+struct TextRun {
+    std::string text;
+    std::optional<FontFormat> font;
+
+    friend bool operator==(const TextRun&, const TextRun&) = default;
+};
+
+// The text of a cell, comment or shape: plain, or in runs of their own fonts when runs is not
+// empty (text is then the runs' concatenation).
+struct RichText {
+    std::string text;
+    std::vector<TextRun> runs;
+
+    friend bool operator==(const RichText&, const RichText&) = default;
+};
+
+// Edits of a text as runs, positions in characters (code points). Results have equal neighbouring
+// runs joined, and no runs at all when nothing differs from the base font.
+size_t CharacterCount(const RichText& text);
+std::string CharactersOf(const RichText& text, size_t start, size_t count);
+std::vector<FontFormat> FontsOf(const RichText& text, size_t start, size_t count, const FontFormat& cellFont);
+RichText WithFont(const RichText& text, size_t start, size_t count, const std::function<void(FontFormat&)>& edit,
+                  const FontFormat& cellFont);
 // Replaces the characters; the new text takes the font of the first replaced character (or of
 // the one before when none is replaced).
-ooxml::SharedString WithReplaced(const ooxml::SharedString& text, size_t start, size_t count,
-                                 std::string_view replacement);
+RichText WithReplaced(const RichText& text, size_t start, size_t count, std::string_view replacement);
 
 }  // namespace excel::embedded

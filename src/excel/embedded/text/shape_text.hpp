@@ -1,6 +1,7 @@
 #pragma once
 
-#include "ooxml/document/workbook_document.hpp"
+#include "excel/embedded/format/font_format.hpp"
+#include "excel/embedded/text/rich_text.hpp"
 
 #include <excel/constants.hpp>
 
@@ -19,8 +20,8 @@ struct TextMargins {
 // The text of a shape and how it sits in the shape. Runs without a font show the frame's font;
 // a line feed separates paragraphs.
 struct ShapeText {
-    ooxml::SharedString text;
-    ooxml::Font font;
+    RichText text;
+    FontFormat font;
     bool autoMargins = true;
     TextMargins margins;  // in force once automatic margins are off
     bool autoSize = false;

@@ -13,7 +13,7 @@ namespace {
 
 struct StyledCharacter {
     std::string text;  // one code point
-    const ooxml::Font* font;
+    const FontFormat* font;
 };
 
 struct Paragraph {
@@ -26,8 +26,8 @@ struct Paragraph {
 // The characters keep pointers to the fonts of the frame's own runs, which outlive the paragraphs.
 std::vector<Paragraph> ParagraphsOf(const ShapeText& frame) {
     std::vector<Paragraph> paragraphs(1);
-    const ooxml::Font* lastFont = &frame.font;
-    const auto addRun = [&](const std::string& text, const ooxml::Font* font) {
+    const FontFormat* lastFont = &frame.font;
+    const auto addRun = [&](const std::string& text, const FontFormat* font) {
         lastFont = font;
         for (size_t position = 0; position < text.size();) {
             const size_t start = position;
@@ -44,7 +44,7 @@ std::vector<Paragraph> ParagraphsOf(const ShapeText& frame) {
     if (frame.text.runs.empty()) {
         addRun(frame.text.text, &frame.font);
     }
-    for (const ooxml::TextRun& run : frame.text.runs) {
+    for (const TextRun& run : frame.text.runs) {
         addRun(run.text, run.font ? &*run.font : &frame.font);
     }
     if (paragraphs.back().lineHeight == 0.0) {

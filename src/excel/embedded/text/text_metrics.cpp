@@ -58,7 +58,7 @@ bool InAnyRange(char32_t codePoint, const auto& ranges) {
     });
 }
 
-const FontFaceMetrics& FaceOf(const ooxml::Font& font) {
+const FontFaceMetrics& FaceOf(const FontFormat& font) {
     const auto family = std::find_if(MeasuredFamilies.begin(), MeasuredFamilies.end(),
                                      [&font](const FontFamily& f) { return EqualsIgnoringCase(f.name, font.name); });
     const FontFamily& measured = family != MeasuredFamilies.end() ? *family : MeasuredFamilies.front();
@@ -84,7 +84,7 @@ int32_t AdvanceUnits(char32_t codePoint, const FontFaceMetrics& face) {
 
 }  // namespace
 
-double TextAdvance(std::string_view text, const ooxml::Font& font) {
+double TextAdvance(std::string_view text, const FontFormat& font) {
     const FontFaceMetrics& face = FaceOf(font);
     int64_t units = 0;
     for (size_t position = 0; position < text.size();) {
@@ -93,7 +93,7 @@ double TextAdvance(std::string_view text, const ooxml::Font& font) {
     return static_cast<double>(units) * font.size / face.unitsPerEm;
 }
 
-double LineHeight(const ooxml::Font& font) {
+double LineHeight(const FontFormat& font) {
     const FontFaceMetrics& face = FaceOf(font);
     return static_cast<double>(face.ascender + face.descender + face.lineGap) * font.size / face.unitsPerEm;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ooxml/document/workbook_document.hpp"
+#include "excel/embedded/format/font_format.hpp"
 
 #include <string_view>
 
@@ -12,9 +12,9 @@ namespace excel::embedded {
 // wide and full-width characters one em, combining marks nothing, anything else an average width.
 
 // Approximate advance width in points of a line of text (UTF-8, no line feeds) set in the font.
-double TextAdvance(std::string_view text, const ooxml::Font& font);
+double TextAdvance(std::string_view text, const FontFormat& font);
 
 // Height in points of one line of text of the font at single line spacing.
-double LineHeight(const ooxml::Font& font);
+double LineHeight(const FontFormat& font);
 
 }  // namespace excel::embedded

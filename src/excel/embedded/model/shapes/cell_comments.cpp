@@ -18,12 +18,12 @@ constexpr double noteWidth = 96.0;
 constexpr double noteHeight = 55.5;
 constexpr int32_t systemForegroundIndex = 81;  // the colour index notes' text is written with
 
-ooxml::Font NoteFont() {
-    ooxml::Font font;
+FontFormat NoteFont() {
+    FontFormat font;
     font.name = "Tahoma";
     font.size = 9.0;
-    font.color = ooxml::Color{ooxml::Color::Kind::Indexed, 0, systemForegroundIndex, 0.0};
-    font.scheme.clear();
+    font.color = FormatColor{FormatColor::Kind::Indexed, 0, systemForegroundIndex, 0.0};
+    font.scheme = FontScheme::None;
     return font;
 }
 
@@ -36,7 +36,7 @@ std::shared_ptr<ShapeModel> AddCellComment(WorksheetModel& sheet, int32_t row, i
     shape->fill.color = ShapeColorFromRgb(noteFill);
     shape->line.color = ShapeColorFromRgb(0);
     shape->text.font = NoteFont();
-    shape->text.text = ooxml::SharedString{text, {}};
+    shape->text.text = RichText{text, {}};
     const double left = sheet.ColumnsPoints(1, column) + gapRightOfCell;
     const double top = std::max(sheet.RowsPoints(1, row - 1) - riseAboveCell, highestTop);
     Place(sheet, *shape, ShapeBounds{left, top, noteWidth, noteHeight});

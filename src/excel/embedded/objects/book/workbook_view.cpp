@@ -1,6 +1,6 @@
 #include "excel/embedded/objects/book/workbook_view.hpp"
 
-#include "excel/embedded/document/workbook_document_conversion.hpp"
+#include "excel/embedded/document/workbook_file.hpp"
 #include "excel/embedded/engine_errors.hpp"
 #include "excel/embedded/format/palette.hpp"
 #include "excel/embedded/objects/book/application_view.hpp"
@@ -9,9 +9,6 @@
 #include "excel/embedded/objects/book/window_view.hpp"
 #include "excel/embedded/objects/book/windows_view.hpp"
 #include "excel/embedded/objects/book/worksheet_view.hpp"
-
-#include "ooxml/opc/package_error.hpp"
-#include "ooxml/opc/package_writer.hpp"
 
 #include <excel/automation_error.hpp>
 #include <excel/constants.hpp>
@@ -168,22 +165,7 @@ void WorkbookView::SaveAs(const std::string& fileName, const Variant& fileFormat
             "You cannot save this workbook with the same name as another open workbook or add-in. Choose a "
             "different name, or close the other workbook or add-in before saving.");
     }
-    try {
-        ooxml::WritePackage(ToDocument(book, book.App().userName), fullName);
-    } catch (const ooxml::PackageError& failure) {
-        switch (failure.reason()) {
-            case ooxml::PackageError::Reason::PathNotFound:
-                ThrowRefused("Microsoft Excel cannot access the file '" + fullName +
-                             "'. There are several possible reasons:\n\n"
-                             "The file name or path does not exist.\n"
-                             "The file is being used by another program.\n"
-                             "The workbook you are trying to save has the same name as a currently open workbook.");
-            case ooxml::PackageError::Reason::AccessDenied:
-                ThrowRefused("Cannot access '" + target.filename().string() + "'.");
-            default:
-                ThrowRefused("Document not saved.");
-        }
-    }
+    SaveWorkbookFile(book, fullName);
     book.SetFile(fullName);
     book.SetSaved(true);
 }

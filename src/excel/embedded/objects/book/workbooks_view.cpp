@@ -1,5 +1,6 @@
 #include "excel/embedded/objects/book/workbooks_view.hpp"
 
+#include "excel/embedded/document/workbook_file.hpp"
 #include "excel/embedded/engine_errors.hpp"
 #include "excel/embedded/objects/book/application_view.hpp"
 #include "excel/embedded/objects/book/workbook_view.hpp"
@@ -37,7 +38,7 @@ std::shared_ptr<excel::Workbook> WorkbooksView::Add(const Variant&) {
 }
 
 std::shared_ptr<excel::Workbook> WorkbooksView::Open(const std::string& fileName) {
-    return std::make_shared<WorkbookView>(model_->OpenWorkbook(fileName));
+    return std::make_shared<WorkbookView>(OpenWorkbookFile(*model_, fileName));
 }
 
 }  // namespace excel::embedded

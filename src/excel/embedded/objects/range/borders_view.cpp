@@ -2,13 +2,13 @@
 
 #include "excel/embedded/engine_errors.hpp"
 #include "excel/embedded/format/color_model.hpp"
+#include "excel/embedded/format/enum_table.hpp"
 #include "excel/embedded/objects/common_value.hpp"
 
 #include <excel/constants.hpp>
 
 #include <algorithm>
 #include <optional>
-#include <string_view>
 #include <utility>
 
 namespace excel::embedded {
@@ -136,72 +136,46 @@ std::vector<std::pair<uint32_t, uint32_t>> FacingFormats(const WorksheetModel& s
 
 constexpr int32_t diagonalDown = xlDiagonalDown;
 
-const ooxml::Color automaticLineColor{ooxml::Color::Kind::Indexed, 0, 64, 0.0};
+const FormatColor automaticLineColor{FormatColor::Kind::Indexed, 0, 64, 0.0};
 
-int32_t LineStyleOf(std::string_view style) {
-    if (style.empty()) {
-        return xlLineStyleNone;
-    }
-    if (style == "dashed" || style == "mediumDashed") {
-        return xlDash;
-    }
-    if (style == "dotted") {
-        return xlDot;
-    }
-    if (style == "double") {
-        return xlDouble;
-    }
-    if (style == "dashDot" || style == "mediumDashDot") {
-        return xlDashDot;
-    }
-    if (style == "dashDotDot" || style == "mediumDashDotDot") {
-        return xlDashDotDot;
-    }
-    if (style == "slantDashDot") {
-        return xlSlantDashDot;
-    }
-    return xlContinuous;
-}
+// Excel's XlLineStyle and XlBorderWeight of each border style.
+constexpr EnumTable<BorderStyle, int32_t, 14> lineStyles{{
+    xlLineStyleNone, xlContinuous, xlContinuous, xlDash, xlDot, xlContinuous, xlDouble, xlContinuous, xlDash,
+    xlDashDot, xlDashDot, xlDashDotDot, xlDashDotDot, xlSlantDashDot}};
+constexpr EnumTable<BorderStyle, int32_t, 14> weights{{
+    xlThin, xlThin, xlMedium, xlThin, xlThin, xlThick, xlThick, xlHairline, xlMedium, xlThin, xlMedium, xlThin,
+    xlMedium, xlMedium}};
 
-int32_t WeightOf(std::string_view style) {
-    if (style == "hair") {
-        return xlHairline;
-    }
-    if (style == "thick" || style == "double") {
-        return xlThick;
-    }
-    if (style.starts_with("medium") || style == "slantDashDot") {
-        return xlMedium;
-    }
-    return xlThin;
-}
-
-// The file's style for an Excel line style and weight.
-std::string StyleFor(int32_t lineStyle, int32_t weight) {
+// The border style that draws an Excel line style at a weight; none for a line style Excel does
+// not have. Styles without a heavier or lighter variant keep their one weight.
+std::optional<BorderStyle> StyleFor(int32_t lineStyle, int32_t weight) {
     const bool heavy = weight == xlMedium || weight == xlThick;
     switch (lineStyle) {
         case xlContinuous:
-            return weight == xlHairline ? "hair" : weight == xlMedium ? "medium" : weight == xlThick ? "thick" : "thin";
+            return weight == xlHairline ? BorderStyle::Hair
+                   : weight == xlMedium ? BorderStyle::Medium
+                   : weight == xlThick  ? BorderStyle::Thick
+                                        : BorderStyle::Thin;
         case xlDash:
-            return heavy ? "mediumDashed" : "dashed";
+            return heavy ? BorderStyle::MediumDashed : BorderStyle::Dashed;
         case xlDot:
-            return weight == xlHairline ? "hair" : "dotted";
+            return weight == xlHairline ? BorderStyle::Hair : BorderStyle::Dotted;
         case xlDouble:
-            return "double";
+            return BorderStyle::Double;
         case xlDashDot:
-            return heavy ? "mediumDashDot" : "dashDot";
+            return heavy ? BorderStyle::MediumDashDot : BorderStyle::DashDot;
         case xlDashDotDot:
-            return heavy ? "mediumDashDotDot" : "dashDotDot";
+            return heavy ? BorderStyle::MediumDashDotDot : BorderStyle::DashDotDot;
         case xlSlantDashDot:
-            return "slantDashDot";
+            return BorderStyle::SlantDashDot;
         default:
             break;
     }
-    return "";
+    return std::nullopt;
 }
 
 bool ValidLineStyle(int32_t style) {
-    return style == xlLineStyleNone || !StyleFor(style, xlThin).empty();
+    return style == xlLineStyleNone || StyleFor(style, xlThin).has_value();
 }
 
 bool ValidWeight(int32_t weight) {
@@ -236,7 +210,7 @@ template <class Project>
 Variant BordersView::read(Project&& project) {
     WorkbookModel& book = cells_.Book();
     const FormatTable& formats = book.Formats();
-    std::vector<ooxml::BorderLine> lines;
+    std::vector<BorderLine> lines;
     for (const CellBlock& area : cells_.Areas()) {
         for (int32_t index : indices_) {
             const BorderPlacement placement = Place(area, index);
@@ -245,23 +219,23 @@ Variant BordersView::read(Project&& project) {
                 const SidePart& own = placement.read.front();
                 for (const auto& [ownId, touchingId] :
                      FacingFormats(*cells_.Sheet(), own.block, placement.outside->block)) {
-                    const ooxml::BorderLine& line = LineOf(formats.Get(ownId).border, own.side);
-                    lines.push_back(line.style.empty() ? LineOf(formats.Get(touchingId).border, placement.outside->side)
-                                                       : line);
+                    const BorderLine& line = LineOf(formats.Get(ownId).border, own.side);
+                    lines.push_back(line.Drawn() ? line
+                                                 : LineOf(formats.Get(touchingId).border, placement.outside->side));
                 }
                 continue;
             }
             for (const SidePart& part : placement.read) {
                 for (uint32_t id : cells_.Sheet()->DistinctFormats(part.block)) {
-                    const ooxml::Border& border = formats.Get(id).border;
+                    const CellBorder& border = formats.Get(id).border;
                     const bool diagonalShown = index == diagonalDown ? border.diagonalDown : border.diagonalUp;
-                    lines.push_back(part.side == Side::Diagonal && !diagonalShown ? ooxml::BorderLine{}
+                    lines.push_back(part.side == Side::Diagonal && !diagonalShown ? BorderLine{}
                                                                                   : LineOf(border, part.side));
                 }
             }
         }
     }
-    return CommonValue(lines, [&](const ooxml::BorderLine& line) { return project(line, book.Palette()); });
+    return CommonValue(lines, [&](const BorderLine& line) { return project(line, book.Palette()); });
 }
 
 namespace {
@@ -275,13 +249,13 @@ void AdoptTouchingLines(WorksheetModel& sheet, FormatTable& formats, const SideP
         int32_t column;
         size_t line;
     };
-    std::vector<ooxml::BorderLine> lines;
+    std::vector<BorderLine> lines;
     std::vector<Adopted> adopted;
     const int32_t rowStep = own.block.top - outside.block.top;
     const int32_t columnStep = own.block.left - outside.block.left;
     sheet.ForEachStoredCell(outside.block, [&](int32_t row, Cell& cell) {
-        const ooxml::BorderLine& line = LineOf(formats.Get(cell.format).border, outside.side);
-        if (line.style.empty()) {
+        const BorderLine& line = LineOf(formats.Get(cell.format).border, outside.side);
+        if (!line.Drawn()) {
             return;
         }
         auto found = std::find(lines.begin(), lines.end(), line);
@@ -291,10 +265,10 @@ void AdoptTouchingLines(WorksheetModel& sheet, FormatTable& formats, const SideP
         adopted.push_back({row + rowStep, cell.column + columnStep, static_cast<size_t>(found - lines.begin())});
     });
     std::vector<FormatChange> adoptions;
-    for (const ooxml::BorderLine& line : lines) {
-        adoptions.emplace_back(formats, [&line, side = own.side](ooxml::CellFormat& format) {
-            ooxml::BorderLine& ownLine = LineOf(format.border, side);
-            if (ownLine.style.empty()) {
+    for (const BorderLine& line : lines) {
+        adoptions.emplace_back(formats, [&line, side = own.side](CellFormat& format) {
+            BorderLine& ownLine = LineOf(format.border, side);
+            if (!ownLine.Drawn()) {
                 ownLine = line;
             }
         });
@@ -308,21 +282,21 @@ void AdoptTouchingLines(WorksheetModel& sheet, FormatTable& formats, const SideP
 // that only a row or column format of theirs carries stays, because clearing it would turn every
 // such position into a cell of its own.
 void ClearTouchingSides(WorksheetModel& sheet, FormatTable& formats, const SidePart& outside) {
-    FormatChange clear(formats, [&](ooxml::CellFormat& format) { LineOf(format.border, outside.side) = {}; });
+    FormatChange clear(formats, [&](CellFormat& format) { LineOf(format.border, outside.side) = {}; });
     sheet.ForEachStoredCell(outside.block, [&](int32_t, Cell& cell) { cell.format = clear.Apply(cell.format); });
 }
 
 }  // namespace
 
-void BordersView::edit(const std::function<void(ooxml::BorderLine&)>& editLine) {
+void BordersView::edit(const std::function<void(BorderLine&)>& editLine) {
     WorkbookModel& book = cells_.Book();
     for (int32_t index : indices_) {
         std::vector<FormatChange> changes;
         for (Side side : {Side::Left, Side::Right, Side::Top, Side::Bottom, Side::Diagonal}) {
-            changes.emplace_back(book.Formats(), [&, side](ooxml::CellFormat& format) {
+            changes.emplace_back(book.Formats(), [&, side](CellFormat& format) {
                 editLine(LineOf(format.border, side));
                 if (side == Side::Diagonal) {
-                    const bool shown = !format.border.diagonal.style.empty();
+                    const bool shown = format.border.diagonal.Drawn();
                     (index == xlDiagonalDown ? format.border.diagonalDown : format.border.diagonalUp) = shown;
                 }
             });
@@ -344,53 +318,51 @@ void BordersView::edit(const std::function<void(ooxml::BorderLine&)>& editLine) 
 }
 
 Variant BordersView::LineStyle() {
-    return read([](const ooxml::BorderLine& line, const Palette&) { return Variant(LineStyleOf(line.style)); });
+    return read([](const BorderLine& line, const Palette&) { return Variant(lineStyles[line.style]); });
 }
 
 void BordersView::SetLineStyle(int32_t style) {
     if (!ValidLineStyle(style)) {
         ThrowRefused("Unable to set the LineStyle property of the Border class");
     }
-    edit([&](ooxml::BorderLine& line) {
+    edit([&](BorderLine& line) {
         if (style == xlLineStyleNone) {
-            line = ooxml::BorderLine{};
+            line = BorderLine{};
             return;
         }
-        const int32_t weight = line.style.empty() ? xlThin : WeightOf(line.style);
-        line.style = StyleFor(style, weight);
-        if (line.color.kind == ooxml::Color::Kind::None) {
+        line.style = *StyleFor(style, weights[line.style]);
+        if (line.color.kind == FormatColor::Kind::None) {
             line.color = automaticLineColor;
         }
     });
 }
 
 Variant BordersView::Weight() {
-    return read([](const ooxml::BorderLine& line, const Palette&) { return Variant(WeightOf(line.style)); });
+    return read([](const BorderLine& line, const Palette&) { return Variant(weights[line.style]); });
 }
 
 void BordersView::SetWeight(int32_t weight) {
     if (!ValidWeight(weight)) {
         ThrowRefused("Unable to set the Weight property of the Border class");
     }
-    edit([&](ooxml::BorderLine& line) {
-        const int32_t style = line.style.empty() ? xlContinuous : LineStyleOf(line.style);
-        line.style = StyleFor(style, weight);
-        if (line.color.kind == ooxml::Color::Kind::None) {
+    edit([&](BorderLine& line) {
+        line.style = *StyleFor(line.Drawn() ? lineStyles[line.style] : xlContinuous, weight);
+        if (line.color.kind == FormatColor::Kind::None) {
             line.color = automaticLineColor;
         }
     });
 }
 
-void BordersView::SetLine(int32_t lineStyle, int32_t weight, const ooxml::Color* color) {
+void BordersView::SetLine(int32_t lineStyle, int32_t weight, const FormatColor* color) {
     if (!ValidLineStyle(lineStyle) || !ValidWeight(weight)) {
         ThrowRefused("BorderAround method of Range class failed");
     }
-    edit([&](ooxml::BorderLine& line) {
+    edit([&](BorderLine& line) {
         if (lineStyle == xlLineStyleNone) {
-            line = ooxml::BorderLine{};
+            line = BorderLine{};
             return;
         }
-        line.style = StyleFor(lineStyle, weight);
+        line.style = *StyleFor(lineStyle, weight);
         line.color = color ? *color : automaticLineColor;
     });
 }
@@ -398,9 +370,9 @@ void BordersView::SetLine(int32_t lineStyle, int32_t weight, const ooxml::Color*
 namespace {
 
 // Colouring a border without a line draws a thin continuous one, as Excel does.
-void Colour(ooxml::BorderLine& line, const ooxml::Color& color) {
-    if (line.style.empty()) {
-        line.style = "thin";
+void Colour(BorderLine& line, const FormatColor& color) {
+    if (!line.Drawn()) {
+        line.style = BorderStyle::Thin;
     }
     line.color = color;
 }
@@ -408,45 +380,45 @@ void Colour(ooxml::BorderLine& line, const ooxml::Color& color) {
 }  // namespace
 
 Variant BordersView::Color() {
-    return read([](const ooxml::BorderLine& line, const Palette& palette) {
+    return read([](const BorderLine& line, const Palette& palette) {
         return Variant(static_cast<double>(RgbOf(line.color, palette, 0)));
     });
 }
 
 void BordersView::SetColor(int32_t rgb) {
-    const ooxml::Color color = ColorFromRgb(rgb);
-    edit([&](ooxml::BorderLine& line) { Colour(line, color); });
+    const FormatColor color = ColorFromRgb(rgb);
+    edit([&](BorderLine& line) { Colour(line, color); });
 }
 
 Variant BordersView::ColorIndex() {
-    return read([](const ooxml::BorderLine& line, const Palette& palette) {
-        return Variant(line.style.empty() ? xlColorIndexNone
-                                          : ColorIndexOf(line.color, palette, xlColorIndexAutomatic));
+    return read([](const BorderLine& line, const Palette& palette) {
+        return Variant(!line.Drawn() ? xlColorIndexNone
+                                     : ColorIndexOf(line.color, palette, xlColorIndexAutomatic));
     });
 }
 
 void BordersView::SetColorIndex(int32_t index) {
-    const ooxml::Color color = index == xlColorIndexAutomatic ? automaticLineColor : ColorFromIndex(index);
-    edit([&](ooxml::BorderLine& line) { Colour(line, color); });
+    const FormatColor color = index == xlColorIndexAutomatic ? automaticLineColor : ColorFromIndex(index);
+    edit([&](BorderLine& line) { Colour(line, color); });
 }
 
 Variant BordersView::ThemeColor() {
-    return read([](const ooxml::BorderLine& line, const Palette&) { return Variant(ThemeColorOf(line.color)); });
+    return read([](const BorderLine& line, const Palette&) { return Variant(ThemeColorOf(line.color)); });
 }
 
 void BordersView::SetThemeColor(int32_t themeColor) {
-    const ooxml::Color color = ColorFromTheme(themeColor);
-    edit([&](ooxml::BorderLine& line) { Colour(line, color); });
+    const FormatColor color = ColorFromTheme(themeColor);
+    edit([&](BorderLine& line) { Colour(line, color); });
 }
 
 Variant BordersView::TintAndShade() {
-    return read([](const ooxml::BorderLine& line, const Palette&) { return Variant(TintOf(line.color)); });
+    return read([](const BorderLine& line, const Palette&) { return Variant(TintOf(line.color)); });
 }
 
 void BordersView::SetTintAndShade(double tint) {
     WithTint({}, tint);
-    edit([&](ooxml::BorderLine& line) {
-        if (!line.style.empty()) {
+    edit([&](BorderLine& line) {
+        if (line.Drawn()) {
             line.color = WithTint(line.color, tint);
         }
     });

@@ -37,12 +37,12 @@ public:
     void SetTintAndShade(double tint) override;
 
     // Sets style, weight and colour of these borders in one go (BorderAround).
-    void SetLine(int32_t lineStyle, int32_t weight, const ooxml::Color* color);
+    void SetLine(int32_t lineStyle, int32_t weight, const FormatColor* color);
 
 private:
     template <class Project>
     Variant read(Project&& project);
-    void edit(const std::function<void(ooxml::BorderLine&)>& editLine);
+    void edit(const std::function<void(BorderLine&)>& editLine);
 
     RangeCells cells_;
     std::vector<int32_t> indices_;

@@ -6,7 +6,7 @@
 
 namespace excel::embedded {
 
-ooxml::SharedString CellRichText::Text() {
+RichText CellRichText::Text() {
     const WorkbookModel& book = cell_.Book();
     const CellBlock& at = cell_.Areas().front();
     const Cell* cell = cell_.Sheet()->Cells().Find(at.top, at.left);
@@ -14,16 +14,16 @@ ooxml::SharedString CellRichText::Text() {
         return book.Strings().Get(cell->text);
     }
     CellValueReader reader(book, false);
-    return ooxml::SharedString{reader.ReadFormula(cell).ToString(), {}};
+    return RichText{reader.ReadFormula(cell).ToString(), {}};
 }
 
-ooxml::Font CellRichText::BaseFont() {
+FontFormat CellRichText::BaseFont() {
     const WorkbookModel& book = cell_.Book();
     const CellBlock& at = cell_.Areas().front();
     return book.Formats().Get(cell_.Sheet()->ResolvedFormat(at.top, at.left)).font;
 }
 
-void CellRichText::SetText(const ooxml::SharedString& text) {
+void CellRichText::SetText(const RichText& text) {
     WorkbookModel& book = cell_.Book();
     const uint32_t id = book.Strings().Add(text);
     cell_.Sheet()->WriteCells(cell_.Areas().front(), [&](int32_t, int32_t, Cell& cell) {
@@ -33,15 +33,15 @@ void CellRichText::SetText(const ooxml::SharedString& text) {
     book.SetSaved(false);
 }
 
-void CellRichText::EditFonts(size_t start, size_t count, const std::function<void(ooxml::Font&)>& edit) {
+void CellRichText::EditFonts(size_t start, size_t count, const std::function<void(FontFormat&)>& edit) {
     WorkbookModel& book = cell_.Book();
     const CellBlock& at = cell_.Areas().front();
     Cell* cell = cell_.Sheet()->Cells().Find(at.top, at.left);
     if (cell == nullptr || cell->kind != CellKind::Text) {
-        cell_.EditFormats([&](ooxml::CellFormat& format) { edit(format.font); });
+        cell_.EditFormats([&](CellFormat& format) { edit(format.font); });
         return;
     }
-    const ooxml::Font cellFont = book.Formats().Get(cell->format).font;
+    const FontFormat cellFont = book.Formats().Get(cell->format).font;
     cell->text = book.Strings().Add(WithFont(book.Strings().Get(cell->text), start, count, edit, cellFont));
     book.SetSaved(false);
 }

@@ -11,12 +11,12 @@ class CellRichText final : public RichTextSource {
 public:
     explicit CellRichText(RangeCells cell) : cell_(std::move(cell)) {}
 
-    ooxml::SharedString Text() override;
-    ooxml::Font BaseFont() override;
+    RichText Text() override;
+    FontFormat BaseFont() override;
     // The cell becomes a text cell holding the text.
-    void SetText(const ooxml::SharedString& text) override;
+    void SetText(const RichText& text) override;
     // Only text holds runs; for any other value Excel formats the whole cell.
-    void EditFonts(size_t start, size_t count, const std::function<void(ooxml::Font&)>& edit) override;
+    void EditFonts(size_t start, size_t count, const std::function<void(FontFormat&)>& edit) override;
     const Palette& Colors() override;
 
 private:

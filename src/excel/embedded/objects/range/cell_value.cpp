@@ -128,21 +128,21 @@ void CellValueWriter::storeText(Cell& cell, std::string_view text) {
 }
 
 void CellValueWriter::setNumberFormatIfGeneral(Cell& cell, std::string_view numberFormat) {
-    const ooxml::CellFormat& format = book_.Formats().Get(cell.format);
+    const CellFormat& format = book_.Formats().Get(cell.format);
     if (format.numberFormat != "General") {
         return;
     }
-    ooxml::CellFormat changed = format;
+    CellFormat changed = format;
     changed.numberFormat = std::string(numberFormat);
     cell.format = book_.Formats().Intern(changed);
 }
 
 void CellValueWriter::setQuotePrefix(Cell& cell, bool quotePrefix) {
-    const ooxml::CellFormat& format = book_.Formats().Get(cell.format);
+    const CellFormat& format = book_.Formats().Get(cell.format);
     if (format.quotePrefix == quotePrefix) {
         return;
     }
-    ooxml::CellFormat changed = format;
+    CellFormat changed = format;
     changed.quotePrefix = quotePrefix;
     cell.format = book_.Formats().Intern(changed);
 }

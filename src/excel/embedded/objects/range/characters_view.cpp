@@ -15,7 +15,7 @@ struct Span {
     size_t count;
 };
 
-Span SpanOf(const ooxml::SharedString& text, int32_t start, int32_t length) {
+Span SpanOf(const RichText& text, int32_t start, int32_t length) {
     const size_t total = CharacterCount(text);
     const size_t first = std::min(static_cast<size_t>(start - 1), total);
     const size_t count = length < 0 ? total - first : std::min(static_cast<size_t>(length), total - first);
@@ -27,13 +27,13 @@ public:
     CharactersFontTarget(std::shared_ptr<RichTextSource> source, int32_t start, int32_t length)
         : source_(std::move(source)), start_(start), length_(length) {}
 
-    std::vector<ooxml::Font> Fonts() override {
-        const ooxml::SharedString text = source_->Text();
+    std::vector<FontFormat> Fonts() override {
+        const RichText text = source_->Text();
         const Span span = SpanOf(text, start_, length_);
         return FontsOf(text, span.start, span.count, source_->BaseFont());
     }
 
-    void EditFonts(const std::function<void(ooxml::Font&)>& edit) override {
+    void EditFonts(const std::function<void(FontFormat&)>& edit) override {
         const Span span = SpanOf(source_->Text(), start_, length_);
         source_->EditFonts(span.start, span.count, edit);
     }
@@ -59,7 +59,7 @@ std::shared_ptr<excel::Characters> CharactersView::Make(std::shared_ptr<RichText
 }
 
 std::string CharactersView::Text() {
-    const ooxml::SharedString text = source_->Text();
+    const RichText text = source_->Text();
     const Span span = SpanOf(text, start_, length_);
     return CharactersOf(text, span.start, span.count);
 }
@@ -86,7 +86,7 @@ std::shared_ptr<excel::Font> CharactersView::Font() {
 }
 
 void CharactersView::Insert(const std::string& text) {
-    const ooxml::SharedString current = source_->Text();
+    const RichText current = source_->Text();
     const Span span = SpanOf(current, start_, length_);
     source_->SetText(WithReplaced(current, span.start, span.count, text));
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "excel/embedded/format/color_model.hpp"
+#include "excel/embedded/format/font_format.hpp"
 
 #include <excel/font.hpp>
 
@@ -14,8 +15,8 @@ namespace excel::embedded {
 class FontTarget {
 public:
     virtual ~FontTarget() = default;
-    virtual std::vector<ooxml::Font> Fonts() = 0;  // the distinct fonts shown
-    virtual void EditFonts(const std::function<void(ooxml::Font&)>& edit) = 0;
+    virtual std::vector<FontFormat> Fonts() = 0;  // the distinct fonts shown
+    virtual void EditFonts(const std::function<void(FontFormat&)>& edit) = 0;
     virtual const Palette& Colors() = 0;
 };
 

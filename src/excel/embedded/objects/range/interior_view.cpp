@@ -2,12 +2,12 @@
 
 #include "excel/embedded/engine_errors.hpp"
 #include "excel/embedded/format/color_model.hpp"
+#include "excel/embedded/format/enum_table.hpp"
 #include "excel/embedded/objects/common_value.hpp"
-#include "excel/embedded/objects/constant_names.hpp"
 
 #include <excel/constants.hpp>
 
-#include <string_view>
+#include <optional>
 #include <utility>
 
 namespace excel::embedded {
@@ -16,53 +16,54 @@ namespace {
 
 constexpr uint32_t white = 0xFFFFFF;
 
-// Excel's XlPattern values and the file's pattern types.
-constexpr ConstantNames<18> patterns{{
-    {xlPatternSolid, "solid"},
-    {xlPatternGray50, "mediumGray"},
-    {xlPatternGray75, "darkGray"},
-    {xlPatternGray25, "lightGray"},
-    {xlPatternGray16, "gray125"},
-    {xlPatternGray8, "gray0625"},
-    {xlPatternHorizontal, "darkHorizontal"},
-    {xlPatternVertical, "darkVertical"},
-    {xlPatternDown, "darkDown"},
-    {xlPatternUp, "darkUp"},
-    {xlPatternChecker, "darkGrid"},
-    {xlPatternSemiGray75, "darkTrellis"},
-    {xlPatternLightHorizontal, "lightHorizontal"},
-    {xlPatternLightVertical, "lightVertical"},
-    {xlPatternLightDown, "lightDown"},
-    {xlPatternLightUp, "lightUp"},
-    {xlPatternGrid, "lightGrid"},
-    {xlPatternCrissCross, "lightTrellis"},
+// Excel's XlPattern values, in the order of the fill patterns.
+constexpr EnumTable<FillPattern, int32_t, 19> patterns{{
+    xlPatternNone,
+    xlPatternSolid,
+    xlPatternGray50,
+    xlPatternGray75,
+    xlPatternGray25,
+    xlPatternHorizontal,
+    xlPatternVertical,
+    xlPatternDown,
+    xlPatternUp,
+    xlPatternChecker,
+    xlPatternSemiGray75,
+    xlPatternLightHorizontal,
+    xlPatternLightVertical,
+    xlPatternLightDown,
+    xlPatternLightUp,
+    xlPatternGrid,
+    xlPatternCrissCross,
+    xlPatternGray16,
+    xlPatternGray8,
 }};
 
-bool HasFill(const ooxml::Fill& fill) {
-    return !fill.patternType.empty() && fill.patternType != "none";
+bool HasFill(const CellFill& fill) {
+    return fill.pattern != FillPattern::None;
 }
 
 // A solid fill shows its foreground; a patterned one draws the foreground's lines over the
 // background. Interior.Color is the cell's colour, PatternColor the lines', as Excel files them.
-bool IsSolid(const ooxml::Fill& fill) {
-    return fill.patternType == "solid";
+bool IsSolid(const CellFill& fill) {
+    return fill.pattern == FillPattern::Solid;
 }
-ooxml::Color& CellColor(ooxml::Fill& fill) {
+FormatColor& CellColor(CellFill& fill) {
     return IsSolid(fill) ? fill.foreground : fill.background;
 }
-const ooxml::Color& CellColor(const ooxml::Fill& fill) {
+const FormatColor& CellColor(const CellFill& fill) {
     return IsSolid(fill) ? fill.foreground : fill.background;
 }
-ooxml::Color& LineColor(ooxml::Fill& fill) {
+FormatColor& LineColor(CellFill& fill) {
     return IsSolid(fill) ? fill.background : fill.foreground;
 }
-const ooxml::Color& LineColor(const ooxml::Fill& fill) {
+const FormatColor& LineColor(const CellFill& fill) {
     return IsSolid(fill) ? fill.background : fill.foreground;
 }
 
 // The automatic pattern colour (system foreground), as Excel writes it for a solid fill.
-const ooxml::Color automaticLines{ooxml::Color::Kind::Indexed, 0, 64, 0.0};
-const ooxml::Color windowBackground{ooxml::Color::Kind::Indexed, 0, 65, 0.0};
+const FormatColor automaticLines{FormatColor::Kind::Indexed, 0, 64, 0.0};
+const FormatColor windowBackground{FormatColor::Kind::Indexed, 0, 65, 0.0};
 
 }  // namespace
 
@@ -73,20 +74,20 @@ Variant InteriorView::read(Project&& project) {
     return CommonValue(ids, [&](uint32_t id) { return project(book.Formats().Get(id).fill, book.Palette()); });
 }
 
-void InteriorView::setCellColor(const ooxml::Color& color) {
-    cells_.EditFormats([&](ooxml::CellFormat& format) {
+void InteriorView::setCellColor(const FormatColor& color) {
+    cells_.EditFormats([&](CellFormat& format) {
         if (!HasFill(format.fill)) {
-            format.fill.patternType = "solid";
+            format.fill.pattern = FillPattern::Solid;
             format.fill.background = automaticLines;
         }
         CellColor(format.fill) = color;
     });
 }
 
-void InteriorView::setLineColor(const ooxml::Color& color) {
-    cells_.EditFormats([&](ooxml::CellFormat& format) {
+void InteriorView::setLineColor(const FormatColor& color) {
+    cells_.EditFormats([&](CellFormat& format) {
         if (!HasFill(format.fill)) {
-            format.fill.patternType = "solid";
+            format.fill.pattern = FillPattern::Solid;
             CellColor(format.fill) = windowBackground;
         }
         LineColor(format.fill) = color;
@@ -94,7 +95,7 @@ void InteriorView::setLineColor(const ooxml::Color& color) {
 }
 
 Variant InteriorView::Color() {
-    return read([](const ooxml::Fill& fill, const Palette& palette) {
+    return read([](const CellFill& fill, const Palette& palette) {
         return Variant(static_cast<double>(HasFill(fill) ? RgbOf(CellColor(fill), palette, white) : white));
     });
 }
@@ -104,7 +105,7 @@ void InteriorView::SetColor(int32_t rgb) {
 }
 
 Variant InteriorView::ColorIndex() {
-    return read([](const ooxml::Fill& fill, const Palette& palette) {
+    return read([](const CellFill& fill, const Palette& palette) {
         return Variant(HasFill(fill) ? ColorIndexOf(CellColor(fill), palette, xlColorIndexAutomatic)
                                      : xlColorIndexNone);
     });
@@ -123,7 +124,7 @@ void InteriorView::SetColorIndex(int32_t index) {
 }
 
 Variant InteriorView::ThemeColor() {
-    return read([](const ooxml::Fill& fill, const Palette&) {
+    return read([](const CellFill& fill, const Palette&) {
         return HasFill(fill) ? Variant(ThemeColorOf(CellColor(fill))) : Variant(xlColorIndexNone);
     });
 }
@@ -134,12 +135,12 @@ void InteriorView::SetThemeColor(int32_t themeColor) {
 
 Variant InteriorView::TintAndShade() {
     return read(
-        [](const ooxml::Fill& fill, const Palette&) { return Variant(HasFill(fill) ? TintOf(CellColor(fill)) : 0.0); });
+        [](const CellFill& fill, const Palette&) { return Variant(HasFill(fill) ? TintOf(CellColor(fill)) : 0.0); });
 }
 
 void InteriorView::SetTintAndShade(double tint) {
     WithTint({}, tint);
-    cells_.EditFormats([&](ooxml::CellFormat& format) {
+    cells_.EditFormats([&](CellFormat& format) {
         if (HasFill(format.fill)) {
             CellColor(format.fill) = WithTint(CellColor(format.fill), tint);
         }
@@ -147,36 +148,29 @@ void InteriorView::SetTintAndShade(double tint) {
 }
 
 Variant InteriorView::Pattern() {
-    return read([](const ooxml::Fill& fill, const Palette&) {
-        return Variant(ConstantOf(patterns, fill.patternType, xlPatternNone));
+    return read([](const CellFill& fill, const Palette&) {
+        return Variant(patterns[fill.pattern]);
     });
 }
 
 void InteriorView::SetPattern(int32_t pattern) {
-    std::string_view type;
-    if (pattern == xlPatternNone) {
-        type = "none";
-    } else if (pattern == xlPatternAutomatic) {
-        type = "solid";
-    } else if (const std::string_view* name = NameOf(patterns, pattern)) {
-        type = *name;
-    }
-    if (type.empty()) {
+    const std::optional<FillPattern> type = pattern == xlPatternAutomatic ? FillPattern::Solid : patterns.Find(pattern);
+    if (!type) {
         ThrowRefused("Unable to set the Pattern property of the Interior class");
     }
-    cells_.EditFormats([&](ooxml::CellFormat& format) {
-        if (type == "none") {
-            format.fill = ooxml::Fill{};
+    cells_.EditFormats([&](CellFormat& format) {
+        if (*type == FillPattern::None) {
+            format.fill = CellFill{};
             return;
         }
         if (!HasFill(format.fill)) {
             // No fill yet: automatic lines on the window's background colour.
-            format.fill.patternType = "solid";
+            format.fill.pattern = FillPattern::Solid;
             CellColor(format.fill) = windowBackground;
             LineColor(format.fill) = automaticLines;
         }
         const bool wasSolid = IsSolid(format.fill);
-        format.fill.patternType = std::string(type);
+        format.fill.pattern = *type;
         if (wasSolid != IsSolid(format.fill)) {
             // The cell keeps its colour and the lines theirs, whichever slot now holds them.
             std::swap(format.fill.foreground, format.fill.background);
@@ -185,7 +179,7 @@ void InteriorView::SetPattern(int32_t pattern) {
 }
 
 Variant InteriorView::PatternColor() {
-    return read([](const ooxml::Fill& fill, const Palette& palette) {
+    return read([](const CellFill& fill, const Palette& palette) {
         return Variant(static_cast<double>(RgbOf(LineColor(fill), palette, 0)));
     });
 }
@@ -195,7 +189,7 @@ void InteriorView::SetPatternColor(int32_t rgb) {
 }
 
 Variant InteriorView::PatternColorIndex() {
-    return read([](const ooxml::Fill& fill, const Palette& palette) {
+    return read([](const CellFill& fill, const Palette& palette) {
         return Variant(ColorIndexOf(LineColor(fill), palette, xlColorIndexAutomatic));
     });
 }

@@ -28,8 +28,8 @@ public:
 private:
     template <class Project>
     Variant read(Project&& project);
-    void setCellColor(const ooxml::Color& color);
-    void setLineColor(const ooxml::Color& color);
+    void setCellColor(const FormatColor& color);
+    void setLineColor(const FormatColor& color);
 
     RangeCells cells_;
 };

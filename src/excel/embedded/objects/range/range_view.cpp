@@ -32,16 +32,16 @@ class RangeFontTarget final : public FontTarget {
 public:
     explicit RangeFontTarget(RangeCells cells) : cells_(std::move(cells)) {}
 
-    std::vector<ooxml::Font> Fonts() override {
+    std::vector<FontFormat> Fonts() override {
         const WorkbookModel& book = cells_.Book();
-        std::vector<ooxml::Font> fonts;
+        std::vector<FontFormat> fonts;
         for (uint32_t id : cells_.DistinctFormats()) {
             fonts.push_back(book.Formats().Get(id).font);
         }
         return fonts;
     }
-    void EditFonts(const std::function<void(ooxml::Font&)>& edit) override {
-        cells_.EditFormats([&](ooxml::CellFormat& format) { edit(format.font); });
+    void EditFonts(const std::function<void(FontFormat&)>& edit) override {
+        cells_.EditFormats([&](CellFormat& format) { edit(format.font); });
     }
     const Palette& Colors() override { return cells_.Book().Palette(); }
 
@@ -285,7 +285,7 @@ void RangeView::BorderAround(const Variant& lineStyle, int32_t weight, int32_t c
                              const Variant& themeColor) {
     book();
     const int32_t style = lineStyle.IsEmpty() ? xlContinuous : lineStyle.ToInt();
-    std::optional<ooxml::Color> lineColor;
+    std::optional<FormatColor> lineColor;
     if (!color.IsEmpty()) {
         lineColor = ColorFromRgb(color.ToInt());
     } else if (!themeColor.IsEmpty()) {

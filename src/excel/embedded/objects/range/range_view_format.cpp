@@ -1,13 +1,13 @@
 #include "excel/embedded/objects/range/range_view.hpp"
 
 #include "excel/embedded/engine_errors.hpp"
+#include "excel/embedded/format/enum_table.hpp"
 #include "excel/embedded/objects/common_value.hpp"
-#include "excel/embedded/objects/constant_names.hpp"
 
 #include <excel/constants.hpp>
 
+#include <optional>
 #include <set>
-#include <string_view>
 
 namespace excel::embedded {
 
@@ -15,24 +15,11 @@ namespace {
 
 constexpr int32_t verticalTextRotation = 255;
 
-constexpr ConstantNames<8> horizontalAlignments{{
-    {xlGeneral, ""},
-    {xlLeft, "left"},
-    {xlCenter, "center"},
-    {xlRight, "right"},
-    {xlFill, "fill"},
-    {xlJustify, "justify"},
-    {xlCenterAcrossSelection, "centerContinuous"},
-    {xlDistributed, "distributed"},
-}};
-
-constexpr ConstantNames<5> verticalAlignments{{
-    {xlBottom, ""},
-    {xlTop, "top"},
-    {xlCenter, "center"},
-    {xlJustify, "justify"},
-    {xlDistributed, "distributed"},
-}};
+// Excel's XlHAlign and XlVAlign values, in the order of the alignments.
+constexpr EnumTable<HorizontalAlignment, int32_t, 8> horizontalAlignments{
+    {xlGeneral, xlLeft, xlCenter, xlRight, xlFill, xlJustify, xlCenterAcrossSelection, xlDistributed}};
+constexpr EnumTable<VerticalAlignment, int32_t, 5> verticalAlignments{
+    {xlTop, xlCenter, xlBottom, xlJustify, xlDistributed}};
 
 bool WholeRows(const CellBlock& block) {
     return block.left == 1 && block.right == MaxColumn;
@@ -51,13 +38,13 @@ Variant RangeView::readFormat(Project&& project) {
 }
 
 Variant RangeView::NumberFormat() {
-    return readFormat([](const ooxml::CellFormat& format) { return Variant(format.numberFormat); });
+    return readFormat([](const CellFormat& format) { return Variant(format.numberFormat); });
 }
 
 void RangeView::SetNumberFormat(const std::string& format) {
     book();
     const std::string numberFormat = format.empty() ? "General" : format;
-    cells_.EditFormats([&](ooxml::CellFormat& cellFormat) { cellFormat.numberFormat = numberFormat; });
+    cells_.EditFormats([&](CellFormat& cellFormat) { cellFormat.numberFormat = numberFormat; });
 }
 
 // The engine works in locale 1033 (English, United States), where both spellings agree.
@@ -70,46 +57,46 @@ void RangeView::SetNumberFormatLocal(const std::string& format) {
 }
 
 Variant RangeView::HorizontalAlignment() {
-    return readFormat([](const ooxml::CellFormat& format) {
-        return Variant(ConstantOf(horizontalAlignments, format.alignment.horizontal, xlGeneral));
+    return readFormat([](const CellFormat& format) {
+        return Variant(horizontalAlignments[format.alignment.horizontal]);
     });
 }
 
 void RangeView::SetHorizontalAlignment(int32_t alignment) {
     book();
-    const std::string_view* name = NameOf(horizontalAlignments, alignment);
-    if (name == nullptr) {
+    const std::optional<embedded::HorizontalAlignment> found = horizontalAlignments.Find(alignment);
+    if (!found) {
         ThrowRefused("Unable to set the HorizontalAlignment property of the Range class");
     }
-    cells_.EditFormats([&](ooxml::CellFormat& format) { format.alignment.horizontal = std::string(*name); });
+    cells_.EditFormats([&](CellFormat& format) { format.alignment.horizontal = *found; });
 }
 
 Variant RangeView::VerticalAlignment() {
-    return readFormat([](const ooxml::CellFormat& format) {
-        return Variant(ConstantOf(verticalAlignments, format.alignment.vertical, xlBottom));
+    return readFormat([](const CellFormat& format) {
+        return Variant(verticalAlignments[format.alignment.vertical]);
     });
 }
 
 void RangeView::SetVerticalAlignment(int32_t alignment) {
     book();
-    const std::string_view* name = NameOf(verticalAlignments, alignment);
-    if (name == nullptr) {
+    const std::optional<embedded::VerticalAlignment> found = verticalAlignments.Find(alignment);
+    if (!found) {
         ThrowRefused("Unable to set the VerticalAlignment property of the Range class");
     }
-    cells_.EditFormats([&](ooxml::CellFormat& format) { format.alignment.vertical = std::string(*name); });
+    cells_.EditFormats([&](CellFormat& format) { format.alignment.vertical = *found; });
 }
 
 Variant RangeView::WrapText() {
-    return readFormat([](const ooxml::CellFormat& format) { return Variant(format.alignment.wrapText); });
+    return readFormat([](const CellFormat& format) { return Variant(format.alignment.wrapText); });
 }
 
 void RangeView::SetWrapText(bool wrap) {
     book();
-    cells_.EditFormats([&](ooxml::CellFormat& format) { format.alignment.wrapText = wrap; });
+    cells_.EditFormats([&](CellFormat& format) { format.alignment.wrapText = wrap; });
 }
 
 Variant RangeView::IndentLevel() {
-    return readFormat([](const ooxml::CellFormat& format) { return Variant(format.alignment.indent); });
+    return readFormat([](const CellFormat& format) { return Variant(format.alignment.indent); });
 }
 
 void RangeView::SetIndentLevel(int32_t level) {
@@ -117,17 +104,17 @@ void RangeView::SetIndentLevel(int32_t level) {
     if (level < 0 || level > 250) {
         ThrowRefused("Unable to set the IndentLevel property of the Range class");
     }
-    cells_.EditFormats([&](ooxml::CellFormat& format) {
+    cells_.EditFormats([&](CellFormat& format) {
         format.alignment.indent = level;
         // An indent needs an alignment that honours it; Excel switches General to left.
-        if (level > 0 && format.alignment.horizontal.empty()) {
-            format.alignment.horizontal = "left";
+        if (level > 0 && format.alignment.horizontal == embedded::HorizontalAlignment::General) {
+            format.alignment.horizontal = embedded::HorizontalAlignment::Left;
         }
     });
 }
 
 Variant RangeView::Orientation() {
-    return readFormat([](const ooxml::CellFormat& format) {
+    return readFormat([](const CellFormat& format) {
         const int32_t rotation = format.alignment.textRotation;
         if (rotation == 0) {
             return Variant(xlHorizontal);
@@ -155,7 +142,7 @@ void RangeView::SetOrientation(int32_t degrees) {
     } else {
         ThrowRefused("Unable to set the Orientation property of the Range class");
     }
-    cells_.EditFormats([&](ooxml::CellFormat& format) { format.alignment.textRotation = rotation; });
+    cells_.EditFormats([&](CellFormat& format) { format.alignment.textRotation = rotation; });
 }
 
 Variant RangeView::MergeCells() {

@@ -227,7 +227,7 @@ void RangeView::ClearFormats() {
     for (const CellBlock& area : cells_.Areas()) {
         cells_.Sheet()->Unmerge(area);
     }
-    cells_.EditFormats([](ooxml::CellFormat& format) { format = ooxml::CellFormat{}; });
+    cells_.EditFormats([](CellFormat& format) { format = CellFormat{}; });
 }
 
 // Excel's Clear All: contents, formats and comments.

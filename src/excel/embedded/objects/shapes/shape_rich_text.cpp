@@ -7,27 +7,27 @@
 
 namespace excel::embedded {
 
-ooxml::SharedString ShapeRichText::Text() {
+RichText ShapeRichText::Text() {
     return shape_.Shape().text.text;
 }
 
-ooxml::Font ShapeRichText::BaseFont() {
+FontFormat ShapeRichText::BaseFont() {
     return shape_.Shape().text.font;
 }
 
-void ShapeRichText::SetText(const ooxml::SharedString& text) {
+void ShapeRichText::SetText(const RichText& text) {
     shape_.Shape().text.text = text;
     shape_.Changed();
 }
 
-void ShapeRichText::EditFonts(size_t start, size_t count, const std::function<void(ooxml::Font&)>& edit) {
+void ShapeRichText::EditFonts(size_t start, size_t count, const std::function<void(FontFormat&)>& edit) {
     ShapeText& frame = shape_.Shape().text;
-    const ooxml::Font oldFont = frame.font;
-    ooxml::SharedString edited = WithFont(frame.text, start, count, edit, oldFont);
+    const FontFormat oldFont = frame.font;
+    RichText edited = WithFont(frame.text, start, count, edit, oldFont);
     if (start == 0 && count == CharacterCount(frame.text)) {
         edit(frame.font);
         const bool allFrameFont = std::all_of(edited.runs.begin(), edited.runs.end(),
-                                              [&](const ooxml::TextRun& run) { return run.font == frame.font; });
+                                              [&](const TextRun& run) { return run.font == frame.font; });
         if (allFrameFont) {
             edited.runs.clear();
         }

@@ -11,10 +11,10 @@ class ShapeRichText final : public RichTextSource {
 public:
     explicit ShapeRichText(ShapeHandle shape) : shape_(std::move(shape)) {}
 
-    ooxml::SharedString Text() override;
-    ooxml::Font BaseFont() override;
-    void SetText(const ooxml::SharedString& text) override;
-    void EditFonts(size_t start, size_t count, const std::function<void(ooxml::Font&)>& edit) override;
+    RichText Text() override;
+    FontFormat BaseFont() override;
+    void SetText(const RichText& text) override;
+    void EditFonts(size_t start, size_t count, const std::function<void(FontFormat&)>& edit) override;
     const Palette& Colors() override;
 
 private:

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "ooxml/document/cell_comment.hpp"
+#include "ooxml/document/text_box_shape.hpp"
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace ooxml {
+
+enum class CellType : uint8_t {
+    Blank,    // formatted only
+    Number,   // number
+    String,   // string: index into WorkbookDocument::strings
+    Boolean,  // number is 0 or 1
+    Error,    // string: index into WorkbookDocument::strings holding "#N/A", "#NAME?", ...
+};
+
+inline constexpr uint32_t NoFormula = UINT32_MAX;
+
+struct Cell {
+    uint32_t column = 1;            // 1-based
+    uint32_t format = 0;            // index into WorkbookDocument::formats
+    uint32_t string = 0;            // for String and Error
+    uint32_t formula = NoFormula;   // index into SheetDocument::formulas; the value is then cached
+    double number = 0.0;            // for Number and Boolean
+    CellType type = CellType::Blank;
+};
+
+struct Row {
+    uint32_t index = 1;  // 1-based
+    std::optional<double> height;  // points; set = custom height
+    std::optional<uint32_t> format;  // row format (customFormat)
+    bool hidden = false;
+    std::vector<Cell> cells;  // ascending columns
+};
+
+struct ColumnRange {
+    uint32_t first = 1;  // 1-based, inclusive
+    uint32_t last = 1;
+    std::optional<double> width;  // characters; set = custom width
+    std::optional<uint32_t> format;
+    bool hidden = false;
+
+    friend bool operator==(const ColumnRange&, const ColumnRange&) = default;
+};
+
+struct CellBlock {
+    uint32_t firstRow = 1, firstColumn = 1, lastRow = 1, lastColumn = 1;
+
+    friend bool operator==(const CellBlock&, const CellBlock&) = default;
+};
+
+struct SheetDocument {
+    std::string name;
+    std::string state = "visible";  // "visible", "hidden", "veryHidden"
+    bool showGridLines = true;
+    bool printGridLines = false;
+    bool tabSelected = false;
+    bool showPageBreaks = false;  // the view shows automatic page breaks
+    std::optional<double> defaultColumnWidth;  // characters, when the sheet's standard width changed
+    double defaultRowHeight = 15.0;
+    std::string activeCell = "A1";
+    std::vector<ColumnRange> columns;  // ascending, not overlapping
+    std::vector<Row> rows;             // ascending
+    std::vector<std::string> formulas;  // without the leading "="
+    std::map<uint32_t, CellBlock> arrayFormulas;  // formula index -> the block an array formula fills
+    std::vector<CellBlock> merges;
+    std::vector<TextBoxShape> textBoxes;  // in z-order, bottom first
+    std::vector<CellComment> comments;    // in row, then column order
+};
+
+}  // namespace ooxml
