@@ -1,8 +1,8 @@
 #include "table/report_table.hpp"
 
 #include "support/library_error.hpp"
+#include "support/report_theme_colors.hpp"
 #include "support/support_services.hpp"
-#include "workbook/report_workbook.hpp"
 
 #include <excel/application.hpp>
 #include <excel/range.hpp>
@@ -54,7 +54,7 @@ std::shared_ptr<excel::Range> ReportTable::InteriorRange() {
     return interiorRange_;
 }
 
-void ReportTable::InitializeTable(const std::shared_ptr<ReportWorkbook>& reportWorkbook,
+void ReportTable::InitializeTable(const std::shared_ptr<const ReportThemeColors>& reportWorkbook,
                                   const std::shared_ptr<excel::Range>& tableRange, int16_t numHeaderRows,
                                   int16_t numHeaderColumns, const std::string& mainTitle,
                                   const std::string& subTitle, int32_t language) {

@@ -8,7 +8,7 @@
 
 namespace vos {
 
-class ReportWorkbook;
+class ReportThemeColors;
 
 // The table behind VosExcelTable, with the members the report sheet and the table's own writers
 // call. The ranges are fixed once by InitializeTable and never change afterwards.
@@ -48,7 +48,7 @@ public:
 
     // Divides the reserved block into its ranges, clears it, writes the titles as text and
     // formats it, plainly or from the workbook's theme.
-    void InitializeTable(const std::shared_ptr<ReportWorkbook>& reportWorkbook,
+    void InitializeTable(const std::shared_ptr<const ReportThemeColors>& reportWorkbook,
                          const std::shared_ptr<excel::Range>& tableRange, int16_t numHeaderRows,
                          int16_t numHeaderColumns, const std::string& mainTitle, const std::string& subTitle,
                          int32_t language);
@@ -80,7 +80,7 @@ private:
     int32_t InteriorRowCount() const;
     int32_t InteriorColumnCount() const;
 
-    std::shared_ptr<ReportWorkbook> reportWorkbook_;
+    std::shared_ptr<const ReportThemeColors> reportWorkbook_;  // the colours of the table's report workbook
     std::shared_ptr<excel::Range> tableRange_;
     std::shared_ptr<excel::Range> titleRange_;
     std::shared_ptr<excel::Range> signatureRange_;

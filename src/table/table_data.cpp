@@ -2,9 +2,9 @@
 
 #include "support/cell_comment.hpp"
 #include "support/library_error.hpp"
+#include "support/report_theme_colors.hpp"
 #include "support/support_services.hpp"
 #include "support/trim_blanks.hpp"
-#include "workbook/report_workbook.hpp"
 
 #include <vos/theme_property_type.hpp>
 

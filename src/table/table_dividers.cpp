@@ -1,8 +1,8 @@
 #include "table/report_table.hpp"
 
 #include "support/library_error.hpp"
+#include "support/report_theme_colors.hpp"
 #include "support/support_services.hpp"
-#include "workbook/report_workbook.hpp"
 
 #include <vos/theme_property_type.hpp>
 

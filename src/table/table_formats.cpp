@@ -1,8 +1,8 @@
 #include "table/report_table.hpp"
 
+#include "support/report_theme_colors.hpp"
 #include "support/support_services.hpp"
 #include "support/workbook_range_theme.hpp"
-#include "workbook/report_workbook.hpp"
 
 #include <vos/table_inside_border_type.hpp>
 
@@ -101,7 +101,7 @@ void ReportTable::ApplyStandardFormat() {
 
 // The theme supplies the fills, lines and title font colour that the standard pass sets by index.
 void ReportTable::ApplyThemeFormat() {
-    const ReportWorkbook& workbook = *reportWorkbook_;
+    const ReportThemeColors& workbook = *reportWorkbook_;
     if (titleRange_) {
         titleRange_->SetHorizontalAlignment(excel::xlCenter);
         titleRange_->SetHorizontalAlignment(excel::xlLeft);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/report_theme_colors.hpp"
 #include "workbook/theme_table.hpp"
 
 #include <vos/vos_excel_report_workbook.hpp>
@@ -12,7 +13,9 @@ namespace vos {
 
 // The report workbook behind VosExcelReportWorkbook, with the members the library's other
 // classes call.
-class ReportWorkbook final : public VosExcelReportWorkbook, public std::enable_shared_from_this<ReportWorkbook> {
+class ReportWorkbook final : public VosExcelReportWorkbook,
+                             public ReportThemeColors,
+                             public std::enable_shared_from_this<ReportWorkbook> {
 public:
     void InitializeWorkbook(const std::shared_ptr<excel::Workbook>& workbook, const std::string& applicationIdentifier,
                             int32_t defaultLanguage);
@@ -26,8 +29,8 @@ public:
     void DeleteReportWorksheets(bool deleteSheetsCreatedByAllVostrandApplications) override;
     void ActivateFirstWorksheetCreated() override;
 
-    int32_t ThemeColorFor(int32_t propertyType, bool objectThemeColor) const;
-    float ThemeTintAndShadeFor(int32_t propertyType) const;
+    int32_t ThemeColorFor(int32_t propertyType, bool objectThemeColor) const override;
+    float ThemeTintAndShadeFor(int32_t propertyType) const override;
 
     bool HasPlaceholderSheet() const;
     std::shared_ptr<excel::Worksheet> AddPlaceholderSheet();

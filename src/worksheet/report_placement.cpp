@@ -4,6 +4,7 @@
 #include "support/library_error.hpp"
 #include "support/support_services.hpp"
 #include "table/report_table.hpp"
+#include "workbook/report_workbook.hpp"
 
 #include <excel/range.hpp>
 
