@@ -1,6 +1,6 @@
 #include "ooxml/comments/comments_part.hpp"
 
-#include "ooxml/opc/package_error.hpp"
+#include "ooxml/package_error.hpp"
 #include "ooxml/shared_strings/shared_strings_part.hpp"
 #include "ooxml/worksheet/cell_reference_reader.hpp"
 #include "ooxml/worksheet/column_name.hpp"

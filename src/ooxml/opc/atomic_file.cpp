@@ -1,6 +1,6 @@
 #include "ooxml/opc/atomic_file.hpp"
 
-#include "ooxml/opc/write_error.hpp"
+#include "ooxml/write_error.hpp"
 
 #include <fcntl.h>
 #include <sys/stat.h>

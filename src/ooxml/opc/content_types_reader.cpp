@@ -1,7 +1,7 @@
 #include "ooxml/opc/content_types_reader.hpp"
 
-#include "ooxml/opc/package_error.hpp"
 #include "ooxml/opc/percent_decoder.hpp"
+#include "ooxml/package_error.hpp"
 #include "ooxml/xml/xml_node_access.hpp"
 #include "ooxml/xml/xml_part_parser.hpp"
 #include "ooxml/zip/zip_archive_reader.hpp"

@@ -1,6 +1,6 @@
 #include "ooxml/worksheet/sheet_data_reader.hpp"
 
-#include "ooxml/opc/package_error.hpp"
+#include "ooxml/package_error.hpp"
 #include "ooxml/properties/iso_date_time_reader.hpp"
 #include "ooxml/shared_strings/string_table_builder.hpp"
 #include "ooxml/styles/font_reader.hpp"

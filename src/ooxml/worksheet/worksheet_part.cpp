@@ -1,6 +1,6 @@
 #include "ooxml/worksheet/worksheet_part.hpp"
 
-#include "ooxml/opc/package_error.hpp"
+#include "ooxml/package_error.hpp"
 #include "ooxml/worksheet/column_name.hpp"
 #include "ooxml/worksheet/unresolvable_references.hpp"
 

@@ -1,6 +1,6 @@
 #include "ooxml/xml/xml_part_parser.hpp"
 
-#include "ooxml/opc/package_error.hpp"
+#include "ooxml/package_error.hpp"
 
 namespace ooxml {
 

@@ -1,6 +1,6 @@
 #include "ooxml/xml/xml_pull_scanner.hpp"
 
-#include "ooxml/opc/package_error.hpp"
+#include "ooxml/package_error.hpp"
 #include "ooxml/xml/escaped_text_decoder.hpp"
 
 #include <algorithm>

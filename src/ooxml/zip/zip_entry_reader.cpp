@@ -1,6 +1,6 @@
 #include "ooxml/zip/zip_entry_reader.hpp"
 
-#include "ooxml/opc/package_error.hpp"
+#include "ooxml/package_error.hpp"
 
 #include <zip.h>
 

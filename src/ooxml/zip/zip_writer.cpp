@@ -1,6 +1,6 @@
 #include "ooxml/zip/zip_writer.hpp"
 
-#include "ooxml/opc/write_error.hpp"
+#include "ooxml/write_error.hpp"
 
 #include <libdeflate.h>
 #include <unistd.h>

@@ -1,7 +1,7 @@
 // The comments part: authors, the comment list and rich text.
 
 #include "ooxml/comments/comments_part.hpp"
-#include "ooxml/opc/package_error.hpp"
+#include "ooxml/package_error.hpp"
 #include "ooxml/writer_test_support.hpp"
 
 #include <gtest/gtest.h>

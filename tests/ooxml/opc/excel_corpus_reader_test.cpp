@@ -1,7 +1,7 @@
 // Workbooks written by Excel, read and compared with values checked independently (openpyxl).
 
-#include "ooxml/opc/package_error.hpp"
 #include "ooxml/opc/package_reader.hpp"
+#include "ooxml/package_error.hpp"
 
 #include <gtest/gtest.h>
 

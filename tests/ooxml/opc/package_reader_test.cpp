@@ -1,7 +1,7 @@
 #include "ooxml/reader_test_package.hpp"
 
-#include "ooxml/opc/package_error.hpp"
 #include "ooxml/opc/package_reader.hpp"
+#include "ooxml/package_error.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // Writes whole packages and checks them with tools we did not write: libzip, pugixml, the schema
 // validator, the logical checker and openpyxl.
 
-#include "ooxml/opc/package_error.hpp"
 #include "ooxml/opc/package_writer.hpp"
+#include "ooxml/package_error.hpp"
 #include "ooxml/writer_test_support.hpp"
 
 #include <gmock/gmock.h>

@@ -1,4 +1,4 @@
-#include "ooxml/opc/package_error.hpp"
+#include "ooxml/package_error.hpp"
 #include "ooxml/worksheet/worksheet_part.hpp"
 #include "ooxml/writer_test_support.hpp"
 

@@ -1,7 +1,7 @@
 // The pull scanner under the worksheet reader: the same tokens whatever the size of the pieces the
 // document arrives in, and PackageError(Corrupt) for XML that is not well formed.
 
-#include "ooxml/opc/package_error.hpp"
+#include "ooxml/package_error.hpp"
 #include "ooxml/xml/xml_pull_scanner.hpp"
 
 #include <gtest/gtest.h>

@@ -3,9 +3,9 @@
 #include "excel/embedded/document/workbook_document_conversion.hpp"
 #include "excel/embedded/engine_errors.hpp"
 
-#include "ooxml/opc/package_error.hpp"
 #include "ooxml/opc/package_reader.hpp"
 #include "ooxml/opc/package_writer.hpp"
+#include "ooxml/package_error.hpp"
 
 #include <filesystem>
 #include <system_error>

@@ -2,8 +2,8 @@
 
 #include "excel/embedded/engine_errors.hpp"
 #include "excel/embedded/model/cells/cell_content.hpp"
+#include "excel/embedded/model/cells/cell_text.hpp"
 #include "excel/embedded/objects/range/cell_value.hpp"
-#include "excel/embedded/text/cell_text.hpp"
 
 #include <excel/automation_error.hpp>
 #include <excel/constants.hpp>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ooxml/opc/package_error.hpp"
+#include "ooxml/package_error.hpp"
 
 #include <string>
 

@@ -1,4 +1,4 @@
-#include "ooxml/opc/write_error.hpp"
+#include "ooxml/write_error.hpp"
 
 #include <cerrno>
 #include <cstring>

@@ -1,4 +1,4 @@
-#include "excel/embedded/text/cell_text.hpp"
+#include "excel/embedded/model/cells/cell_text.hpp"
 
 #include "excel/embedded/model/cells/cell_content.hpp"
 #include "excel/embedded/text/general_format.hpp"
