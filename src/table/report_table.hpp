@@ -12,6 +12,9 @@ class ReportThemeColors;
 
 // The table behind VosExcelTable, with the members the report sheet and the table's own writers
 // call. The ranges are fixed once by InitializeTable and never change afterwards.
+// Defined in report_table.cpp (ranges and initialisation), report_table_formats.cpp (the plain and
+// themed formats), report_table_headers.cpp (header writers), report_table_data.cpp (column data and
+// comments), report_table_dividers.cpp and report_table_columns.cpp (column settings).
 class ReportTable final : public VosExcelTable {
 public:
     std::shared_ptr<excel::Range> AnchorCell() override;

@@ -12,6 +12,9 @@ class ReportWorkbook;
 
 // The report sheet behind VosExcelReportWorksheet: the sheet, its layout cursor and the space
 // test every placement runs, with the members the library's other classes call.
+// Defined in report_worksheet.cpp (cursor, space test, separators, comments),
+// report_worksheet_header.cpp (the header block), report_worksheet_placement.cpp (tables, and the
+// height a tornado chart needs) and report_worksheet_themes.cpp (theme colours and range themes).
 class ReportWorksheet final : public VosExcelReportWorksheet {
 public:
     // Prepares a new report sheet: cursor at A1, the whole sheet as limiting range, creation tag,

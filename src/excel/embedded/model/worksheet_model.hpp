@@ -35,6 +35,7 @@ struct SheetSettings {
 // settings.
 // Owned by its workbook; views hold it by shared_ptr and ask Alive() first, because a deleted
 // sheet or a closed workbook leaves them holding a detached model.
+// Defined in worksheet_model.cpp and worksheet_model_shift.cpp (inserting and deleting cells).
 class WorksheetModel : public std::enable_shared_from_this<WorksheetModel> {
 public:
     WorksheetModel(WorkbookModel& book, std::string name);

@@ -8,6 +8,8 @@ namespace excel::embedded {
 
 // A Range: a worksheet and its blocks, nothing copied. Rows() and Columns() answer the same cells
 // listed by rows or columns, which is what their Count counts.
+// Defined in range_view.cpp (addressing, geometry, merging, inserting and deleting),
+// range_view_value.cpp (values, formulas, text, clearing) and range_view_format.cpp (formats).
 class RangeView final : public excel::Range {
 public:
     enum class Listing { Cells, Rows, Columns };
