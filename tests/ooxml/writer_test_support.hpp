@@ -124,6 +124,12 @@ inline std::unique_ptr<pugi::xml_document> ParseXml(const std::string& xml) {
     return document;
 }
 
+// The XML a writer of one of a sheet's parts (drawing, comments) writes for the sheet.
+inline std::unique_ptr<pugi::xml_document> WriteSheetPart(void (*write)(ooxml::XmlWriter&, const ooxml::SheetDocument&),
+                                                          const ooxml::SheetDocument& sheet) {
+    return ParseXml(WriteToString([&](ooxml::XmlWriter& xml) { write(xml, sheet); }));
+}
+
 // Runs a shell command; returns its exit status and puts its output (stdout and stderr) in output.
 inline int RunCommand(const std::string& command, std::string& output, const ScratchFolder& folder) {
     const std::string log = folder.File("command.log");

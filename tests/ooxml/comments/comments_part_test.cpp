@@ -9,13 +9,11 @@
 namespace {
 
 using namespace ooxml;
-using writer_test::ParseXml;
-using writer_test::WriteToString;
 
 std::unique_ptr<pugi::xml_document> Write(const std::vector<CellComment>& comments) {
     SheetDocument sheet;
     sheet.comments = comments;
-    return ParseXml(WriteToString([&](XmlWriter& xml) { WriteCommentsPart(xml, sheet); }));
+    return writer_test::WriteSheetPart(WriteCommentsPart, sheet);
 }
 
 CellComment Comment(uint32_t row, uint32_t column, std::string author, std::string text) {

@@ -9,13 +9,12 @@
 namespace {
 
 using namespace ooxml;
-using writer_test::ParseXml;
-using writer_test::WriteToString;
+using writer_test::WriteSheetPart;
 
 std::unique_ptr<pugi::xml_document> Write(const std::vector<TextBoxShape>& boxes) {
     SheetDocument sheet;
     sheet.textBoxes = boxes;
-    return ParseXml(WriteToString([&](XmlWriter& xml) { WriteDrawingPart(xml, sheet); }));
+    return WriteSheetPart(WriteDrawingPart, sheet);
 }
 
 TextBoxShape Box(std::string text) {
