@@ -264,10 +264,9 @@ void LoadSheet(WorksheetModel& sheet, const ooxml::SheetDocument& in, const std:
 
 ooxml::WorkbookDocument ToDocument(const WorkbookModel& book, const std::string& author) {
     ooxml::WorkbookDocument document;
-    document.formats.clear();
-    for (const CellFormat& format : book.Formats().All()) {
-        document.formats.push_back(DocumentCellFormat(format));
-    }
+    const std::vector<CellFormat>& formats = book.Formats().All();
+    document.formats.resize(formats.size());
+    std::transform(formats.begin(), formats.end(), document.formats.begin(), DocumentCellFormat);
     StringNumbering strings(book.Strings(), document.strings);
     for (const auto& sheet : book.Sheets()) {
         document.sheets.push_back(ConvertSheet(*sheet, strings));
