@@ -25,11 +25,15 @@ build: configure
 test: build
 	ctest --test-dir $(BUILD_DIR) --output-on-failure --parallel $(JOBS)
 
-demo: build
+# The library and the example programs only, not the tests and benchmarks.
+demo: configure
+	cmake --build $(BUILD_DIR) --parallel $(JOBS) --target $(EXAMPLES)
 	@mkdir -p $(OUT_DIR)
 	@for example in $(EXAMPLES); do \
 	    $(BUILD_DIR)/examples/$$example $(OUT_DIR)/$$example.xlsx || exit 1; \
 	done
+	@echo "Workbooks written:"
+	@for example in $(EXAMPLES); do stat -c '  %n  %s bytes' $(OUT_DIR)/$$example.xlsx; done
 
 bench: build
 	@$(if $(BENCHMARKS),,echo "no benchmark programs in bench/ yet")

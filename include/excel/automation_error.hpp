@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vos/export.hpp>
+
 #include <cstdint>
 #include <stdexcept>
 #include <string>
@@ -8,7 +10,7 @@ namespace excel {
 
 // The one exception type every failure reaches the caller as: an automation error with a
 // 32-bit HRESULT and its text. what() returns the text exactly as given.
-class AutomationError : public std::runtime_error {
+class VOS_EXPORT AutomationError : public std::runtime_error {
 public:
     AutomationError(int32_t code, const std::string& text) : std::runtime_error(text), code_(code) {}
 
@@ -33,6 +35,6 @@ inline constexpr int32_t PathNotFound = static_cast<int32_t>(0x800A004C);
 }  // namespace hresult
 
 // Throws the automation runtime's error of that number (0x800A0000 + number) with its usual text.
-[[noreturn]] void ThrowRuntimeError(int32_t runtimeErrorNumber);
+[[noreturn]] VOS_EXPORT void ThrowRuntimeError(int32_t runtimeErrorNumber);
 
 }  // namespace excel

@@ -1,12 +1,13 @@
 #pragma once
 
 #include <excel/application.hpp>
+#include <vos/export.hpp>
 
 #include <memory>
 
 namespace excel::embedded {
 
 // A new instance of the embedded spreadsheet engine, with no workbook open.
-std::shared_ptr<excel::Application> CreateApplication();
+VOS_EXPORT std::shared_ptr<excel::Application> CreateApplication();
 
 }  // namespace excel::embedded

@@ -2,6 +2,7 @@
 
 #include <excel/var_type.hpp>
 #include <excel/variant.hpp>
+#include <vos/export.hpp>
 
 #include <cstdint>
 #include <initializer_list>
@@ -21,7 +22,7 @@ struct SafeArrayBound {
 // before ReDim): it has 0 dimensions and asking for its bounds fails with subscript out of range.
 // Indices are given in dimension order; Get/Set check them against the bounds (runtime error 9).
 // Setting an element converts the value to the element type (type mismatch where it cannot).
-class SafeArray {
+class VOS_EXPORT SafeArray {
 public:
     SafeArray(VarType elementType, std::vector<SafeArrayBound> bounds);
 
@@ -52,7 +53,7 @@ public:
     const Variant& At(uint32_t row, uint32_t column) const { return elements_[row + static_cast<size_t>(column) * rowCount()]; }
     void Put(uint32_t row, uint32_t column, Variant value);
 
-    friend bool operator==(const SafeArray& a, const SafeArray& b);
+    friend VOS_EXPORT bool operator==(const SafeArray& a, const SafeArray& b);
 
 private:
     size_t offsetOf(std::span<const int32_t> indices) const;

@@ -2,6 +2,7 @@
 
 #include <excel/object.hpp>
 #include <excel/var_type.hpp>
+#include <vos/export.hpp>
 
 #include <cstdint>
 #include <initializer_list>
@@ -37,7 +38,7 @@ struct ErrorValue {
 
 // The automation VARIANT: empty, null, error, Boolean, 16/32-bit integer, single, double,
 // currency, date, string, object or array. Copies are deep, arrays included.
-class Variant {
+class VOS_EXPORT Variant {
 public:
     Variant() = default;
     Variant(double value) : value_(value) {}
@@ -96,7 +97,7 @@ public:
     SafeArray& Array();
 
     // Same type and same value (arrays element by element, objects by identity).
-    friend bool operator==(const Variant& a, const Variant& b);
+    friend VOS_EXPORT bool operator==(const Variant& a, const Variant& b);
 
 private:
     struct NullTag {

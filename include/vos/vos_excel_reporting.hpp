@@ -1,6 +1,7 @@
 #pragma once
 
 #include <excel/fwd.hpp>
+#include <vos/export.hpp>
 
 #include <cstdint>
 #include <memory>
@@ -13,7 +14,7 @@ class VosExcelReportWorkbook;
 // The library's entry object, the only class a client creates. It holds no state: the
 // unit-testing mode belongs to the calling thread, so every instance on a thread sees the same
 // mode, and separate threads may build separate workbooks at the same time.
-class VosExcelReporting {
+class VOS_EXPORT VosExcelReporting {
 public:
     // In unit-testing mode report headers show "UnitTester" and "<<Date>> <<Time>>" instead of
     // the user's name and the current time, so that reports can be compared.

@@ -17,7 +17,8 @@ namespace {
 // The identifier as a formula's text constant: ="MyApp", with embedded quotes doubled so that
 // evaluating the name gives the identifier back.
 std::string TextConstantFormula(const std::string& identifier) {
-    return "=" + Support().Strings().Quoted(identifier, '"');
+    // Appended, not "=" + ...: GCC 12 warns wrongly of overlapping copies there at -O3.
+    return std::string("=").append(Support().Strings().Quoted(identifier, '"'));
 }
 
 std::string TrimmedIdentifierForTagging(const std::string& applicationIdentifier) {

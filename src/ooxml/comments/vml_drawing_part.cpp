@@ -19,7 +19,8 @@ std::string VmlColor(uint32_t rgb) {
 std::string IdBlocks(uint32_t first, uint32_t count) {
     std::string blocks = std::to_string(first);
     for (uint32_t block = first + 1; block < first + count; ++block) {
-        blocks += "," + std::to_string(block);
+        blocks += ',';
+        blocks += std::to_string(block);
     }
     return blocks;
 }

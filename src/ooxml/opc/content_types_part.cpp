@@ -7,7 +7,8 @@ void ContentTypes::AddDefault(std::string_view extension, std::string_view conte
 }
 
 void ContentTypes::AddOverride(std::string_view partPath, std::string_view contentType) {
-    overrides_.push_back({"/" + std::string(partPath), std::string(contentType)});
+    // Appended, not "/" + std::string(...): GCC 12 warns wrongly of overlapping copies there at -O3.
+    overrides_.push_back({std::string("/").append(partPath), std::string(contentType)});
 }
 
 void ContentTypes::AddPart(std::string_view partPath, std::string_view contentType) {

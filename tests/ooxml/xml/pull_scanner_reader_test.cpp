@@ -33,15 +33,15 @@ std::string Transcript(const std::string& xml, std::size_t chunk) {
     for (Token token = scanner.Next(); token != Token::End; token = scanner.Next()) {
         transcript += std::to_string(scanner.Depth());
         if (token == Token::StartElement) {
-            transcript += "<" + std::string(scanner.Name());
+            transcript.append("<").append(scanner.Name());
             for (const ooxml::XmlAttribute& attribute : scanner.Attributes()) {
-                transcript += " " + std::string(attribute.localName) + "=" + std::string(attribute.value);
+                transcript.append(" ").append(attribute.localName).append("=").append(attribute.value);
             }
             transcript += ">";
         } else if (token == Token::EndElement) {
-            transcript += "</" + std::string(scanner.LocalName()) + ">";
+            transcript.append("</").append(scanner.LocalName()).append(">");
         } else {
-            transcript += "[" + std::string(scanner.Text()) + "]";
+            transcript.append("[").append(scanner.Text()).append("]");
         }
     }
     return transcript;

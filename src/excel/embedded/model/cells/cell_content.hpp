@@ -47,5 +47,8 @@ template <class... Visit>
 struct ContentVisitor : Visit... {
     using Visit::operator()...;
 };
+// Clang 14 does not deduce an aggregate's template arguments from its initializers without a guide.
+template <class... Visit>
+ContentVisitor(Visit...) -> ContentVisitor<Visit...>;
 
 }  // namespace excel::embedded
