@@ -1,6 +1,6 @@
 #pragma once
 
-#include <vos/export.hpp>
+#include <excel/export.hpp>
 
 #include <cstdint>
 #include <stdexcept>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <excel/application.hpp>
-#include <vos/export.hpp>
+#include <excel/export.hpp>
 
 #include <memory>
 

@@ -2,7 +2,7 @@
 
 #include <excel/var_type.hpp>
 #include <excel/variant.hpp>
-#include <vos/export.hpp>
+#include <excel/export.hpp>
 
 #include <cstdint>
 #include <initializer_list>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <excel/fwd.hpp>
-#include <vos/export.hpp>
+#include <excel/export.hpp>
 
 #include <cstdint>
 #include <memory>
