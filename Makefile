@@ -16,8 +16,10 @@ all: build
 deps:
 	scripts/install-deps
 
+CONFIGURE := cmake -S . -B $(BUILD_DIR) -DCMAKE_BUILD_TYPE=$(BUILD_TYPE)
+
 configure: deps
-	cmake -S . -B $(BUILD_DIR) -DCMAKE_BUILD_TYPE=$(BUILD_TYPE)
+	$(CONFIGURE) -DVOS_BUILD_TESTS=ON -DVOS_BUILD_BENCHMARKS=ON
 
 build: configure
 	cmake --build $(BUILD_DIR) --parallel $(JOBS)
@@ -25,8 +27,10 @@ build: configure
 test: build
 	ctest --test-dir $(BUILD_DIR) --output-on-failure --parallel $(JOBS)
 
-# The library and the example programs only, not the tests and benchmarks.
-demo: configure
+# The library and the example programs only: the tests and benchmarks are neither configured nor
+# built, so the demo needs no GoogleTest and no shared folder beside the clone.
+demo: deps
+	$(CONFIGURE) -DVOS_BUILD_TESTS=OFF -DVOS_BUILD_BENCHMARKS=OFF
 	cmake --build $(BUILD_DIR) --parallel $(JOBS) --target $(EXAMPLES)
 	@mkdir -p $(OUT_DIR)
 	@for example in $(EXAMPLES); do \
