@@ -1,10 +1,12 @@
 #pragma once
 
+#include "ooxml/document/carried_content.hpp"
 #include "ooxml/document/cell_comment.hpp"
 #include "ooxml/document/text_box_shape.hpp"
 
 #include <cstdint>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -71,6 +73,8 @@ struct SheetDocument {
     std::vector<CellBlock> merges;
     std::vector<TextBoxShape> textBoxes;  // in z-order, bottom first
     std::vector<CellComment> comments;    // in row, then column order
+    // What the opened sheet held beyond the rest of the document; none for a new sheet.
+    std::shared_ptr<const CarriedWorksheet> carried;
 };
 
 }  // namespace ooxml

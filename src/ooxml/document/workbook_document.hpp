@@ -3,27 +3,21 @@
 // The workbook as an .xlsx package stores it: plain values, no behaviour. The engine fills one to
 // save and receives one from opening; the package writer and reader know nothing else of it.
 
+#include "ooxml/document/carried_content.hpp"
 #include "ooxml/document/cell_format.hpp"
+#include "ooxml/document/defined_name.hpp"
 #include "ooxml/document/document_properties.hpp"
 #include "ooxml/document/shared_string.hpp"
 #include "ooxml/document/sheet_document.hpp"
 
 #include <array>
+#include <memory>
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace ooxml {
-
-struct DefinedName {
-    std::string name;
-    std::string formula;  // without the leading "="
-    std::optional<uint32_t> localSheet;  // 0-based sheet position for a sheet-level name
-    bool hidden = false;
-
-    friend bool operator==(const DefinedName&, const DefinedName&) = default;
-};
 
 struct WorkbookDocument {
     std::vector<SheetDocument> sheets;
@@ -40,6 +34,8 @@ struct WorkbookDocument {
     bool lockStructure = false;
     bool lockWindows = false;
     DocumentProperties properties;
+    // What the opened file held beyond the rest of the document; none for a new workbook.
+    std::shared_ptr<const CarriedWorkbook> carried;
 };
 
 }  // namespace ooxml

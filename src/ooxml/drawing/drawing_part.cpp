@@ -1,5 +1,7 @@
 #include "ooxml/drawing/drawing_part.hpp"
 
+#include "ooxml/carried/carried_attributes.hpp"
+#include "ooxml/carried/carried_element_writer.hpp"
 #include "ooxml/drawingml/drawing_color_element.hpp"
 #include "ooxml/drawingml/pitch_family.hpp"
 #include "ooxml/drawingml/text_box_paragraphs.hpp"
@@ -33,9 +35,17 @@ public:
         xml_.StartElement("xdr:wsDr");
         xml_.Attribute("xmlns:xdr", "http://schemas.openxmlformats.org/drawingml/2006/spreadsheetDrawing");
         xml_.Attribute("xmlns:a", "http://schemas.openxmlformats.org/drawingml/2006/main");
-        for (const TextBoxShape& box : sheet.textBoxes) {
-            WriteTextBox(box);
+        const CarriedMarkup* carried = sheet.carried ? &sheet.carried->drawing : nullptr;
+        if (carried != nullptr) {
+            WriteCarriedAttributes(xml_, carried->rootAttributes);
         }
+        // The anchors the file had beyond text boxes keep their place among them.
+        CarriedElementWriter anchors(xml_, carried != nullptr ? &carried->elements : nullptr);
+        for (std::size_t i = 0; i < sheet.textBoxes.size(); ++i) {
+            anchors.Through(static_cast<uint16_t>(std::min<std::size_t>(i, UINT16_MAX)));
+            WriteTextBox(sheet.textBoxes[i]);
+        }
+        anchors.Rest();
         xml_.EndElement();
     }
 

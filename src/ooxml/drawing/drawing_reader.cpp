@@ -1,5 +1,6 @@
 #include "ooxml/drawing/drawing_reader.hpp"
 
+#include "ooxml/carried/carried_attributes.hpp"
 #include "ooxml/drawingml/drawing_color_reader.hpp"
 #include "ooxml/drawingml/pitch_family.hpp"
 #include "ooxml/xml/xml_node_access.hpp"
@@ -244,21 +245,36 @@ bool IsTextBox(pugi::xml_node shape) {
     return LocalName(shape) == "sp" && AttributeBool(FirstChild(FirstChild(shape, "nvSpPr"), "cNvSpPr"), "txBox", false);
 }
 
+// The anchor's shape when it is a text box; an anchor holds one shape, picture, chart or group.
+pugi::xml_node TextBoxOf(pugi::xml_node anchor) {
+    for (pugi::xml_node child = anchor.first_child(); child; child = child.next_sibling()) {
+        if (IsTextBox(child)) {
+            return child;
+        }
+    }
+    return {};
+}
+
 }  // namespace
 
-std::vector<TextBoxShape> ReadDrawing(std::string& xml, std::string_view partName) {
+std::vector<TextBoxShape> ReadDrawing(std::string& xml, std::string_view partName, CarriedMarkup& carried) {
     pugi::xml_document document;
     ParseXmlPart(document, xml, partName);
+    const pugi::xml_node root = document.document_element();
+    carried.rootAttributes = AttributesExcept(root, {"xmlns:xdr", "xmlns:a"});
     std::vector<TextBoxShape> boxes;
-    for (pugi::xml_node anchor = document.document_element().first_child(); anchor; anchor = anchor.next_sibling()) {
-        const std::optional<std::string_view> editAs = AnchorEditAs(anchor);
-        if (!editAs) {
+    for (pugi::xml_node anchor = root.first_child(); anchor; anchor = anchor.next_sibling()) {
+        if (anchor.type() != pugi::node_element) {
             continue;
         }
-        for (pugi::xml_node child = anchor.first_child(); child; child = child.next_sibling()) {
-            if (IsTextBox(child)) {
-                boxes.push_back(ReadTextBox(anchor, *editAs, child));
-            }
+        const std::optional<std::string_view> editAs = AnchorEditAs(anchor);
+        const pugi::xml_node textBox = editAs ? TextBoxOf(anchor) : pugi::xml_node();
+        if (textBox) {
+            boxes.push_back(ReadTextBox(anchor, *editAs, textBox));
+        } else {
+            carried.elements.push_back(
+                {static_cast<uint16_t>(std::min<std::size_t>(boxes.size(), UINT16_MAX)), std::string(LocalName(anchor)),
+                 ElementMarkup(anchor)});
         }
     }
     return boxes;

@@ -9,9 +9,9 @@
 namespace ooxml {
 
 // The text boxes of a drawing part, in z-order: the shapes marked as text boxes in two-cell,
-// one-cell and absolute anchors. Pictures, charts, groups, connectors and other shapes are passed
-// over.
+// one-cell and absolute anchors. The anchors of pictures, charts, groups, connectors and other
+// shapes go to carried as they are, each in the slot of the number of text boxes below it.
 // Throws PackageError(Corrupt) when the part is not well-formed.
-std::vector<TextBoxShape> ReadDrawing(std::string& xml, std::string_view partName);
+std::vector<TextBoxShape> ReadDrawing(std::string& xml, std::string_view partName, CarriedMarkup& carried);
 
 }  // namespace ooxml

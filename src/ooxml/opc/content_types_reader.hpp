@@ -19,6 +19,8 @@ public:
     std::string Of(std::string_view partName) const;
     // The first part declared with the content type, "" when none is.
     std::string FirstPartOf(std::string_view contentType) const;
+    // The content types by extension, the extensions in lower case.
+    const std::map<std::string, std::string>& Defaults() const { return byExtension_; }
 
 private:
     std::map<std::string, std::string> byExtension_;  // keys lower case

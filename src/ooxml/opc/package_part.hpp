@@ -6,6 +6,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace ooxml {
 
@@ -13,10 +14,20 @@ namespace ooxml {
 // and its relationships to other parts. A new kind of part (a drawing, a preserved unknown part)
 // is one more of these; content types and relationship parts follow from the list.
 struct PackagePart {
+    PackagePart(std::string path, std::string_view contentType, std::function<void(XmlWriter&)> write = {},
+                Relationships relationships = {}, std::string_view verbatimRelationships = {})
+        : path(std::move(path)),
+          contentType(contentType),
+          write(std::move(write)),
+          relationships(std::move(relationships)),
+          verbatimRelationships(verbatimRelationships) {}
+
     std::string path;  // inside the package, without a leading "/"
     std::string_view contentType;
     std::function<void(XmlWriter&)> write;
     Relationships relationships;
+    // A carried part's relationship part as the opened file had it, written instead of relationships.
+    std::string_view verbatimRelationships;
 };
 
 }  // namespace ooxml

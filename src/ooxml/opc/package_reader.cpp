@@ -3,6 +3,7 @@
 #include "ooxml/comments/comments_reader.hpp"
 #include "ooxml/comments/vml_drawing_reader.hpp"
 #include "ooxml/drawing/drawing_reader.hpp"
+#include "ooxml/opc/carried_parts_reader.hpp"
 #include "ooxml/opc/content_types_reader.hpp"
 #include "ooxml/opc/relationships_reader.hpp"
 #include "ooxml/package_error.hpp"
@@ -11,12 +12,14 @@
 #include "ooxml/shared_strings/string_table_builder.hpp"
 #include "ooxml/styles/styles_reader.hpp"
 #include "ooxml/workbook/workbook_reader.hpp"
+#include "ooxml/worksheet/worksheet_element_order.hpp"
 #include "ooxml/worksheet/worksheet_reader.hpp"
 #include "ooxml/zip/zip_archive_reader.hpp"
 
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <set>
 
 namespace ooxml {
 
@@ -31,6 +34,10 @@ constexpr std::array<std::string_view, 4> WorkbookContentTypes{
 
 [[noreturn]] void ThrowNotAPackage(const std::string& path, const std::string& why) {
     throw PackageError(PackageError::Reason::NotAPackage, "Not a workbook package (" + why + "): " + path);
+}
+
+[[noreturn]] void ThrowCorrupt(const std::string& why) {
+    throw PackageError(PackageError::Reason::Corrupt, why);
 }
 
 // The workbook is the package's office document; a package that lost that relationship still
@@ -60,102 +67,264 @@ std::optional<std::string> ReadRelatedPart(const ZipArchiveReader& archive, cons
     return relationship != nullptr ? archive.Read(relationship->target) : std::nullopt;
 }
 
-// The text boxes of the sheet's drawing, and its comments with the shapes of their notes.
-void ReadSheetDrawings(const ZipArchiveReader& archive, std::string_view sheetPartName,
-                       const SheetDrawingReferences& drawings, SheetDocument& sheet) {
-    const std::vector<Relationship> relationships = ReadRelationships(archive, sheetPartName);
-    const auto related = [&relationships](const std::string& id, std::string_view typeName) -> const Relationship* {
-        const Relationship* relationship = FindRelationship(relationships, id);
-        return relationship != nullptr && !relationship->external && HasRelationshipType(*relationship, typeName)
-                   ? relationship
-                   : nullptr;
-    };
-    const Relationship* drawing = related(drawings.drawing, "drawing");
-    if (std::optional<std::string> xml = ReadRelatedPart(archive, drawing)) {
-        sheet.textBoxes = ReadDrawing(*xml, drawing->target);
-    }
-    const Relationship* comments = FindRelationshipOfType(relationships, "comments");
-    if (std::optional<std::string> xml = ReadRelatedPart(archive, comments)) {
-        sheet.comments = ReadComments(*xml, comments->target);
-        if (std::optional<std::string> vml = ReadRelatedPart(archive, related(drawings.legacyDrawing, "vmlDrawing"))) {
-            ReadVmlNoteShapes(*vml, sheet.comments);
+// The relationships but those of the given types.
+std::vector<Relationship> RelationshipsExcept(const std::vector<Relationship>& relationships,
+                                              std::initializer_list<std::string_view> typeNames) {
+    std::vector<Relationship> kept;
+    for (const Relationship& relationship : relationships) {
+        const bool excluded = std::any_of(typeNames.begin(), typeNames.end(), [&](std::string_view typeName) {
+            return !relationship.external && HasRelationshipType(relationship, typeName);
+        });
+        if (!excluded) {
+            kept.push_back(relationship);
         }
     }
+    return kept;
 }
+
+class PackageReader {
+public:
+    PackageReader(const std::string& path)
+        : path_(path), archive_(path), contentTypes_(archive_), carriedParts_(archive_, contentTypes_, carried_->parts) {}
+
+    WorkbookDocument Read() {
+        const std::vector<Relationship> packageRelationships = ReadRelationships(archive_, "");
+        const std::string workbookPartName = WorkbookPartName(archive_, contentTypes_, packageRelationships, path_);
+        carried_->workbookContentType = contentTypes_.Of(workbookPartName);
+        if (carried_->workbookContentType.empty()) {
+            carried_->workbookContentType = WorkbookContentTypes[0];
+        }
+        carried_->defaultContentTypes = contentTypes_.Defaults();
+        std::optional<std::string> workbookXml = archive_.Read(workbookPartName);
+        const WorkbookPart workbook = ReadWorkbook(*workbookXml, workbookPartName, *carried_);
+        carriedParts_.Rewritten(workbookPartName);
+        const std::vector<Relationship> workbookRelationships = ReadRelationships(archive_, workbookPartName);
+
+        ReadStylesAndStrings(workbookRelationships);
+        const std::vector<std::optional<uint32_t>> worksheetPositions = ReadSheets(workbook, workbookRelationships);
+        ReadNames(workbook, worksheetPositions);
+        document_.activeSheet =
+            (workbook.activeTab < worksheetPositions.size() ? worksheetPositions[workbook.activeTab] : std::nullopt)
+                .value_or(0);
+        document_.lockStructure = workbook.lockStructure;
+        document_.lockWindows = workbook.lockWindows;
+
+        std::set<std::string> sheetRelationshipIds;
+        for (const SheetEntry& entry : workbook.sheets) {
+            sheetRelationshipIds.insert(entry.relationshipId);
+        }
+        for (const Relationship& relationship :
+             RelationshipsExcept(workbookRelationships, {"worksheet", "styles", "sharedStrings", "calcChain"})) {
+            if (sheetRelationshipIds.count(relationship.id) == 0) {
+                carried_->workbook.relationships.push_back(relationship);
+            }
+        }
+        ReadProperties(packageRelationships);
+        FollowCarriedRelationships();
+        document_.carried = std::move(carried_);
+        return std::move(document_);
+    }
+
+private:
+    void ReadStylesAndStrings(const std::vector<Relationship>& workbookRelationships) {
+        const Relationship* stylesRelationship = FindRelationshipOfType(workbookRelationships, "styles");
+        if (std::optional<std::string> xml = ReadRelatedPart(archive_, stylesRelationship)) {
+            StylesPart styles = ReadStyles(*xml, stylesRelationship->target);
+            document_.formats = std::move(styles.formats);
+            document_.palette = std::move(styles.palette);
+            carried_->styles = std::move(styles.carried);
+            carriedParts_.Rewritten(stylesRelationship->target);
+        }
+        const Relationship* stringsRelationship = FindRelationshipOfType(workbookRelationships, "sharedStrings");
+        if (std::optional<std::string> xml = ReadRelatedPart(archive_, stringsRelationship)) {
+            document_.strings = ReadSharedStrings(*xml, stringsRelationship->target);
+            carriedParts_.Rewritten(stringsRelationship->target);
+        }
+        // The calculation chain lists the cells with formulas; the engine changes them, so Excel
+        // rebuilds it.
+        if (const Relationship* chain = FindRelationshipOfType(workbookRelationships, "calcChain")) {
+            carriedParts_.Rewritten(chain->target);
+        }
+    }
+
+    // Worksheets are read; chart sheets, dialog sheets and macro sheets are carried whole. Returns
+    // each sheet's position among the worksheets, nothing for the others.
+    std::vector<std::optional<uint32_t>> ReadSheets(const WorkbookPart& workbook,
+                                                    const std::vector<Relationship>& workbookRelationships) {
+        StringTableBuilder strings(document_.strings);
+        const WorksheetContext context{strings, static_cast<uint32_t>(document_.strings.size()),
+                                       static_cast<uint32_t>(document_.formats.size())};
+        std::vector<std::optional<uint32_t>> worksheetPositions;
+        std::set<std::string> partsSeen;
+        for (const SheetEntry& entry : workbook.sheets) {
+            // Excel writes the modules and dialogs of its macro project as sheets with no part.
+            if (entry.relationshipId.empty()) {
+                const auto position = static_cast<uint32_t>(worksheetPositions.size());
+                carried_->sheets.push_back({entry.name, entry.state, position, {}});
+                worksheetPositions.emplace_back();
+                continue;
+            }
+            const Relationship* relationship = FindRelationship(workbookRelationships, entry.relationshipId);
+            if (relationship == nullptr || relationship->external || !archive_.Contains(relationship->target)) {
+                ThrowCorrupt("The sheet \"" + entry.name + "\" has no part in the package");
+            }
+            if (!partsSeen.insert(relationship->target).second) {
+                ThrowCorrupt("The sheet \"" + entry.name + "\" shares its part with another sheet");
+            }
+            if (!HasRelationshipType(*relationship, "worksheet")) {
+                const auto position = static_cast<uint32_t>(worksheetPositions.size());
+                carried_->sheets.push_back({entry.name, entry.state, position, *relationship});
+                worksheetPositions.emplace_back();
+                continue;
+            }
+            ReadWorksheetPart(entry, relationship->target, context);
+            worksheetPositions.emplace_back(static_cast<uint32_t>(document_.sheets.size() - 1));
+        }
+        if (document_.sheets.empty()) {
+            ThrowNotAPackage(path_, "no worksheet");
+        }
+        for (const CarriedSheet& sheet : carried_->sheets) {
+            if (!sheet.relationship.id.empty()) {
+                carriedSheetRelationships_.push_back(sheet.relationship);
+            }
+        }
+        return worksheetPositions;
+    }
+
+    void ReadWorksheetPart(const SheetEntry& entry, const std::string& partName, const WorksheetContext& context) {
+        std::optional<ZipEntryReader> part = archive_.Open(partName);
+        if (!part) {
+            ThrowCorrupt("Missing worksheet part " + partName);
+        }
+        SheetDocument& sheet = document_.sheets.emplace_back();
+        sheet.name = entry.name;
+        sheet.state = entry.state;
+        auto carried = std::make_shared<CarriedWorksheet>();
+        const SheetDrawingReferences drawings = ReadWorksheet(
+            [&](char* buffer, std::size_t size) { return part->Read(buffer, size); }, partName, context, sheet, *carried);
+        carriedParts_.Rewritten(partName);
+        ReadSheetDrawings(partName, drawings, sheet, *carried);
+        sheet.carried = carried;
+        carriedWorksheets_.push_back(std::move(carried));
+    }
+
+    // The text boxes of the sheet's drawing with the anchors it carries, and its comments with the
+    // shapes of their notes. The other relationships of the sheet are kept.
+    void ReadSheetDrawings(std::string_view sheetPartName, const SheetDrawingReferences& drawings,
+                           SheetDocument& sheet, CarriedWorksheet& carried) {
+        const std::vector<Relationship> relationships = ReadRelationships(archive_, sheetPartName);
+        const auto related = [&relationships](const std::string& id, std::string_view typeName) -> const Relationship* {
+            const Relationship* relationship = FindRelationship(relationships, id);
+            return relationship != nullptr && !relationship->external && HasRelationshipType(*relationship, typeName)
+                       ? relationship
+                       : nullptr;
+        };
+        std::set<std::string> rewrittenIds;
+        const Relationship* drawing = related(drawings.drawing, "drawing");
+        if (std::optional<std::string> xml = ReadRelatedPart(archive_, drawing)) {
+            sheet.textBoxes = ReadDrawing(*xml, drawing->target, carried.drawing);
+            carried.drawing.relationships = ReadRelationships(archive_, drawing->target);
+            carriedParts_.Rewritten(drawing->target);
+            rewrittenIds.insert(drawing->id);
+        }
+        const Relationship* comments = FindRelationshipOfType(relationships, "comments");
+        const Relationship* vml = related(drawings.legacyDrawing, "vmlDrawing");
+        if (std::optional<std::string> xml = ReadRelatedPart(archive_, comments)) {
+            sheet.comments = ReadComments(*xml, comments->target);
+            carriedParts_.Rewritten(comments->target);
+            rewrittenIds.insert(comments->id);
+            if (std::optional<std::string> shapes = ReadRelatedPart(archive_, vml)) {
+                ReadVmlNoteShapes(*shapes, sheet.comments);
+                carriedParts_.Rewritten(vml->target);
+                rewrittenIds.insert(vml->id);
+            }
+        } else if (vml != nullptr) {
+            // A legacy drawing without comments holds form controls or the like: kept as it is.
+            carried.worksheet.elements.push_back({WorksheetElementOrder.Slot("legacyDrawing"), "legacyDrawing",
+                                                  "<legacyDrawing r:id=\"" + vml->id + "\"/>"});
+        }
+        for (const Relationship& relationship : relationships) {
+            if (rewrittenIds.count(relationship.id) == 0) {
+                carried.worksheet.relationships.push_back(relationship);
+            }
+        }
+    }
+
+    // Names scoped to a worksheet follow it; those scoped to a carried sheet are carried with it.
+    void ReadNames(const WorkbookPart& workbook, const std::vector<std::optional<uint32_t>>& worksheetPositions) {
+        std::vector<uint32_t> carriedIndex(worksheetPositions.size(), 0);
+        for (uint32_t i = 0; i < carried_->sheets.size(); ++i) {
+            carriedIndex[carried_->sheets[i].position] = i;
+        }
+        for (DefinedName name : workbook.names) {
+            if (!name.localSheet) {
+                document_.names.push_back(std::move(name));
+                continue;
+            }
+            const uint32_t position = *name.localSheet;
+            if (position >= worksheetPositions.size()) {
+                continue;  // scoped to a sheet the workbook does not have
+            }
+            if (worksheetPositions[position]) {
+                name.localSheet = worksheetPositions[position];
+                document_.names.push_back(std::move(name));
+            } else {
+                name.localSheet.reset();
+                carried_->sheetNames.push_back({std::move(name), carriedIndex[position]});
+            }
+        }
+    }
+
+    void ReadProperties(const std::vector<Relationship>& packageRelationships) {
+        if (const Relationship* core = FindRelationshipOfType(packageRelationships, "core-properties")) {
+            if (std::optional<std::string> xml = archive_.Read(core->target)) {
+                document_.properties = ReadDocumentProperties(*xml, core->target);
+            }
+            carriedParts_.Rewritten(core->target);
+        }
+        if (const Relationship* app = FindRelationshipOfType(packageRelationships, "extended-properties")) {
+            carriedParts_.Rewritten(app->target);
+        }
+        carried_->packageRelationships =
+            RelationshipsExcept(packageRelationships, {"officeDocument", "core-properties", "extended-properties"});
+    }
+
+    // Once every rewritten part is known, the parts the kept relationships lead to are read. A
+    // kept relationship to a part that is not kept (missing from the package, or rewritten under
+    // another name) would dangle in the saved file: it is left out.
+    void FollowCarriedRelationships() {
+        carriedParts_.Follow(carried_->packageRelationships);
+        carriedParts_.Follow(carried_->workbook.relationships);
+        carriedParts_.Follow(carriedSheetRelationships_);
+        for (const auto& sheet : carriedWorksheets_) {
+            carriedParts_.Follow(sheet->worksheet.relationships);
+            carriedParts_.Follow(sheet->drawing.relationships);
+        }
+        const auto dangling = [this](const Relationship& relationship) {
+            return !relationship.external && carried_->parts.count(relationship.target) == 0;
+        };
+        std::erase_if(carried_->packageRelationships, dangling);
+        std::erase_if(carried_->workbook.relationships, dangling);
+        for (const auto& sheet : carriedWorksheets_) {
+            std::erase_if(sheet->worksheet.relationships, dangling);
+            std::erase_if(sheet->drawing.relationships, dangling);
+        }
+    }
+
+    std::string path_;
+    ZipArchiveReader archive_;
+    ContentTypeMap contentTypes_;
+    WorkbookDocument document_;
+    std::shared_ptr<CarriedWorkbook> carried_ = std::make_shared<CarriedWorkbook>();
+    CarriedPartsReader carriedParts_;
+    std::vector<Relationship> carriedSheetRelationships_;
+    std::vector<std::shared_ptr<CarriedWorksheet>> carriedWorksheets_;  // the worksheets', while read
+};
 
 }  // namespace
 
 WorkbookDocument ReadPackage(const std::string& path) {
-    const ZipArchiveReader archive(path);
-    const ContentTypeMap contentTypes(archive);
-    const std::vector<Relationship> packageRelationships = ReadRelationships(archive, "");
-    const std::string workbookPartName = WorkbookPartName(archive, contentTypes, packageRelationships, path);
-    std::optional<std::string> workbookXml = archive.Read(workbookPartName);
-    const WorkbookPart workbook = ReadWorkbook(*workbookXml, workbookPartName);
-    const std::vector<Relationship> workbookRelationships = ReadRelationships(archive, workbookPartName);
-
-    WorkbookDocument document;
-    const Relationship* stylesRelationship = FindRelationshipOfType(workbookRelationships, "styles");
-    if (std::optional<std::string> xml = ReadRelatedPart(archive, stylesRelationship)) {
-        StylesPart styles = ReadStyles(*xml, stylesRelationship->target);
-        document.formats = std::move(styles.formats);
-        document.palette = std::move(styles.palette);
-    }
-    const Relationship* stringsRelationship = FindRelationshipOfType(workbookRelationships, "sharedStrings");
-    if (std::optional<std::string> xml = ReadRelatedPart(archive, stringsRelationship)) {
-        document.strings = ReadSharedStrings(*xml, stringsRelationship->target);
-    }
-
-    // Only worksheets are read; chart sheets, dialog sheets and macro sheets are left out, so
-    // positions in the workbook part are mapped to positions among the worksheets.
-    StringTableBuilder strings(document.strings);
-    const WorksheetContext context{strings, static_cast<uint32_t>(document.strings.size()),
-                                   static_cast<uint32_t>(document.formats.size())};
-    std::vector<std::optional<uint32_t>> sheetPositions;
-    for (const SheetEntry& entry : workbook.sheets) {
-        const Relationship* relationship = FindRelationship(workbookRelationships, entry.relationshipId);
-        if (relationship == nullptr || relationship->external || !HasRelationshipType(*relationship, "worksheet")) {
-            sheetPositions.emplace_back();
-            continue;
-        }
-        std::optional<ZipEntryReader> part = archive.Open(relationship->target);
-        if (!part) {
-            throw PackageError(PackageError::Reason::Corrupt, "Missing worksheet part " + relationship->target);
-        }
-        SheetDocument& sheet = document.sheets.emplace_back();
-        sheet.name = entry.name;
-        sheet.state = entry.state;
-        const SheetDrawingReferences drawings = ReadWorksheet(
-            [&](char* buffer, std::size_t size) { return part->Read(buffer, size); }, relationship->target, context, sheet);
-        ReadSheetDrawings(archive, relationship->target, drawings, sheet);
-        sheetPositions.emplace_back(static_cast<uint32_t>(document.sheets.size() - 1));
-    }
-    if (document.sheets.empty()) {
-        ThrowNotAPackage(path, "no worksheet");
-    }
-
-    const auto worksheetPosition = [&](uint32_t position) {
-        return position < sheetPositions.size() ? sheetPositions[position] : std::nullopt;
-    };
-    for (DefinedName name : workbook.names) {
-        if (name.localSheet) {
-            name.localSheet = worksheetPosition(*name.localSheet);
-            if (!name.localSheet) {
-                continue;  // scoped to a sheet that is not read
-            }
-        }
-        document.names.push_back(std::move(name));
-    }
-    document.activeSheet = worksheetPosition(workbook.activeTab).value_or(0);
-    document.lockStructure = workbook.lockStructure;
-    document.lockWindows = workbook.lockWindows;
-
-    if (const Relationship* core = FindRelationshipOfType(packageRelationships, "core-properties")) {
-        if (std::optional<std::string> xml = archive.Read(core->target)) {
-            document.properties = ReadDocumentProperties(*xml, core->target);
-        }
-    }
-    return document;
+    return PackageReader(path).Read();
 }
 
 }  // namespace ooxml

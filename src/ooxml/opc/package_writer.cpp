@@ -4,20 +4,29 @@
 #include "ooxml/comments/vml_drawing_part.hpp"
 #include "ooxml/drawing/drawing_part.hpp"
 #include "ooxml/opc/atomic_file.hpp"
+#include "ooxml/opc/carried_parts_writer.hpp"
 #include "ooxml/opc/content_types_part.hpp"
 #include "ooxml/opc/package_part.hpp"
+#include "ooxml/opc/part_names.hpp"
+#include "ooxml/opc/relationships_reader.hpp"
 #include "ooxml/package_error.hpp"
 #include "ooxml/properties/document_properties_part.hpp"
 #include "ooxml/shared_strings/shared_strings_part.hpp"
 #include "ooxml/styles/styles_part.hpp"
 #include "ooxml/theme/theme_part.hpp"
+#include "ooxml/workbook/sheet_order.hpp"
 #include "ooxml/workbook/workbook_part.hpp"
+#include "ooxml/worksheet/table_name_reader.hpp"
 #include "ooxml/worksheet/worksheet_part.hpp"
 #include "ooxml/zip/zip_writer.hpp"
 
 #include <algorithm>
 #include <exception>
-#include <fmt/format.h>
+#include <array>
+#include <cctype>
+#include <iterator>
+#include <filesystem>
+#include <set>
 #include <vector>
 
 namespace ooxml {
@@ -28,6 +37,8 @@ struct Package {
     Relationships relationships;      // of the package itself: _rels/.rels
     std::vector<PackagePart> parts;   // in the order they are stored
     SharedStringTable sharedStrings;  // shared by the worksheets and the shared strings part
+    ReferenceTargets targets;         // what formulas may refer to beyond the sheets
+    SheetOrder sheetOrder;            // the worksheets among the carried sheets
 };
 
 void CheckDocument(const WorkbookDocument& document) {
@@ -56,28 +67,36 @@ struct DrawingPlan {
     std::vector<PackagePart> comments;  // each sheet's comments, then their legacy drawing
     uint32_t drawingCount = 0;
     uint32_t commentsCount = 0;
+    uint32_t vmlDrawingCount = 0;
     uint32_t nextVmlIdBlock = 1;
 };
 
-// Plans the parts that hold a sheet's text boxes and comments, related from the sheet's part;
-// returns the ids the worksheet refers to them by.
-SheetDrawingReferences PlanSheetDrawings(const SheetDocument& sheet, PackagePart& sheetPart, DrawingPlan& plan) {
+// Plans the parts that hold a sheet's text boxes (with the anchors its opened drawing carries) and
+// comments, related from the sheet's part; returns the ids the worksheet refers to them by.
+SheetDrawingReferences PlanSheetDrawings(const SheetDocument& sheet, PackagePart& sheetPart, PartNames& names,
+                                         DrawingPlan& plan) {
     SheetDrawingReferences references;
-    if (!sheet.textBoxes.empty()) {
-        const std::string drawing = fmt::format("drawings/drawing{}.xml", ++plan.drawingCount);
-        references.drawing = sheetPart.relationships.Add(kDrawingRelationshipType, "../" + drawing);
-        plan.drawings.push_back({"xl/" + drawing, kDrawingContentType,
-                                 [&sheet](XmlWriter& xml) { WriteDrawingPart(xml, sheet); }, {}});
+    const CarriedMarkup* carried = sheet.carried ? &sheet.carried->drawing : nullptr;
+    if (!sheet.textBoxes.empty() || (carried != nullptr && !carried->elements.empty())) {
+        const std::string drawing = names.Next("xl/drawings/drawing", plan.drawingCount, ".xml");
+        references.drawing = sheetPart.relationships.Add(kDrawingRelationshipType, RelativeTarget(sheetPart.path, drawing));
+        PackagePart part{drawing, kDrawingContentType, [&sheet](XmlWriter& xml) { WriteDrawingPart(xml, sheet); }, {}};
+        if (carried != nullptr) {
+            for (const Relationship& relationship : carried->relationships) {
+                part.relationships.Keep(relationship, drawing);
+            }
+        }
+        plan.drawings.push_back(std::move(part));
     }
     if (!sheet.comments.empty()) {
-        ++plan.commentsCount;
-        const std::string vmlDrawing = fmt::format("drawings/vmlDrawing{}.vml", plan.commentsCount);
-        const std::string comments = fmt::format("comments{}.xml", plan.commentsCount);
-        references.legacyDrawing = sheetPart.relationships.Add(kVmlDrawingRelationshipType, "../" + vmlDrawing);
-        sheetPart.relationships.Add(kCommentsRelationshipType, "../" + comments);
-        plan.comments.push_back({"xl/" + comments, kCommentsContentType,
-                                 [&sheet](XmlWriter& xml) { WriteCommentsPart(xml, sheet); }, {}});
-        plan.comments.push_back({"xl/" + vmlDrawing, kVmlDrawingContentType,
+        const std::string comments = names.Next("xl/comments", plan.commentsCount, ".xml");
+        const std::string vmlDrawing = names.Next("xl/drawings/vmlDrawing", plan.vmlDrawingCount, ".vml");
+        references.legacyDrawing =
+            sheetPart.relationships.Add(kVmlDrawingRelationshipType, RelativeTarget(sheetPart.path, vmlDrawing));
+        sheetPart.relationships.Add(kCommentsRelationshipType, RelativeTarget(sheetPart.path, comments));
+        plan.comments.push_back(
+            {comments, kCommentsContentType, [&sheet](XmlWriter& xml) { WriteCommentsPart(xml, sheet); }, {}});
+        plan.comments.push_back({vmlDrawing, kVmlDrawingContentType,
                                  [&sheet, firstIdBlock = plan.nextVmlIdBlock](XmlWriter& xml) {
                                      WriteVmlDrawingPart(xml, sheet, firstIdBlock);
                                  },
@@ -87,34 +106,125 @@ SheetDrawingReferences PlanSheetDrawings(const SheetDocument& sheet, PackagePart
     return references;
 }
 
-// The parts in the order Excel stores them, each relationship added by the part that uses it.
-void PlanPackage(const WorkbookDocument& document, Package& package) {
+// What formulas may refer to beyond the sheets: the links to other workbooks the workbook keeps,
+// and the tables of the sheets that are left.
+ReferenceTargets PlanReferenceTargets(const WorkbookDocument& document,
+                                      const std::vector<Relationship>& workbookRelationships,
+                                      const CarriedPartsPlan& carriedParts) {
+    ReferenceTargets targets;
+    for (const Relationship& relationship : workbookRelationships) {
+        if (HasRelationshipType(relationship, "externalLink")) {
+            ++targets.externalWorkbooks;
+        }
+    }
+    for (const SheetDocument& sheet : document.sheets) {
+        if (!sheet.carried) {
+            continue;
+        }
+        for (const Relationship& relationship : sheet.carried->worksheet.relationships) {
+            const CarriedPart* table = carriedParts.PartOf(relationship);
+            if (table != nullptr && HasRelationshipType(relationship, "table")) {
+                targets.tables.push_back(ReadTableName(table->bytes));
+            }
+        }
+    }
+    return targets;
+}
+
+// The workbook's content type by the file name's extension, as Excel saves by it: a template or
+// a macro workbook stays one under its own extension. Under another extension the opened file's
+// kind is kept.
+std::string_view WorkbookContentType(const std::string& path, const CarriedWorkbook* carried) {
+    static constexpr std::array<std::pair<std::string_view, std::string_view>, 4> ByExtension{{
+        {".xlsx", kWorkbookContentType},
+        {".xlsm", "application/vnd.ms-excel.sheet.macroEnabled.main+xml"},
+        {".xltx", "application/vnd.openxmlformats-officedocument.spreadsheetml.template.main+xml"},
+        {".xltm", "application/vnd.ms-excel.template.macroEnabled.main+xml"},
+    }};
+    std::string extension = std::filesystem::path(path).extension().string();
+    std::transform(extension.begin(), extension.end(), extension.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    for (const auto& [known, contentType] : ByExtension) {
+        if (extension == known) {
+            return contentType;
+        }
+    }
+    return carried != nullptr ? std::string_view(carried->workbookContentType) : kWorkbookContentType;
+}
+
+// The parts in the order Excel stores them, each relationship added by the part that uses it; the
+// parts carried from an opened file keep their names and relationship ids, and the parts the
+// writer makes take names and ids beside them.
+void PlanPackage(const WorkbookDocument& document, const std::string& path, Package& package) {
+    const CarriedWorkbook* carried = document.carried.get();
+    const std::string_view workbookContentType = WorkbookContentType(path, carried);
+    // A workbook saved without macros leaves its macro project behind, as Excel does.
+    const bool keepsMacros = workbookContentType.find("macroEnabled") != std::string_view::npos;
+    std::vector<Relationship> workbookRelationships;
+    if (carried != nullptr) {
+        std::copy_if(carried->workbook.relationships.begin(), carried->workbook.relationships.end(),
+                     std::back_inserter(workbookRelationships), [keepsMacros](const Relationship& relationship) {
+                         return keepsMacros || !HasRelationshipType(relationship, "vbaProject");
+                     });
+    }
+    const CarriedPartsPlan carriedParts(document, workbookRelationships);
+    package.targets = PlanReferenceTargets(document, workbookRelationships, carriedParts);
+    PartNames names;
+    for (const std::string& name : carriedParts.Names()) {
+        names.Take(name);
+    }
     package.sharedStrings = BuildSharedStringTable(document);
     const SharedStringTable& sharedStrings = package.sharedStrings;
-    PackagePart workbook{"xl/workbook.xml", kWorkbookContentType, {}, {}};
+    PackagePart workbook{"xl/workbook.xml", workbookContentType, {}, {}};
+    names.Take(workbook.path);
+    bool keepsTheme = false;
+    for (const Relationship& relationship : workbookRelationships) {
+        workbook.relationships.Keep(relationship, workbook.path);
+        keepsTheme = keepsTheme || HasRelationshipType(relationship, "theme");
+    }
+    if (carried != nullptr) {
+        for (const CarriedSheet& sheet : carried->sheets) {
+            if (!sheet.relationship.id.empty()) {
+                workbook.relationships.Keep(sheet.relationship, workbook.path);
+            }
+        }
+    }
     std::vector<PackagePart> sheetParts;
     std::vector<std::string> sheetRelationshipIds;
     DrawingPlan drawingPlan;
-    for (std::size_t i = 0; i < document.sheets.size(); ++i) {
-        const std::string name = fmt::format("worksheets/sheet{}.xml", i + 1);
-        sheetRelationshipIds.push_back(workbook.relationships.Add(kWorksheetRelationshipType, name));
-        const SheetDocument& sheet = document.sheets[i];
-        PackagePart sheetPart{"xl/" + name, kWorksheetContentType, {}, {}};
-        const SheetDrawingReferences drawings = PlanSheetDrawings(sheet, sheetPart, drawingPlan);
-        sheetPart.write = [&document, &sheet, &sharedStrings, drawings](XmlWriter& xml) {
-            WriteWorksheetPart(xml, document, sheet, sharedStrings, drawings);
+    uint32_t sheetCount = 0;
+    for (const SheetDocument& sheet : document.sheets) {
+        PackagePart sheetPart{names.Next("xl/worksheets/sheet", sheetCount, ".xml"), kWorksheetContentType, {}, {}};
+        sheetRelationshipIds.push_back(
+            workbook.relationships.Add(kWorksheetRelationshipType, RelativeTarget(workbook.path, sheetPart.path)));
+        if (sheet.carried) {
+            for (const Relationship& relationship : sheet.carried->worksheet.relationships) {
+                sheetPart.relationships.Keep(relationship, sheetPart.path);
+            }
+        }
+        const SheetDrawingReferences drawings = PlanSheetDrawings(sheet, sheetPart, names, drawingPlan);
+        sheetPart.write = [&document, &sheet, &sharedStrings, &targets = package.targets, drawings](XmlWriter& xml) {
+            WriteWorksheetPart(xml, document, sheet, sharedStrings, drawings, targets);
         };
         sheetParts.push_back(std::move(sheetPart));
     }
-    workbook.relationships.Add(kThemeRelationshipType, "theme/theme1.xml");
+    const SheetOrder& order = package.sheetOrder = OrderSheets(document);
+    if (!keepsTheme) {
+        workbook.relationships.Add(kThemeRelationshipType, "theme/theme1.xml");
+    }
     workbook.relationships.Add(kStylesRelationshipType, "styles.xml");
     if (!sharedStrings.strings.empty()) {
         workbook.relationships.Add(kSharedStringsRelationshipType, "sharedStrings.xml");
     }
-    workbook.write = [&document, sheetRelationshipIds](XmlWriter& xml) {
-        WriteWorkbookPart(xml, document, sheetRelationshipIds);
+    workbook.write = [&document, &order, sheetRelationshipIds, &targets = package.targets](XmlWriter& xml) {
+        WriteWorkbookPart(xml, document, order, sheetRelationshipIds, targets);
     };
 
+    if (carried != nullptr) {
+        for (const Relationship& relationship : carried->packageRelationships) {
+            package.relationships.Keep(relationship, "");
+        }
+    }
     package.relationships.Add(kOfficeDocumentRelationshipType, workbook.path);
     package.relationships.Add(kCorePropertiesRelationshipType, "docProps/core.xml");
     package.relationships.Add(kAppPropertiesRelationshipType, "docProps/app.xml");
@@ -123,8 +233,10 @@ void PlanPackage(const WorkbookDocument& document, Package& package) {
     for (PackagePart& sheetPart : sheetParts) {
         package.parts.push_back(std::move(sheetPart));
     }
-    package.parts.push_back({"xl/theme/theme1.xml", kThemeContentType,
-                             [&document](XmlWriter& xml) { WriteThemePart(xml, document.themeColors); }, {}});
+    if (!keepsTheme) {
+        package.parts.push_back({"xl/theme/theme1.xml", kThemeContentType,
+                                 [&document](XmlWriter& xml) { WriteThemePart(xml, document.themeColors); }, {}});
+    }
     package.parts.push_back({"xl/styles.xml", kStylesContentType,
                              [&document](XmlWriter& xml) { WriteStylesPart(xml, document); }, {}});
     if (!sharedStrings.strings.empty()) {
@@ -138,6 +250,9 @@ void PlanPackage(const WorkbookDocument& document, Package& package) {
         for (PackagePart& part : *parts) {
             package.parts.push_back(std::move(part));
         }
+    }
+    for (PackagePart& part : carriedParts.Parts()) {
+        package.parts.push_back(std::move(part));
     }
     package.parts.push_back({"docProps/core.xml", kCorePropertiesContentType,
                              [&document](XmlWriter& xml) { WriteCorePropertiesPart(xml, document.properties); }, {}});
@@ -153,28 +268,53 @@ void WriteEntry(ZipWriter& zip, const std::string& path, const std::function<voi
     zip.EndEntry();
 }
 
-void WriteRelationships(ZipWriter& zip, std::string_view sourcePath, const Relationships& relationships) {
-    if (!relationships.Empty()) {
-        WriteEntry(zip, RelationshipsPartPath(sourcePath), [&relationships](XmlWriter& xml) { relationships.Write(xml); });
+void WriteRelationships(ZipWriter& zip, const PackagePart& part) {
+    if (!part.verbatimRelationships.empty()) {
+        WriteEntry(zip, RelationshipsPartPath(part.path),
+                   [&part](XmlWriter& xml) { xml.Raw(part.verbatimRelationships); });
+    } else if (!part.relationships.Empty()) {
+        WriteEntry(zip, RelationshipsPartPath(part.path),
+                   [&part](XmlWriter& xml) { part.relationships.Write(xml); });
     }
 }
 
-void WriteArchive(ZipWriter& zip, const Package& package) {
+// The content types by extension: Excel's own, and those the opened file declared for the
+// extensions of the parts it carries (png, bin, ...); the parts they do not cover get overrides.
+ContentTypes PlanContentTypes(const WorkbookDocument& document, const Package& package) {
     ContentTypes contentTypes;
     contentTypes.AddDefault("rels", kRelationshipsContentType);
     contentTypes.AddDefault("xml", "application/xml");
-    if (std::any_of(package.parts.begin(), package.parts.end(),
-                    [](const PackagePart& part) { return part.contentType == kVmlDrawingContentType; })) {
-        contentTypes.AddDefault("vml", kVmlDrawingContentType);
+    std::set<std::string> extensions{"rels", "xml"};
+    for (const PackagePart& part : package.parts) {
+        const std::size_t dot = part.path.rfind('.');
+        std::string extension = dot == std::string::npos ? std::string() : part.path.substr(dot + 1);
+        if (extensions.count(extension) != 0) {
+            continue;
+        }
+        if (part.contentType == kVmlDrawingContentType) {
+            contentTypes.AddDefault(extension, kVmlDrawingContentType);
+            extensions.insert(extension);
+        } else if (document.carried) {
+            const auto declared = document.carried->defaultContentTypes.find(extension);
+            if (declared != document.carried->defaultContentTypes.end() && declared->second == part.contentType) {
+                contentTypes.AddDefault(extension, part.contentType);
+                extensions.insert(extension);
+            }
+        }
     }
     for (const PackagePart& part : package.parts) {
         contentTypes.AddPart(part.path, part.contentType);
     }
+    return contentTypes;
+}
+
+void WriteArchive(ZipWriter& zip, const WorkbookDocument& document, const Package& package) {
+    const ContentTypes contentTypes = PlanContentTypes(document, package);
     WriteEntry(zip, std::string(ContentTypes::kPartPath), [&contentTypes](XmlWriter& xml) { contentTypes.Write(xml); });
-    WriteRelationships(zip, "", package.relationships);
+    WriteRelationships(zip, PackagePart{"", {}, {}, package.relationships, {}});
     for (const PackagePart& part : package.parts) {
         WriteEntry(zip, part.path, part.write);
-        WriteRelationships(zip, part.path, part.relationships);
+        WriteRelationships(zip, part);
     }
     zip.Finish();
 }
@@ -187,9 +327,9 @@ void WritePackage(const WorkbookDocument& document, const std::string& path) {
         AtomicFile file(path);
         {
             Package package;
-            PlanPackage(document, package);
+            PlanPackage(document, path, package);
             ZipWriter zip(file.Descriptor());
-            WriteArchive(zip, package);
+            WriteArchive(zip, document, package);
         }
         file.Commit();
     } catch (const PackageError&) {

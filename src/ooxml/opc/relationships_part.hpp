@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ooxml/document/relationship.hpp"
 #include "ooxml/xml/xml_writer.hpp"
 
 #include <string>
@@ -14,24 +15,34 @@ inline constexpr std::string_view kRelationshipsContentType = "application/vnd.o
 // are what the part's XML refers to (r:id).
 class Relationships {
 public:
-    struct Relationship {
+    struct Entry {
         std::string id;
         std::string type;
         std::string target;
+        bool external = false;
     };
 
-    // Returns the new relationship's id ("rId1", "rId2", ...). target is relative to the source
-    // part's folder.
+    // Returns the new relationship's id: the first of "rId1", "rId2", ... not yet taken. target is
+    // relative to the source part's folder.
     std::string Add(std::string_view type, std::string target);
+    // Keeps a relationship of an opened file under its own id, which the kept markup refers to.
+    // Kept relationships are added before new ones, so that new ids pass theirs by.
+    void Keep(const Relationship& relationship, std::string_view sourcePath);
     bool Empty() const noexcept { return relationships_.empty(); }
     void Write(XmlWriter& xml) const;
 
 private:
-    std::vector<Relationship> relationships_;
+    bool Taken(std::string_view id) const;
+
+    std::vector<Entry> relationships_;
 };
 
 // Where the relationships of a part are stored: "xl/workbook.xml" -> "xl/_rels/workbook.xml.rels",
 // and "" (the package) -> "_rels/.rels".
 std::string RelationshipsPartPath(std::string_view partPath);
+
+// The target by which a part refers to another: "xl/worksheets/sheet1.xml" to "xl/media/a.png"
+// is "../media/a.png"; from the package itself ("") the part name.
+std::string RelativeTarget(std::string_view sourcePath, std::string_view targetPath);
 
 }  // namespace ooxml

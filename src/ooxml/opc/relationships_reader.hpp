@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ooxml/document/relationship.hpp"
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -7,13 +9,6 @@
 namespace ooxml {
 
 class ZipArchiveReader;
-
-struct Relationship {
-    std::string id;
-    std::string type;    // the full relationship type URI
-    std::string target;  // an internal target resolved to a part name without the leading "/"
-    bool external = false;
-};
 
 // "xl/workbook.xml" -> "xl/_rels/workbook.xml.rels"; the package itself ("") -> "_rels/.rels".
 std::string RelationshipsPartName(std::string_view sourcePartName);

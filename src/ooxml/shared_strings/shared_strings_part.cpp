@@ -2,6 +2,7 @@
 
 #include "ooxml/styles/font_element.hpp"
 
+#include <algorithm>
 #include <cstdint>
 
 namespace ooxml {
@@ -52,12 +53,17 @@ void WriteTextElement(XmlWriter& xml, std::string_view text) {
     xml.EndElement();
 }
 
+// A run without text is left out: Excel repairs a comment that has one.
 void WriteStringItem(XmlWriter& xml, std::string_view element, const SharedString& string) {
     xml.StartElement(element);
-    if (string.runs.empty()) {
+    const auto hasText = [](const TextRun& run) { return !run.text.empty(); };
+    if (std::none_of(string.runs.begin(), string.runs.end(), hasText)) {
         WriteTextElement(xml, string.text);
     }
     for (const TextRun& run : string.runs) {
+        if (!hasText(run)) {
+            continue;
+        }
         xml.StartElement("r");
         if (run.font) {
             WriteFont(xml, "rPr", "rFont", *run.font);

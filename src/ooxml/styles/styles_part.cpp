@@ -1,5 +1,9 @@
 #include "ooxml/styles/styles_part.hpp"
 
+#include "ooxml/carried/carried_attributes.hpp"
+#include "ooxml/carried/carried_element_writer.hpp"
+#include "ooxml/styles/styles_element_order.hpp"
+
 #include "ooxml/styles/builtin_number_formats.hpp"
 #include "ooxml/styles/color_element.hpp"
 #include "ooxml/styles/font_element.hpp"
@@ -198,6 +202,42 @@ void WritePalette(XmlWriter& xml, const std::vector<std::optional<uint32_t>>& pa
     xml.EndElement();
 }
 
+void WriteEmptyList(XmlWriter& xml, std::string_view element) {
+    xml.StartElement(element);
+    xml.Attribute("count", 0);
+    xml.EndElement();
+}
+
+// The Normal style (the default format's font with no fill, border or number format), and the
+// cell formats, all based on it.
+void WriteNormalStyle(XmlWriter& xml, const std::vector<CellXf>& cellXfs, const std::vector<CellFormat>& formats) {
+    xml.StartElement("cellStyleXfs");
+    xml.Attribute("count", 1);
+    xml.StartElement("xf");
+    xml.Attribute("numFmtId", 0);
+    xml.Attribute("fontId", 0);
+    xml.Attribute("fillId", 0);
+    xml.Attribute("borderId", 0);
+    xml.EndElement();
+    xml.EndElement();
+
+    xml.StartElement("cellXfs");
+    xml.Attribute("count", cellXfs.size());
+    for (std::size_t i = 0; i < cellXfs.size(); ++i) {
+        WriteCellXf(xml, cellXfs[i], formats[i]);
+    }
+    xml.EndElement();
+
+    xml.StartElement("cellStyles");
+    xml.Attribute("count", 1);
+    xml.StartElement("cellStyle");
+    xml.Attribute("name", "Normal");
+    xml.Attribute("xfId", 0);
+    xml.Attribute("builtinId", 0);
+    xml.EndElement();
+    xml.EndElement();
+}
+
 }  // namespace
 
 void WriteStylesPart(XmlWriter& xml, const WorkbookDocument& document) {
@@ -224,47 +264,34 @@ void WriteStylesPart(XmlWriter& xml, const WorkbookDocument& document) {
     xml.Declaration();
     xml.StartElement("styleSheet");
     xml.Attribute("xmlns", kMainNamespace);
+    const CarriedMarkup* carried = document.carried ? &document.carried->styles : nullptr;
+    if (carried != nullptr) {
+        WriteCarriedAttributes(xml, carried->rootAttributes);
+    }
+    CarriedElementWriter carriedElements(xml, carried != nullptr ? &carried->elements : nullptr);
+    if (!document.palette.empty()) {
+        carriedElements.Drop("colors");
+    }
     numberFormats.Write(xml);
     fonts.Write(xml, "fonts");
     fills.Write(xml, "fills");
     borders.Write(xml, "borders");
-
-    // The Normal style: the default format's font with no fill, border or number format.
-    xml.StartElement("cellStyleXfs");
-    xml.Attribute("count", 1);
-    xml.StartElement("xf");
-    xml.Attribute("numFmtId", 0);
-    xml.Attribute("fontId", 0);
-    xml.Attribute("fillId", 0);
-    xml.Attribute("borderId", 0);
-    xml.EndElement();
-    xml.EndElement();
-
-    xml.StartElement("cellXfs");
-    xml.Attribute("count", cellXfs.size());
-    for (std::size_t i = 0; i < cellXfs.size(); ++i) {
-        WriteCellXf(xml, cellXfs[i], document.formats[i]);
+    WriteNormalStyle(xml, cellXfs, document.formats);
+    carriedElements.Through(StylesElementOrder.Slot("cellStyles"));
+    if (!carriedElements.Carries("dxfs")) {
+        WriteEmptyList(xml, "dxfs");
     }
-    xml.EndElement();
-
-    xml.StartElement("cellStyles");
-    xml.Attribute("count", 1);
-    xml.StartElement("cellStyle");
-    xml.Attribute("name", "Normal");
-    xml.Attribute("xfId", 0);
-    xml.Attribute("builtinId", 0);
-    xml.EndElement();
-    xml.EndElement();
-
-    xml.StartElement("dxfs");
-    xml.Attribute("count", 0);
-    xml.EndElement();
-    xml.StartElement("tableStyles");
-    xml.Attribute("count", 0);
-    xml.Attribute("defaultTableStyle", "TableStyleMedium2");
-    xml.Attribute("defaultPivotStyle", "PivotStyleLight16");
-    xml.EndElement();
+    carriedElements.Through(StylesElementOrder.Slot("dxfs"));
+    if (!carriedElements.Carries("tableStyles")) {
+        xml.StartElement("tableStyles");
+        xml.Attribute("count", 0);
+        xml.Attribute("defaultTableStyle", "TableStyleMedium2");
+        xml.Attribute("defaultPivotStyle", "PivotStyleLight16");
+        xml.EndElement();
+    }
+    carriedElements.Through(StylesElementOrder.Slot("tableStyles"));
     WritePalette(xml, document.palette);
+    carriedElements.Rest();
     xml.EndElement();
 }
 

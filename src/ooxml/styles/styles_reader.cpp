@@ -1,5 +1,8 @@
 #include "ooxml/styles/styles_reader.hpp"
 
+#include "ooxml/carried/carried_attributes.hpp"
+#include "ooxml/carried/carried_element_collector.hpp"
+#include "ooxml/styles/styles_element_order.hpp"
 #include "ooxml/styles/builtin_number_formats.hpp"
 #include "ooxml/styles/color_reader.hpp"
 #include "ooxml/styles/font_reader.hpp"
@@ -111,6 +114,25 @@ std::vector<std::optional<uint32_t>> ReadPalette(pugi::xml_node colors) {
     return palette;
 }
 
+// The cell formats, and the named styles they come from, are rewritten from the model; the rest
+// of the part is kept.
+void CarryStyles(pugi::xml_node styleSheet, CarriedMarkup& carried) {
+    carried.rootAttributes = AttributesExcept(styleSheet, {"xmlns"});
+    CarriedElementCollector elements(StylesElementOrder, carried.elements);
+    for (pugi::xml_node child = styleSheet.first_child(); child; child = child.next_sibling()) {
+        if (child.type() != pugi::node_element) {
+            continue;
+        }
+        const std::string_view name = LocalName(child);
+        const std::optional<uint16_t> slot = StylesElementOrder.SlotOf(name);
+        if (slot && *slot <= StylesElementOrder.Slot("cellStyles")) {
+            elements.Pass(name);
+        } else {
+            elements.Carry(name, ElementMarkup(child));
+        }
+    }
+}
+
 }  // namespace
 
 StylesPart ReadStyles(std::string& xml, std::string_view partName) {
@@ -142,6 +164,7 @@ StylesPart ReadStyles(std::string& xml, std::string_view partName) {
         styles.formats.push_back(defaults);
     }
     styles.palette = ReadPalette(FirstChild(styleSheet, "colors"));
+    CarryStyles(styleSheet, styles.carried);
     return styles;
 }
 

@@ -1,5 +1,8 @@
 #include "ooxml/workbook/workbook_reader.hpp"
 
+#include "ooxml/carried/carried_attributes.hpp"
+#include "ooxml/carried/carried_element_collector.hpp"
+#include "ooxml/workbook/workbook_element_order.hpp"
 #include "ooxml/xml/xml_node_access.hpp"
 #include "ooxml/xml/xml_part_parser.hpp"
 
@@ -33,7 +36,7 @@ DefinedName ReadDefinedName(pugi::xml_node node) {
 
 }  // namespace
 
-WorkbookPart ReadWorkbook(std::string& xml, std::string_view partName) {
+WorkbookPart ReadWorkbook(std::string& xml, std::string_view partName, CarriedWorkbook& carried) {
     pugi::xml_document document;
     ParseXmlPart(document, xml, partName);
     const pugi::xml_node workbook = document.document_element();
@@ -47,6 +50,26 @@ WorkbookPart ReadWorkbook(std::string& xml, std::string_view partName) {
     const pugi::xml_node protection = FirstChild(workbook, "workbookProtection");
     part.lockStructure = AttributeBool(protection, "lockStructure", false);
     part.lockWindows = AttributeBool(protection, "lockWindows", false);
+
+    carried.workbook.rootAttributes = AttributesExcept(workbook, {"xmlns", "xmlns:r"});
+    carried.workbookPrAttributes = AttributesExcept(FirstChild(workbook, "workbookPr"), {"date1904"});
+    carried.protectionAttributes = AttributesExcept(protection, {"lockStructure", "lockWindows"});
+    // The first visible tab is left out: once sheets are deleted it may no longer exist.
+    carried.bookViewAttributes = AttributesExcept(view, {"activeTab", "firstSheet"});
+    carried.calcAttributes = AttributesExcept(FirstChild(workbook, "calcPr"), {"calcId", "fullCalcOnLoad"});
+    CarriedElementCollector elements(WorkbookElementOrder, carried.workbook.elements);
+    for (pugi::xml_node child = workbook.first_child(); child; child = child.next_sibling()) {
+        if (child.type() != pugi::node_element) {
+            continue;
+        }
+        const std::string_view name = LocalName(child);
+        if (name == "workbookPr" || name == "workbookProtection" || name == "bookViews" || name == "sheets" ||
+            name == "definedNames" || name == "calcPr") {
+            elements.Pass(name);
+        } else {
+            elements.Carry(name, ElementMarkup(child));
+        }
+    }
     return part;
 }
 

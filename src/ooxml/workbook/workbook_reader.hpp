@@ -17,14 +17,16 @@ struct SheetEntry {
 };
 
 struct WorkbookPart {
-    std::vector<SheetEntry> sheets;
+    std::vector<SheetEntry> sheets;  // worksheets and the other kinds, in the workbook's order
     std::vector<DefinedName> names;  // localSheet counts positions in sheets
     uint32_t activeTab = 0;          // a position in sheets
     bool lockStructure = false;
     bool lockWindows = false;
 };
 
+// Reads the workbook part; what the engine does not model goes to carried (its elements, and the
+// attributes of the properties, protection, first view and calculation settings beyond the model's).
 // Throws PackageError(Corrupt).
-WorkbookPart ReadWorkbook(std::string& xml, std::string_view partName);
+WorkbookPart ReadWorkbook(std::string& xml, std::string_view partName, CarriedWorkbook& carried);
 
 }  // namespace ooxml

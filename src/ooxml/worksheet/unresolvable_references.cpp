@@ -17,18 +17,19 @@ bool IsReferenceCharacter(char c) {
            c == '\\' || c == '?' || static_cast<unsigned char>(c) >= 0x80;
 }
 
-// Length of "[n]" at position when n names another workbook (n > 0), else 0.
-std::size_t WorkbookIndexLength(std::string_view formula, std::size_t position) {
+// Length of "[n]" at position when n names another workbook (n > 0), else 0; the index goes to
+// workbook.
+std::size_t WorkbookIndexLength(std::string_view formula, std::size_t position, uint64_t& workbook) {
     if (position >= formula.size() || formula[position] != '[') {
         return 0;
     }
     std::size_t end = position + 1;
-    bool nonZero = false;
+    workbook = 0;
     while (end < formula.size() && IsDigit(formula[end])) {
-        nonZero = nonZero || formula[end] != '0';
+        workbook = std::min<uint64_t>(workbook * 10 + static_cast<uint64_t>(formula[end] - '0'), UINT32_MAX + 1ull);
         ++end;
     }
-    return end > position + 1 && end < formula.size() && formula[end] == ']' && nonZero ? end + 1 - position : 0;
+    return end > position + 1 && end < formula.size() && formula[end] == ']' && workbook != 0 ? end + 1 - position : 0;
 }
 
 // End of the text quoted with the quote character at position (a doubled quote stands for one),
@@ -64,8 +65,9 @@ bool IsNameStart(char c) {
 }
 
 // End of the table reference ("Sales[Amount]", "Sales[[#Headers],[Qty]:[Price]]") starting at position,
-// or npos when none starts there. Inside the brackets a quote escapes the next character.
-std::size_t TableReferenceEnd(std::string_view formula, std::size_t position) {
+// or npos when none starts there; the table's name goes to table. Inside the brackets a quote
+// escapes the next character.
+std::size_t TableReferenceEnd(std::string_view formula, std::size_t position, std::string_view& table) {
     if (!IsNameStart(formula[position])) {
         return std::string_view::npos;
     }
@@ -76,6 +78,7 @@ std::size_t TableReferenceEnd(std::string_view formula, std::size_t position) {
     if (i >= formula.size() || formula[i] != '[') {
         return std::string_view::npos;
     }
+    table = formula.substr(position, i - position);
     int depth = 0;
     for (; i < formula.size(); ++i) {
         if (formula[i] == '\'') {
@@ -89,12 +92,13 @@ std::size_t TableReferenceEnd(std::string_view formula, std::size_t position) {
     return std::string_view::npos;
 }
 
-// End of the external reference starting at position, or npos when none starts there.
-std::size_t ExternalReferenceEnd(std::string_view formula, std::size_t position) {
+// End of the external reference starting at position, or npos when none starts there; the
+// workbook's index goes to workbook.
+std::size_t ExternalReferenceEnd(std::string_view formula, std::size_t position, uint64_t& workbook) {
     std::size_t prefixEnd = std::string_view::npos;
-    if (formula[position] == '\'' && WorkbookIndexLength(formula, position + 1) != 0) {
+    if (formula[position] == '\'' && WorkbookIndexLength(formula, position + 1, workbook) != 0) {
         prefixEnd = ClosingQuoteEnd(formula, position);
-    } else if (const std::size_t index = WorkbookIndexLength(formula, position); index != 0) {
+    } else if (const std::size_t index = WorkbookIndexLength(formula, position, workbook); index != 0) {
         prefixEnd = position + index;
         while (prefixEnd < formula.size() && formula[prefixEnd] != '!' && IsReferenceCharacter(formula[prefixEnd])) {
             ++prefixEnd;
@@ -108,7 +112,16 @@ std::size_t ExternalReferenceEnd(std::string_view formula, std::size_t position)
 
 }  // namespace
 
-std::string WithoutUnresolvableReferences(std::string_view formula) {
+bool ReferenceTargets::HasTable(std::string_view name) const {
+    const auto sameName = [name](const std::string& table) {
+        return table.size() == name.size() && std::equal(table.begin(), table.end(), name.begin(), [](char a, char b) {
+                   return std::tolower(static_cast<unsigned char>(a)) == std::tolower(static_cast<unsigned char>(b));
+               });
+    };
+    return std::any_of(tables.begin(), tables.end(), sameName);
+}
+
+std::string WithoutUnresolvableReferences(std::string_view formula, const ReferenceTargets& targets) {
     std::string result;
     result.reserve(formula.size());
     std::size_t i = 0;
@@ -116,9 +129,18 @@ std::string WithoutUnresolvableReferences(std::string_view formula) {
         const char c = formula[i];
         const bool startsOperand = i == 0 || !IsReferenceCharacter(formula[i - 1]);
         if (startsOperand) {
-            std::size_t end = c == '[' || c == '\'' ? ExternalReferenceEnd(formula, i) : TableReferenceEnd(formula, i);
+            uint64_t workbook = 0;
+            std::string_view table;
+            const bool external = c == '[' || c == '\'';
+            const std::size_t end =
+                external ? ExternalReferenceEnd(formula, i, workbook) : TableReferenceEnd(formula, i, table);
             if (end != std::string_view::npos) {
-                result += "#REF!";
+                const bool resolvable = external ? workbook <= targets.externalWorkbooks : targets.HasTable(table);
+                if (resolvable) {
+                    result.append(formula.substr(i, end - i));
+                } else {
+                    result += "#REF!";
+                }
                 i = end;
                 continue;
             }

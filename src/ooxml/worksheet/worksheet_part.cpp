@@ -1,8 +1,11 @@
 #include "ooxml/worksheet/worksheet_part.hpp"
 
+#include "ooxml/carried/carried_attributes.hpp"
+#include "ooxml/carried/carried_element_writer.hpp"
 #include "ooxml/package_error.hpp"
 #include "ooxml/worksheet/column_name.hpp"
 #include "ooxml/worksheet/unresolvable_references.hpp"
+#include "ooxml/worksheet/worksheet_element_order.hpp"
 
 #include <algorithm>
 #include <charconv>
@@ -55,25 +58,54 @@ private:
 class WorksheetWriter {
 public:
     WorksheetWriter(XmlWriter& xml, const WorkbookDocument& document, const SheetDocument& sheet,
-                    const SharedStringTable& sharedStrings, const SheetDrawingReferences& drawings)
-        : xml_(xml), document_(document), sheet_(sheet), sharedStrings_(sharedStrings), drawings_(drawings) {}
+                    const SharedStringTable& sharedStrings, const SheetDrawingReferences& drawings,
+                    const ReferenceTargets& targets)
+        : xml_(xml),
+          document_(document),
+          sheet_(sheet),
+          carried_(sheet.carried.get()),
+          sharedStrings_(sharedStrings),
+          drawings_(drawings),
+          targets_(targets) {}
 
-    // The elements in the order the worksheet schema requires.
+    // The elements in the order the worksheet schema requires, the ones the opened sheet had
+    // beyond the model among them.
     void Write() {
         xml_.Declaration();
         xml_.StartElement("worksheet");
         xml_.Attribute("xmlns", "http://schemas.openxmlformats.org/spreadsheetml/2006/main");
         xml_.Attribute("xmlns:r", "http://schemas.openxmlformats.org/officeDocument/2006/relationships");
+        if (carried_ != nullptr) {
+            WriteCarriedAttributes(xml_, carried_->worksheet.rootAttributes);
+        }
+        CarriedElementWriter carried(xml_, carried_ != nullptr ? &carried_->worksheet.elements : nullptr);
+        if (!drawings_.legacyDrawing.empty()) {
+            carried.Drop("legacyDrawing");
+        }
+        const auto before = [&carried](std::string_view name) { carried.Before(WorksheetElementOrder.Slot(name)); };
+        before("dimension");
         WriteDimension();
+        before("sheetViews");
         WriteSheetViews();
+        before("sheetFormatPr");
         WriteSheetFormat();
+        before("cols");
         WriteColumns();
+        before("sheetData");
         WriteSheetData();
+        before("mergeCells");
         WriteMerges();
+        before("printOptions");
         WritePrintOptions();
-        WritePageMargins();
+        before("pageMargins");
+        if (!carried.Carries("pageMargins")) {
+            WritePageMargins();
+        }
+        before("drawing");
         WriteReference("drawing", drawings_.drawing);
+        before("legacyDrawing");
         WriteReference("legacyDrawing", drawings_.legacyDrawing);
+        carried.Rest();
         xml_.EndElement();
     }
 
@@ -113,14 +145,46 @@ private:
         if (sheet_.tabSelected) {
             xml_.Attribute("tabSelected", "1");
         }
+        if (carried_ != nullptr) {
+            WriteCarriedAttributes(xml_, carried_->sheetViewAttributes);
+        }
         xml_.Attribute("workbookViewId", 0);
-        if (!sheet_.activeCell.empty() && sheet_.activeCell != "A1") {
-            xml_.StartElement("selection");
-            xml_.Attribute("activeCell", sheet_.activeCell);
-            xml_.Attribute("sqref", sheet_.activeCell);
-            xml_.EndElement();
+        if (carried_ == nullptr) {
+            WriteSelection("");
+        } else {
+            WriteCarriedViewChildren(*carried_);
         }
         xml_.EndElement();
+        xml_.EndElement();
+    }
+
+    // The opened view's pane and selections; the active pane's selection as it was while the
+    // active cell stays, the engine's own once it moved.
+    void WriteCarriedViewChildren(const CarriedWorksheet& carried) {
+        xml_.Raw(carried.pane);
+        const bool moved = sheet_.activeCell != carried.activeCell;
+        if (!carried.activeSelection) {
+            WriteSelection(carried.activePane);
+        }
+        for (std::size_t i = 0; i < carried.viewChildren.size(); ++i) {
+            if (i == carried.activeSelection && moved) {
+                WriteSelection(carried.activePane);
+            } else {
+                xml_.Raw(carried.viewChildren[i]);
+            }
+        }
+    }
+
+    void WriteSelection(std::string_view pane) {
+        if (sheet_.activeCell.empty() || (sheet_.activeCell == "A1" && pane.empty())) {
+            return;
+        }
+        xml_.StartElement("selection");
+        if (!pane.empty()) {
+            xml_.Attribute("pane", pane);
+        }
+        xml_.Attribute("activeCell", sheet_.activeCell);
+        xml_.Attribute("sqref", sheet_.activeCell);
         xml_.EndElement();
     }
 
@@ -130,6 +194,9 @@ private:
             xml_.Attribute("defaultColWidth", *sheet_.defaultColumnWidth);
         }
         xml_.Attribute("defaultRowHeight", sheet_.defaultRowHeight);
+        if (carried_ != nullptr) {
+            WriteCarriedAttributes(xml_, carried_->sheetFormatAttributes);
+        }
         xml_.EndElement();
     }
 
@@ -285,7 +352,7 @@ private:
         if (formula.find('[') == std::string::npos) {
             xml_.Text(formula);
         } else {
-            xml_.Text(WithoutUnresolvableReferences(formula));
+            xml_.Text(WithoutUnresolvableReferences(formula, targets_));
         }
         xml_.EndElement();
     }
@@ -309,11 +376,18 @@ private:
     }
 
     void WritePrintOptions() {
-        if (sheet_.printGridLines) {
-            xml_.StartElement("printOptions");
-            xml_.Attribute("gridLines", "1");
-            xml_.EndElement();
+        const std::vector<CarriedAttribute>* others = carried_ != nullptr ? &carried_->printOptionsAttributes : nullptr;
+        if (!sheet_.printGridLines && (others == nullptr || others->empty())) {
+            return;
         }
+        xml_.StartElement("printOptions");
+        if (sheet_.printGridLines) {
+            xml_.Attribute("gridLines", "1");
+        }
+        if (others != nullptr) {
+            WriteCarriedAttributes(xml_, *others);
+        }
+        xml_.EndElement();
     }
 
     // Excel's default margins (inches).
@@ -354,8 +428,10 @@ private:
     XmlWriter& xml_;
     const WorkbookDocument& document_;
     const SheetDocument& sheet_;
+    const CarriedWorksheet* carried_;  // null for a sheet the engine made
     const SharedStringTable& sharedStrings_;
     const SheetDrawingReferences& drawings_;
+    const ReferenceTargets& targets_;
     ColumnNames columnNames_;
     CellReference reference_;
 };
@@ -363,8 +439,9 @@ private:
 }  // namespace
 
 void WriteWorksheetPart(XmlWriter& xml, const WorkbookDocument& document, const SheetDocument& sheet,
-                        const SharedStringTable& sharedStrings, const SheetDrawingReferences& drawings) {
-    WorksheetWriter(xml, document, sheet, sharedStrings, drawings).Write();
+                        const SharedStringTable& sharedStrings, const SheetDrawingReferences& drawings,
+                        const ReferenceTargets& targets) {
+    WorksheetWriter(xml, document, sheet, sharedStrings, drawings, targets).Write();
 }
 
 }  // namespace ooxml

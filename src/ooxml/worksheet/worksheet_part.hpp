@@ -3,6 +3,7 @@
 #include "ooxml/document/workbook_document.hpp"
 #include "ooxml/shared_strings/shared_strings_part.hpp"
 #include "ooxml/worksheet/sheet_drawing_references.hpp"
+#include "ooxml/worksheet/unresolvable_references.hpp"
 #include "ooxml/xml/xml_writer.hpp"
 
 #include <string_view>
@@ -18,8 +19,11 @@ inline constexpr std::string_view kWorksheetRelationshipType =
 // their positions in the shared string table. Throws PackageError
 // (WriteFailed) when a cell or row refers to a format, string or formula the document does not
 // have, or rows and cells are out of order: Excel would have to repair such a file. drawings are
-// the ids of the sheet's relationships to its drawing parts.
+// the ids of the sheet's relationships to its drawing parts; targets what its formulas may refer to
+// beyond the workbook's sheets. The elements an opened sheet had beyond the model are written in
+// their places.
 void WriteWorksheetPart(XmlWriter& xml, const WorkbookDocument& document, const SheetDocument& sheet,
-                        const SharedStringTable& sharedStrings, const SheetDrawingReferences& drawings = {});
+                        const SharedStringTable& sharedStrings, const SheetDrawingReferences& drawings = {},
+                        const ReferenceTargets& targets = {});
 
 }  // namespace ooxml

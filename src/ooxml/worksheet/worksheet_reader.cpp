@@ -1,7 +1,10 @@
 #include "ooxml/worksheet/worksheet_reader.hpp"
 
+#include "ooxml/carried/carried_attributes.hpp"
+#include "ooxml/carried/carried_element_collector.hpp"
 #include "ooxml/worksheet/cell_reference_reader.hpp"
 #include "ooxml/worksheet/sheet_data_reader.hpp"
+#include "ooxml/worksheet/worksheet_element_order.hpp"
 #include "ooxml/xml/xml_node_access.hpp"
 #include "ooxml/xml/xml_part_parser.hpp"
 
@@ -17,11 +20,19 @@ constexpr double MaxColumnWidth = 255.0;
 // The elements around the cells that the reader takes settings from.
 constexpr std::string_view SettingElements[] = {"sheetViews", "sheetFormatPr", "cols",   "mergeCells",
                                                 "printOptions", "drawing",      "legacyDrawing"};
+// Elements the writer makes anew from the cells.
+constexpr std::string_view DerivedElements[] = {"dimension"};
+
+template <std::size_t N>
+bool Lists(const std::string_view (&names)[N], std::string_view name) {
+    return std::find(std::begin(names), std::end(names), name) != std::end(names);
+}
 
 // Reads the sheet's settings from a tree of the elements that hold them; the cells are read apart.
 class WorksheetSettingsReader {
 public:
-    WorksheetSettingsReader(const WorksheetContext& context, SheetDocument& sheet) : context_(context), sheet_(sheet) {}
+    WorksheetSettingsReader(const WorksheetContext& context, SheetDocument& sheet, CarriedWorksheet& carried)
+        : context_(context), sheet_(sheet), carried_(carried) {}
 
     SheetDrawingReferences Read(pugi::xml_node worksheet) {
         SheetDrawingReferences drawings;
@@ -30,6 +41,7 @@ public:
             if (name == "sheetViews") {
                 ReadSheetView(FirstChild(child, "sheetView"));
             } else if (name == "sheetFormatPr") {
+                carried_.sheetFormatAttributes = AttributesExcept(child, {"defaultColWidth", "defaultRowHeight"});
                 sheet_.defaultColumnWidth = AttributeDouble(child, "defaultColWidth");
                 sheet_.defaultRowHeight = AttributeDouble(child, "defaultRowHeight").value_or(sheet_.defaultRowHeight);
             } else if (name == "cols") {
@@ -38,6 +50,7 @@ public:
                 ForEachChild(child, "mergeCell", [&](pugi::xml_node merge) { ReadMerge(merge); });
             } else if (name == "printOptions") {
                 sheet_.printGridLines = AttributeBool(child, "gridLines", false);
+                carried_.printOptionsAttributes = AttributesExcept(child, {"gridLines"});
             } else if (name == "drawing") {
                 drawings.drawing = AttributeText(child, "id");
             } else if (name == "legacyDrawing") {
@@ -53,6 +66,7 @@ private:
     void ReadSheetView(pugi::xml_node view) {
         sheet_.showGridLines = AttributeBool(view, "showGridLines", true);
         sheet_.tabSelected = AttributeBool(view, "tabSelected", false);
+        carried_.sheetViewAttributes = AttributesExcept(view, {"showGridLines", "tabSelected", "workbookViewId"});
         // With frozen or split panes each pane has its own selection; the active pane's counts.
         const pugi::xml_node pane = FirstChild(view, "pane");
         std::string_view activePane = AttributeText(pane, "activePane");
@@ -72,6 +86,27 @@ private:
         const std::string_view activeCell = AttributeText(chosen, "activeCell");
         if (ParseCellReference(activeCell)) {
             sheet_.activeCell = activeCell;
+        }
+        CarryViewChildren(view, chosen, activePane);
+    }
+
+    // The view's pane and children as they were; the chosen selection is written again as it was
+    // while the sheet's active cell stays the one it gave.
+    void CarryViewChildren(pugi::xml_node view, pugi::xml_node chosen, std::string_view activePane) {
+        carried_.activePane = FirstChild(view, "pane") ? activePane : std::string_view();
+        carried_.activeCell = sheet_.activeCell;
+        for (pugi::xml_node child = view.first_child(); child; child = child.next_sibling()) {
+            if (child.type() != pugi::node_element) {
+                continue;
+            }
+            if (LocalName(child) == "pane") {
+                carried_.pane = ElementMarkup(child);
+                continue;
+            }
+            if (child == chosen) {
+                carried_.activeSelection = carried_.viewChildren.size();
+            }
+            carried_.viewChildren.push_back(ElementMarkup(child));
         }
     }
 
@@ -117,6 +152,7 @@ private:
 
     const WorksheetContext& context_;
     SheetDocument& sheet_;
+    CarriedWorksheet& carried_;
 };
 
 }  // namespace
@@ -127,22 +163,32 @@ std::optional<uint32_t> WorksheetContext::FormatIndex(std::string_view text) con
 }
 
 // The cells are read as the scanner passes them; the few small elements that hold the sheet's
-// settings are copied out, and read as a tree once the part has been scanned.
+// settings are copied out, and read as a tree once the part has been scanned. The elements the
+// engine does not model are kept as they are.
 SheetDrawingReferences ReadWorksheet(const XmlByteSource& source, std::string_view partName,
-                                     const WorksheetContext& context, SheetDocument& sheet) {
+                                     const WorksheetContext& context, SheetDocument& sheet, CarriedWorksheet& carried) {
     XmlPullScanner scanner(source, partName);
     std::string settings = "<settings>";
     while (scanner.Next() != XmlPullScanner::Token::StartElement) {
     }
+    carried.worksheet.rootAttributes = AttributesExcept(scanner.Attributes(), {"xmlns", "xmlns:r"});
+    CarriedElementCollector elements(WorksheetElementOrder, carried.worksheet.elements);
     while (scanner.NextChild(1)) {
         const std::string_view name = scanner.LocalName();
         if (name == "sheetData") {
+            elements.Pass(name);
             ReadSheetData(scanner, partName, context, sheet);
-        } else if (std::find(std::begin(SettingElements), std::end(SettingElements), name) !=
-                   std::end(SettingElements)) {
+        } else if (Lists(SettingElements, name)) {
+            elements.Pass(name);
             scanner.CopyElement(settings);
-        } else {
+        } else if (Lists(DerivedElements, name)) {
+            elements.Pass(name);
             scanner.SkipElement();
+        } else {
+            const std::string localName(name);
+            std::string xml;
+            scanner.CopyElement(xml);
+            elements.Carry(localName, std::move(xml));
         }
     }
     while (scanner.Next() != XmlPullScanner::Token::End) {
@@ -150,7 +196,7 @@ SheetDrawingReferences ReadWorksheet(const XmlByteSource& source, std::string_vi
     settings += "</settings>";
     pugi::xml_document document;
     ParseXmlPart(document, settings, partName);
-    return WorksheetSettingsReader(context, sheet).Read(document.document_element());
+    return WorksheetSettingsReader(context, sheet, carried).Read(document.document_element());
 }
 
 }  // namespace ooxml

@@ -24,10 +24,11 @@ struct WorksheetContext {
 };
 
 // Reads a worksheet part into sheet (whose name and state the workbook gives): cells, rows,
-// columns, merges, the first sheet view, print grid lines and the default sizes. The part is read
-// from source as it comes, never held whole. Returns the ids of the relationships to the sheet's
-// drawings, which the package reader follows. Throws PackageError(Corrupt).
+// columns, merges, the first sheet view, print grid lines and the default sizes; what the engine
+// does not model goes to carried. The part is read from source as it comes, never held whole.
+// Returns the ids of the relationships to the sheet's drawings, which the package reader follows.
+// Throws PackageError(Corrupt).
 SheetDrawingReferences ReadWorksheet(const XmlByteSource& source, std::string_view partName,
-                                     const WorksheetContext& context, SheetDocument& sheet);
+                                     const WorksheetContext& context, SheetDocument& sheet, CarriedWorksheet& carried);
 
 }  // namespace ooxml

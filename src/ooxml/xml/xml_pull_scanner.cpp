@@ -240,8 +240,8 @@ void XmlPullScanner::ScanStartTag(std::string_view tag) {
         if (close == std::string_view::npos) {
             ThrowCorrupt("an unterminated attribute value");
         }
-        attributes_.push_back(
-            {LocalPart(inner.substr(start, nameLength)), Decode(inner.substr(quote + 1, close - quote - 1))});
+        const std::string_view name = inner.substr(start, nameLength);
+        attributes_.push_back({name, LocalPart(name), Decode(inner.substr(quote + 1, close - quote - 1))});
         at = close + 1;
     }
     openStarts_.push_back(openNames_.size());

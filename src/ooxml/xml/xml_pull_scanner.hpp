@@ -13,6 +13,7 @@ namespace ooxml {
 using XmlByteSource = std::function<std::size_t(char* buffer, std::size_t size)>;
 
 struct XmlAttribute {
+    std::string_view name;       // as written: "xmlns:x14ac"
     std::string_view localName;  // without its prefix: "x:r" is "r"
     std::string_view value;      // entities decoded, line ends normalised
 };

@@ -20,7 +20,8 @@ std::vector<TextBoxShape> Read(const std::string& anchors) {
     std::string xml = R"(<xdr:wsDr xmlns:xdr="http://schemas.openxmlformats.org/drawingml/2006/spreadsheetDrawing" )"
                       R"(xmlns:a="http://schemas.openxmlformats.org/drawingml/2006/main">)" +
                       anchors + "</xdr:wsDr>";
-    return ReadDrawing(xml, "xl/drawings/drawing1.xml");
+    CarriedMarkup carried;
+    return ReadDrawing(xml, "xl/drawings/drawing1.xml", carried);
 }
 
 const std::string From = "<xdr:from><xdr:col>1</xdr:col><xdr:colOff>0</xdr:colOff><xdr:row>2</xdr:row>"

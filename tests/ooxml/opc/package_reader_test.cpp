@@ -329,12 +329,14 @@ TEST(PackageReaderTest, ReadsTheWorkbookPartSheetsNamesAndProtection) {
     for (const auto& [id, type, target] : std::vector<std::tuple<std::string, std::string, std::string>>{
              {"rId1", "worksheet", "worksheets/sheet1.xml"},
              {"rId2", "chartsheet", "chartsheets/sheet1.xml"},
-             {"rId3", "worksheet", "/xl/worksheets/sheet1.xml"},
-             {"rId4", "worksheet", "worksheets/sheet1.xml"}}) {
+             {"rId3", "worksheet", "/xl/worksheets/sheet2.xml"},
+             {"rId4", "worksheet", "worksheets/sheet3.xml"}}) {
         relationships +=
             "<Relationship Id=\"" + id + "\" Type=\"" + RelationshipType + type + "\" Target=\"" + target + "\"/>";
     }
     parts["xl/_rels/workbook.xml.rels"] = relationships + "</Relationships>";
+    parts["xl/worksheets/sheet2.xml"] = parts["xl/worksheets/sheet3.xml"] = parts["xl/worksheets/sheet1.xml"];
+    parts["xl/chartsheets/sheet1.xml"] = "<chartsheet/>";
     const auto document = Read(parts);
     ASSERT_EQ(document.sheets.size(), 3u);
     EXPECT_EQ(document.sheets[0].name, "Data");
@@ -346,6 +348,49 @@ TEST(PackageReaderTest, ReadsTheWorkbookPartSheetsNamesAndProtection) {
     EXPECT_TRUE(document.lockWindows);
     EXPECT_EQ(document.names, (std::vector<ooxml::DefinedName>{{"_xlnm.Print_Area", "Last!$A$1:$B$2", 2u, false},
                                                                {"Total", "Data!$C$9", std::nullopt, true}}));
+    // The chart sheet is kept in its place, with the name scoped to it.
+    ASSERT_TRUE(document.carried);
+    ASSERT_EQ(document.carried->sheets.size(), 1u);
+    EXPECT_EQ(document.carried->sheets[0].name, "Chart1");
+    EXPECT_EQ(document.carried->sheets[0].position, 1u);
+    EXPECT_EQ(document.carried->sheets[0].relationship.target, "xl/chartsheets/sheet1.xml");
+    ASSERT_EQ(document.carried->sheetNames.size(), 1u);
+    EXPECT_EQ(document.carried->sheetNames[0].name.name, "OnChart");
+    EXPECT_EQ(document.carried->sheetNames[0].carriedSheet, 0u);
+}
+
+// A workbook part whose two sheets have the relationships given, the first one's part present.
+PackageParts TwoSheets(const std::string& secondId, const std::string& relationships) {
+    PackageParts parts = MinimalPackage("<sheetData/>");
+    parts["xl/workbook.xml"] =
+        R"(<workbook xmlns="http://schemas.openxmlformats.org/spreadsheetml/2006/main" xmlns:r="http://schemas.openxmlformats.org/officeDocument/2006/relationships">)"
+        R"(<sheets><sheet name="One" sheetId="1" r:id="rId1"/><sheet name="Two" sheetId="2" r:id=")" +
+        secondId + R"("/></sheets></workbook>)";
+    parts["xl/_rels/workbook.xml.rels"] = std::string(RelationshipsStart) + "<Relationship Id=\"rId1\" Type=\"" +
+                                          RelationshipType + "worksheet\" Target=\"worksheets/sheet1.xml\"/>" +
+                                          relationships + "</Relationships>";
+    return parts;
+}
+
+TEST(PackageReaderTest, ASheetWithoutItsPartIsCorruptNotLeftOut) {
+    const std::string other = std::string("<Relationship Id=\"rId2\" Type=\"") + RelationshipType + "worksheet\" ";
+    // The relationship is missing, leaves the package, leads nowhere, or leads to another sheet's part.
+    EXPECT_EQ(FailureReason(TwoSheets("rId9", "")), PackageError::Reason::Corrupt);
+    EXPECT_EQ(FailureReason(TwoSheets("rId2", other + R"(Target="http://example.com/x.xml" TargetMode="External"/>)")),
+              PackageError::Reason::Corrupt);
+    EXPECT_EQ(FailureReason(TwoSheets("rId2", other + R"(Target="worksheets/sheet9.xml"/>)")),
+              PackageError::Reason::Corrupt);
+    EXPECT_EQ(FailureReason(TwoSheets("rId2", other + R"(Target="worksheets/sheet1.xml"/>)")),
+              PackageError::Reason::Corrupt);
+}
+
+TEST(PackageReaderTest, AMacroModuleSheetWithoutAPartIsKept) {
+    const auto document = Read(TwoSheets("", ""));
+    ASSERT_EQ(document.sheets.size(), 1u);
+    ASSERT_EQ(document.carried->sheets.size(), 1u);
+    EXPECT_EQ(document.carried->sheets[0].name, "Two");
+    EXPECT_EQ(document.carried->sheets[0].position, 1u);
+    EXPECT_TRUE(document.carried->sheets[0].relationship.id.empty());
 }
 
 TEST(PackageReaderTest, ReadsCoreDocumentProperties) {

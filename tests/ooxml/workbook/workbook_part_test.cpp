@@ -30,7 +30,9 @@ WorkbookDocument FormulaInA1(std::optional<double> cachedResult) {
 
 // calcPr's fullCalcOnLoad as the workbook part writes it, "" when left out.
 std::string FullCalculationOnLoad(const WorkbookDocument& document) {
-    const auto xml = ParseXml(WriteToString([&](XmlWriter& writer) { WriteWorkbookPart(writer, document, {"rId1"}); }));
+    const auto xml = ParseXml(WriteToString([&](XmlWriter& writer) {
+        WriteWorkbookPart(writer, document, OrderSheets(document), {"rId1"}, {});
+    }));
     const pugi::xml_node calculation = xml->child("workbook").child("calcPr");
     EXPECT_TRUE(calculation);
     return calculation.attribute("fullCalcOnLoad").value();

@@ -38,6 +38,7 @@ const std::string Sheet =
 struct ReadResult {
     ooxml::SheetDocument sheet;
     std::vector<ooxml::SharedString> strings;
+    ooxml::CarriedWorksheet carried;
 };
 
 ReadResult ReadInPieces(const std::string& xml, std::size_t piece) {
@@ -51,7 +52,7 @@ ReadResult ReadInPieces(const std::string& xml, std::size_t piece) {
             at += count;
             return count;
         },
-        "xl/worksheets/sheet1.xml", context, result.sheet);
+        "xl/worksheets/sheet1.xml", context, result.sheet, result.carried);
     return result;
 }
 

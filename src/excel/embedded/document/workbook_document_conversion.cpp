@@ -167,6 +167,7 @@ ooxml::SheetDocument ConvertSheet(const WorksheetModel& sheet, StringNumbering& 
                                               static_cast<uint32_t>(merge.bottom), static_cast<uint32_t>(merge.right)});
     }
     ConvertShapes(sheet, out);
+    out.carried = sheet.Carried();
     return out;
 }
 
@@ -258,6 +259,7 @@ void LoadSheet(WorksheetModel& sheet, const ooxml::SheetDocument& in, const std:
                                            static_cast<int32_t>(merge.lastColumn)});
     }
     LoadShapes(sheet, in);
+    sheet.SetCarried(in.carried);
 }
 
 }  // namespace
@@ -291,6 +293,7 @@ ooxml::WorkbookDocument ToDocument(const WorkbookModel& book, const std::string&
         }
     }
     std::transform(OfficeThemeColors().begin(), OfficeThemeColors().end(), document.themeColors.begin(), FileRgb);
+    document.carried = book.Carried();
     document.lockStructure = book.ProtectStructure();
     document.lockWindows = book.ProtectWindows();
     document.properties.creator = author;
@@ -344,6 +347,7 @@ void LoadDocument(WorkbookModel& book, const ooxml::WorkbookDocument& document) 
         }
     }
     book.Protect("", document.lockStructure, document.lockWindows);
+    book.SetCarried(document.carried);
 }
 
 }  // namespace excel::embedded

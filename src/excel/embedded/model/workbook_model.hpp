@@ -13,6 +13,10 @@
 #include <string>
 #include <vector>
 
+namespace ooxml {
+struct CarriedWorkbook;
+}  // namespace ooxml
+
 namespace excel::embedded {
 
 class ApplicationModel;
@@ -84,6 +88,12 @@ public:
     void Unprotect(const std::string& password);
     void RefuseWhenStructureProtected() const;
 
+    // What the opened file held that the engine does not model (its theme, pivot caches, links,
+    // macros, chart sheets, ...), kept to be saved again. The engine holds it and never looks
+    // inside: only the document conversion does.
+    const std::shared_ptr<const ooxml::CarriedWorkbook>& Carried() const { return carried_; }
+    void SetCarried(std::shared_ptr<const ooxml::CarriedWorkbook> carried) { carried_ = std::move(carried); }
+
     bool Saved() const { return saved_; }
     void SetSaved(bool saved) { saved_ = saved; }
 
@@ -105,6 +115,7 @@ private:
     bool protectWindows_ = false;
     std::string password_;
     bool saved_ = true;
+    std::shared_ptr<const ooxml::CarriedWorkbook> carried_;
 };
 
 }  // namespace excel::embedded

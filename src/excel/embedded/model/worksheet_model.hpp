@@ -15,6 +15,10 @@
 #include <string>
 #include <vector>
 
+namespace ooxml {
+struct CarriedWorksheet;
+}  // namespace ooxml
+
 namespace excel::embedded {
 
 class WorkbookModel;
@@ -101,6 +105,12 @@ public:
     // Every shift applied so far, oldest first; views replay the ones newer than they are.
     const std::vector<BlockShift>& ShiftsApplied() const { return shiftsApplied_; }
 
+    // What the opened sheet held that the engine does not model (conditional formats, page setup,
+    // tables, pictures, ...), kept to be saved again. The engine holds it and never looks inside:
+    // only the document conversion does.
+    const std::shared_ptr<const ooxml::CarriedWorksheet>& Carried() const { return carried_; }
+    void SetCarried(std::shared_ptr<const ooxml::CarriedWorksheet> carried) { carried_ = std::move(carried); }
+
 private:
     // The format a cell of the row shows when it is not stored: the row's own, else its column's.
     uint32_t formatUnderneath(const RowData& row, int32_t column) const {
@@ -125,6 +135,7 @@ private:
     ShapeList shapes_;
     std::vector<BlockShift> shiftsApplied_;
     RowGeometry rowGeometry_;
+    std::shared_ptr<const ooxml::CarriedWorksheet> carried_;
 };
 
 }  // namespace excel::embedded

@@ -1,0 +1,101 @@
+#pragma once
+
+// What an opened package holds that the engine does not model, kept so that saving the workbook
+// again loses nothing. Parts the engine does not rewrite keep their names, bytes and relationship
+// parts; the parts it rewrites keep the elements it does not read, in their place.
+
+#include "ooxml/document/defined_name.hpp"
+#include "ooxml/document/relationship.hpp"
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace ooxml {
+
+// An attribute kept with its qualified name ("xmlns:x14ac", "mc:Ignorable", "xWindow").
+using CarriedAttribute = std::pair<std::string, std::string>;
+
+// An element of a rewritten part that the engine does not read, as the file wrote it. Its slot is
+// its place among the part's elements: the index of its name in the order the schema gives them,
+// or for an element the schema does not list, the slot of the element before it.
+struct CarriedElement {
+    uint16_t slot = 0;
+    std::string name;  // local
+    std::string xml;
+};
+
+// What a rewritten part keeps of the file's: the root's namespace declarations and other
+// attributes the engine does not write itself, the elements it does not read, and the
+// relationships that those elements (or the parts they lead to) need, under their own ids.
+struct CarriedMarkup {
+    std::vector<CarriedAttribute> rootAttributes;
+    std::vector<CarriedElement> elements;  // in the file's order
+    std::vector<Relationship> relationships;
+
+    bool Empty() const { return rootAttributes.empty() && elements.empty() && relationships.empty(); }
+};
+
+// A part the engine does not rewrite, with its bytes and its relationships part as the file had them.
+struct CarriedPart {
+    std::string contentType;
+    std::string bytes;
+    std::vector<Relationship> relationships;  // read from relationshipsBytes, to follow where they lead
+    std::string relationshipsBytes;           // empty when the part has none
+};
+
+// A sheet that is not a worksheet (a chart sheet, a dialog sheet, a macro sheet), kept whole: its
+// entry in the workbook's sheet list and the relationship to its part.
+struct CarriedSheet {
+    std::string name;
+    std::string state;      // "visible", "hidden", "veryHidden"
+    uint32_t position = 0;  // among all the workbook's sheets when opened
+    Relationship relationship;  // none (an empty id) for a module or dialog kept in the macro project
+};
+
+// A defined name scoped to a carried sheet: the engine does not know that sheet, so neither the name.
+struct CarriedSheetName {
+    DefinedName name;           // its localSheet unset
+    uint32_t carriedSheet = 0;  // index into CarriedWorkbook::sheets
+};
+
+// A worksheet's carried content.
+struct CarriedWorksheet {
+    CarriedMarkup worksheet;
+    // Of the first sheet view: what the engine does not set, its pane when split or frozen, and
+    // its children after the pane (selections, pivot selections, extLst) as the file wrote them.
+    std::vector<CarriedAttribute> sheetViewAttributes;
+    std::string pane;
+    std::vector<std::string> viewChildren;
+    // The selection of the active pane among viewChildren, its pane and the active cell it gave:
+    // written again as it was while the active cell stays.
+    std::optional<std::size_t> activeSelection;
+    std::string activePane;
+    std::string activeCell;
+    std::vector<CarriedAttribute> sheetFormatAttributes;
+    std::vector<CarriedAttribute> printOptionsAttributes;
+    // The anchors of the sheet's drawing that are not text boxes; a slot counts the text boxes below.
+    CarriedMarkup drawing;
+};
+
+// The workbook's carried content: the parts, the package's own relationships, and what the
+// workbook and styles parts hold beyond the model.
+struct CarriedWorkbook {
+    std::string workbookContentType;  // the file's: a template or macro workbook stays one
+    std::map<std::string, CarriedPart> parts;  // by part name
+    std::map<std::string, std::string> defaultContentTypes;  // by lower-case extension, as the file declared them
+    std::vector<Relationship> packageRelationships;
+    CarriedMarkup workbook;
+    std::vector<CarriedAttribute> workbookPrAttributes;
+    std::vector<CarriedAttribute> protectionAttributes;  // password hashes and the like
+    std::vector<CarriedAttribute> bookViewAttributes;
+    std::vector<CarriedAttribute> calcAttributes;
+    std::vector<CarriedSheet> sheets;
+    std::vector<CarriedSheetName> sheetNames;
+    CarriedMarkup styles;
+};
+
+}  // namespace ooxml

@@ -1,0 +1,62 @@
+#include "ooxml/opc/carried_parts_writer.hpp"
+
+namespace ooxml {
+
+CarriedPartsPlan::CarriedPartsPlan(const WorkbookDocument& document,
+                                   const std::vector<Relationship>& workbookRelationships)
+    : carried_(document.carried.get()) {
+    if (carried_ == nullptr) {
+        return;
+    }
+    Follow(carried_->packageRelationships);
+    Follow(workbookRelationships);
+    for (const CarriedSheet& sheet : carried_->sheets) {
+        Follow({sheet.relationship});
+    }
+    for (const SheetDocument& sheet : document.sheets) {
+        if (sheet.carried) {
+            Follow(sheet.carried->worksheet.relationships);
+            Follow(sheet.carried->drawing.relationships);
+        }
+    }
+}
+
+void CarriedPartsPlan::Follow(const std::vector<Relationship>& relationships) {
+    std::vector<const Relationship*> pending;
+    for (const Relationship& relationship : relationships) {
+        pending.push_back(&relationship);
+    }
+    while (!pending.empty()) {
+        const Relationship* relationship = pending.back();
+        pending.pop_back();
+        if (relationship->external) {
+            continue;
+        }
+        const auto part = carried_->parts.find(relationship->target);
+        if (part == carried_->parts.end() || !kept_.insert(part->first).second) {
+            continue;
+        }
+        for (const Relationship& next : part->second.relationships) {
+            pending.push_back(&next);
+        }
+    }
+}
+
+const CarriedPart* CarriedPartsPlan::PartOf(const Relationship& relationship) const {
+    if (relationship.external || kept_.count(relationship.target) == 0) {
+        return nullptr;
+    }
+    return &carried_->parts.at(relationship.target);
+}
+
+std::vector<PackagePart> CarriedPartsPlan::Parts() const {
+    std::vector<PackagePart> parts;
+    for (const std::string& name : kept_) {
+        const CarriedPart& part = carried_->parts.at(name);
+        parts.push_back({name, part.contentType, [&part](XmlWriter& xml) { xml.Raw(part.bytes); }, {},
+                         part.relationshipsBytes});
+    }
+    return parts;
+}
+
+}  // namespace ooxml

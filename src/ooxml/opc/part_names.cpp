@@ -1,0 +1,32 @@
+#include "ooxml/opc/part_names.hpp"
+
+#include <algorithm>
+#include <cctype>
+
+namespace ooxml {
+
+namespace {
+
+std::string Lower(std::string_view name) {
+    std::string lower(name);
+    std::transform(lower.begin(), lower.end(), lower.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return lower;
+}
+
+}  // namespace
+
+void PartNames::Take(std::string_view partName) {
+    taken_.insert(Lower(partName));
+}
+
+std::string PartNames::Next(std::string_view prefix, uint32_t& counter, std::string_view suffix) {
+    for (;;) {
+        std::string name = std::string(prefix) + std::to_string(++counter) + std::string(suffix);
+        if (taken_.insert(Lower(name)).second) {
+            return name;
+        }
+    }
+}
+
+}  // namespace ooxml
