@@ -1,0 +1,115 @@
+// A workbook Excel made, opened and saved again, keeps what the engine does not model, and
+// deleting a sheet takes that sheet's parts with it.
+
+#include "embedded/document/save_open_fixture.hpp"
+#include "ooxml/reader_test_package.hpp"
+
+#include <algorithm>
+#include <string>
+
+using namespace excel;
+
+namespace {
+
+std::string Corpus(const std::string& name) {
+    return std::string(VOS_SHARED_DIR) + "/excel-corpus/" + name;
+}
+
+// Parts the engine writes anew from its model; every other part is the file's own.
+bool Rewritten(const std::string& name) {
+    for (const char* prefix : {"xl/workbook.xml", "xl/worksheets/", "xl/styles.xml", "xl/sharedStrings.xml",
+                               "xl/calcChain.xml", "xl/_rels/workbook.xml.rels", "docProps/core.xml",
+                               "docProps/app.xml", "[Content_Types].xml", "_rels/.rels"}) {
+        if (name.starts_with(prefix)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+class CarriedContentSaveOpenTest : public SaveOpenTest {
+protected:
+    // Opens the corpus workbook and saves it under target in the test's folder.
+    std::shared_ptr<Workbook> OpenCorpus(const std::string& name) {
+        book->Close(false);
+        return app->Workbooks()->Open(Corpus(name));
+    }
+    ooxml_test::PackageParts Saved(const std::shared_ptr<Workbook>& workbook, const std::string& target) {
+        workbook->SaveAs(PathOf(target));
+        return ooxml_test::ReadPackageParts(PathOf(target));
+    }
+};
+
+TEST_F(CarriedContentSaveOpenTest, EveryPartTheEngineDoesNotRewriteIsKeptByteForByte) {
+    for (const char* name : {"realworld-excel/poi__WithChartSheet.xlsx", "realworld-excel/poi__DataTableCities.xlsx",
+                             "realworld-excel/cxml__TTL__LO__xlsx__activex_checkbox.xlsx",
+                             "realworld-excel/calamine__pivots.xlsx"}) {
+        SCOPED_TRACE(name);
+        const ooxml_test::PackageParts input = ooxml_test::ReadPackageParts(Corpus(name));
+        auto workbook = OpenCorpus(name);
+        const ooxml_test::PackageParts output = Saved(workbook, "copy.xlsx");
+        workbook->Close(false);
+        book = app->Workbooks()->Add();
+        for (const auto& [part, bytes] : input) {
+            if (!Rewritten(part) && !part.starts_with("xl/drawings/drawing") &&
+                !part.starts_with("xl/drawings/_rels/drawing")) {
+                SCOPED_TRACE(part);
+                ASSERT_EQ(output.count(part), 1u);
+                EXPECT_TRUE(output.at(part) == bytes);
+            }
+        }
+        EXPECT_EQ(RunTool("validate-xlsx", PathOf("copy.xlsx")), 0);
+        EXPECT_EQ(RunTool("check-xlsx", PathOf("copy.xlsx")), 0);
+    }
+}
+
+TEST_F(CarriedContentSaveOpenTest, FormulasKeepTheirTableReferences) {
+    auto workbook = OpenCorpus("realworld-excel/poi__DataTableCities.xlsx");
+    EXPECT_EQ(workbook->Worksheets("Formula")->Range("A5")->Formula().ToString(), "=BigCity[[#Totals],[Latitude]]");
+    const ooxml_test::PackageParts output = Saved(workbook, "copy.xlsx");
+    EXPECT_NE(output.at("xl/worksheets/sheet1.xml").find("<f>BigCity[[#Totals],[Latitude]]</f>"), std::string::npos);
+    EXPECT_NE(output.at("xl/worksheets/sheet2.xml").find("<f>SUBTOTAL(101,BigCity[Latitude])</f>"), std::string::npos);
+    EXPECT_EQ(output.at("xl/worksheets/sheet1.xml").find("#REF!"), std::string::npos);
+}
+
+TEST_F(CarriedContentSaveOpenTest, ADeletedSheetTakesItsTablesWithIt) {
+    auto workbook = OpenCorpus("realworld-excel/poi__DataTableCities.xlsx");
+    app->SetDisplayAlerts(false);
+    workbook->Worksheets("Table")->Delete();
+    const ooxml_test::PackageParts output = Saved(workbook, "copy.xlsx");
+    EXPECT_EQ(std::count_if(output.begin(), output.end(),
+                            [](const auto& part) { return part.first.starts_with("xl/tables/"); }),
+              0);
+    // The formulas that used the tables lose them, as in Excel.
+    EXPECT_EQ(output.at("xl/worksheets/sheet1.xml").find("BigCity["), std::string::npos);
+    EXPECT_EQ(output.count("xl/pivotTables/pivotTable1.xml"), 1u);
+    EXPECT_EQ(RunTool("validate-xlsx", PathOf("copy.xlsx")), 0);
+    EXPECT_EQ(RunTool("check-xlsx", PathOf("copy.xlsx")), 0);
+}
+
+TEST_F(CarriedContentSaveOpenTest, AMacroWorkbookKeepsItsProjectOnlyWhereItsExtensionAllowsMacros) {
+    const std::string name = "cells-drawings-xlsxwriter/xw__macro01.xlsm";
+    const ooxml_test::PackageParts input = ooxml_test::ReadPackageParts(Corpus(name));
+    auto workbook = OpenCorpus(name);
+    const ooxml_test::PackageParts asMacroWorkbook = Saved(workbook, "copy.xlsm");
+    ASSERT_EQ(asMacroWorkbook.count("xl/vbaProject.bin"), 1u);
+    EXPECT_TRUE(asMacroWorkbook.at("xl/vbaProject.bin") == input.at("xl/vbaProject.bin"));
+    EXPECT_NE(asMacroWorkbook.at("[Content_Types].xml").find("application/vnd.ms-excel.sheet.macroEnabled.main+xml"),
+              std::string::npos);
+    const ooxml_test::PackageParts asWorkbook = Saved(workbook, "copy.xlsx");
+    EXPECT_EQ(asWorkbook.count("xl/vbaProject.bin"), 0u);
+    EXPECT_EQ(asWorkbook.at("[Content_Types].xml").find("macroEnabled"), std::string::npos);
+    EXPECT_EQ(asWorkbook.at("xl/_rels/workbook.xml.rels").find("vbaProject"), std::string::npos);
+    for (const char* target : {"copy.xlsm", "copy.xlsx"}) {
+        EXPECT_EQ(RunTool("validate-xlsx", PathOf(target)), 0) << target;
+        EXPECT_EQ(RunTool("check-xlsx", PathOf(target)), 0) << target;
+    }
+}
+
+TEST_F(CarriedContentSaveOpenTest, ATemplateStaysATemplate) {
+    auto workbook = OpenCorpus("realworld-excel/oxsdk__O12tpl__BalanceSheet_TP10073876.xltx");
+    const ooxml_test::PackageParts output = Saved(workbook, "copy.xltx");
+    EXPECT_NE(output.at("[Content_Types].xml").find("spreadsheetml.template.main+xml"), std::string::npos);
+}
+
+}  // namespace
