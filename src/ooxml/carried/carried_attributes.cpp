@@ -55,4 +55,11 @@ std::string ElementMarkup(pugi::xml_node element) {
     return markup;
 }
 
+std::string DocumentMarkup(const pugi::xml_document& document) {
+    std::string markup;
+    StringWriter writer(markup);
+    document.save(writer, "", pugi::format_raw | pugi::format_no_declaration, pugi::encoding_utf8);
+    return markup;
+}
+
 }  // namespace ooxml

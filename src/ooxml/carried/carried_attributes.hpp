@@ -22,5 +22,7 @@ void WriteCarriedAttributes(XmlWriter& xml, const std::vector<CarriedAttribute>&
 
 // An element of a parsed part as markup, to be written again as it is.
 std::string ElementMarkup(pugi::xml_node element);
+// A parsed part as markup, with the declaration it was parsed with (parse_declaration).
+std::string DocumentMarkup(const pugi::xml_document& document);
 
 }  // namespace ooxml

@@ -11,6 +11,7 @@
 #include "ooxml/document/sheet_document.hpp"
 
 #include <array>
+#include <map>
 #include <memory>
 #include <cstdint>
 #include <optional>
@@ -36,6 +37,9 @@ struct WorkbookDocument {
     DocumentProperties properties;
     // What the opened file held beyond the rest of the document; none for a new workbook.
     std::shared_ptr<const CarriedWorkbook> carried;
+    // Carried parts whose cell references moved with the cells (tables), by part name: written
+    // instead of their carried bytes.
+    std::map<std::string, std::string> movedParts;
 };
 
 }  // namespace ooxml

@@ -4,7 +4,7 @@ namespace ooxml {
 
 CarriedPartsPlan::CarriedPartsPlan(const WorkbookDocument& document,
                                    const std::vector<Relationship>& workbookRelationships)
-    : carried_(document.carried.get()) {
+    : carried_(document.carried.get()), movedParts_(document.movedParts) {
     if (carried_ == nullptr) {
         return;
     }
@@ -53,7 +53,9 @@ std::vector<PackagePart> CarriedPartsPlan::Parts() const {
     std::vector<PackagePart> parts;
     for (const std::string& name : kept_) {
         const CarriedPart& part = carried_->parts.at(name);
-        parts.push_back({name, part.contentType, [&part](XmlWriter& xml) { xml.Raw(part.bytes); }, {},
+        const auto moved = movedParts_.find(name);
+        const std::string& bytes = moved != movedParts_.end() ? moved->second : part.bytes;
+        parts.push_back({name, part.contentType, [&bytes](XmlWriter& xml) { xml.Raw(bytes); }, {},
                          part.relationshipsBytes});
     }
     return parts;

@@ -16,7 +16,7 @@ public:
     // workbookRelationships: those of the carried ones the workbook part keeps.
     CarriedPartsPlan(const WorkbookDocument& document, const std::vector<Relationship>& workbookRelationships);
 
-    // The kept parts, each written with its own bytes and relationship part.
+    // The kept parts, each written with its own bytes (or the document's moved ones) and relationship part.
     std::vector<PackagePart> Parts() const;
     // Whether a kept part has that name.
     bool Keeps(const std::string& partName) const { return kept_.count(partName) != 0; }
@@ -29,6 +29,7 @@ private:
     void Follow(const std::vector<Relationship>& relationships);
 
     const CarriedWorkbook* carried_;
+    const std::map<std::string, std::string>& movedParts_;
     std::set<std::string> kept_;
 };
 

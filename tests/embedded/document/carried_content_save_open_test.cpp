@@ -113,3 +113,42 @@ TEST_F(CarriedContentSaveOpenTest, ATemplateStaysATemplate) {
 }
 
 }  // namespace
+
+namespace {
+
+TEST_F(CarriedContentSaveOpenTest, TablesFollowTheirCellsAndGoWithThem) {
+    auto workbook = OpenCorpus("realworld-excel/poi__DataTableCities.xlsx");
+    auto table = workbook->Worksheets("Table");
+    table->Range("A1")->EntireRow()->Insert();
+    ooxml_test::PackageParts output = Saved(workbook, "inserted.xlsx");
+    EXPECT_NE(output.at("xl/tables/table1.xml").find(R"(ref="C3:F16")"), std::string::npos);
+    EXPECT_NE(output.at("xl/tables/table1.xml").find(R"(<autoFilter ref="C3:F15"/>)"), std::string::npos);
+    EXPECT_NE(output.at("xl/tables/table2.xml").find(R"(ref="I3:L16")"), std::string::npos);
+    EXPECT_EQ(RunTool("validate-xlsx", PathOf("inserted.xlsx")), 0);
+    EXPECT_EQ(RunTool("check-xlsx", PathOf("inserted.xlsx")), 0);
+
+    table->Range("A3:A16")->EntireRow()->Delete();
+    output = Saved(workbook, "deleted.xlsx");
+    EXPECT_EQ(output.count("xl/tables/table1.xml") + output.count("xl/tables/table2.xml"), 0u);
+    EXPECT_EQ(output.at("xl/worksheets/sheet2.xml").find("tablePart"), std::string::npos);
+    EXPECT_EQ(RunTool("validate-xlsx", PathOf("deleted.xlsx")), 0);
+    EXPECT_EQ(RunTool("check-xlsx", PathOf("deleted.xlsx")), 0);
+}
+
+TEST_F(CarriedContentSaveOpenTest, ConditionalFormatsFollowTheirCells) {
+    auto workbook = OpenCorpus("realworld-excel/poi__NewStyleConditionalFormattings.xlsx");
+    auto first = workbook->Worksheets(1);
+    first->Range("A1")->EntireRow()->Insert();
+    first->Range("D1")->EntireColumn()->Delete();
+    const ooxml_test::PackageParts output = Saved(workbook, "moved.xlsx");
+    const std::string& sheetXml = output.at("xl/worksheets/sheet1.xml");
+    EXPECT_NE(sheetXml.find(R"(<conditionalFormatting sqref="C3:C18">)"), std::string::npos);
+    // Column D's format went with the column; E's moved into its place.
+    EXPECT_NE(sheetXml.find(R"(<conditionalFormatting sqref="D3:D18">)"), std::string::npos);
+    EXPECT_EQ(sheetXml.find(R"(<conditionalFormatting sqref="C2:C17">)"), std::string::npos);
+    EXPECT_NE(sheetXml.find("<xm:sqref>D3:D18</xm:sqref>"), std::string::npos);
+    EXPECT_EQ(RunTool("validate-xlsx", PathOf("moved.xlsx")), 0);
+    EXPECT_EQ(RunTool("check-xlsx", PathOf("moved.xlsx")), 0);
+}
+
+}  // namespace

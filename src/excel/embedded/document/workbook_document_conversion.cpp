@@ -10,6 +10,8 @@
 #include "excel/embedded/model/names/defined_name_rules.hpp"
 #include "excel/embedded/text/text_entry.hpp"
 
+#include "ooxml/opc/carried_cell_moves.hpp"
+
 #include <algorithm>
 #include <ctime>
 #include <unordered_map>
@@ -171,6 +173,29 @@ ooxml::SheetDocument ConvertSheet(const WorksheetModel& sheet, StringNumbering& 
     return out;
 }
 
+// What the opened sheet carries follows its cells through every insertion and deletion since it
+// was opened: the carried content is as the file had it, so all of them apply on each save.
+void MoveCarriedCells(const WorksheetModel& sheet, ooxml::WorkbookDocument& document) {
+    const std::vector<BlockShift>& shifts = sheet.ShiftsApplied();
+    if (!sheet.Carried() || shifts.empty()) {
+        return;
+    }
+    const auto move = [&shifts](const ooxml::CellBlock& block) -> std::optional<ooxml::CellBlock> {
+        std::optional<CellBlock> moved =
+            CellBlock{static_cast<int32_t>(block.firstRow), static_cast<int32_t>(block.firstColumn),
+                      static_cast<int32_t>(block.lastRow), static_cast<int32_t>(block.lastColumn)};
+        for (const BlockShift& shift : shifts) {
+            moved = ShiftBlock(*moved, shift);
+            if (!moved) {
+                return std::nullopt;
+            }
+        }
+        return ooxml::CellBlock{static_cast<uint32_t>(moved->top), static_cast<uint32_t>(moved->left),
+                                static_cast<uint32_t>(moved->bottom), static_cast<uint32_t>(moved->right)};
+    };
+    ooxml::MoveCarriedCells(document, document.sheets.back(), move);
+}
+
 // The document's strings as the workbook's StringPool ids, and its texts for error values.
 struct DocumentStrings {
     std::vector<uint32_t> ids;
@@ -270,8 +295,10 @@ ooxml::WorkbookDocument ToDocument(const WorkbookModel& book, const std::string&
     document.formats.resize(formats.size());
     std::transform(formats.begin(), formats.end(), document.formats.begin(), DocumentCellFormat);
     StringNumbering strings(book.Strings(), document.strings);
+    document.carried = book.Carried();
     for (const auto& sheet : book.Sheets()) {
         document.sheets.push_back(ConvertSheet(*sheet, strings));
+        MoveCarriedCells(*sheet, document);
         document.sheets.back().tabSelected = sheet.get() == book.ActiveSheet();
         if (sheet.get() == book.ActiveSheet()) {
             document.activeSheet = static_cast<uint32_t>(document.sheets.size() - 1);
@@ -293,7 +320,6 @@ ooxml::WorkbookDocument ToDocument(const WorkbookModel& book, const std::string&
         }
     }
     std::transform(OfficeThemeColors().begin(), OfficeThemeColors().end(), document.themeColors.begin(), FileRgb);
-    document.carried = book.Carried();
     document.lockStructure = book.ProtectStructure();
     document.lockWindows = book.ProtectWindows();
     document.properties.creator = author;

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "ooxml/document/carried_content.hpp"
+#include "ooxml/document/sheet_document.hpp"
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace ooxml {
+
+// Where a block of a sheet's cells went when cells were inserted or deleted: moved, grown,
+// shrunk, or nothing when all of it was deleted.
+using CellBlockMove = std::function<std::optional<CellBlock>(const CellBlock&)>;
+
+// The sheet's carried content with its cell references moved as the sheet's cells moved: the
+// ranges of conditional formats (also those of the extensions), data validation, hyperlinks, the
+// sheet's filter and sort, ignored errors and protected ranges, and the cells the carried drawing
+// objects are anchored to. A range whose cells were all deleted goes, and so does an element left
+// without ranges. Formulas inside conditional formats and validation rules are not rewritten.
+CarriedWorksheet MoveCarriedReferences(const CarriedWorksheet& carried, const CellBlockMove& move);
+
+// A table part (xl/tables/tableN.xml) with its range, and its filter's and sort's, moved; nothing
+// when the table's cells were all deleted.
+std::optional<std::string> MoveTableReferences(std::string_view tablePart, const CellBlockMove& move);
+
+}  // namespace ooxml
