@@ -147,6 +147,7 @@ WorkbookDocument ReadPackage(const std::string& path) {
         document.names.push_back(std::move(name));
     }
     document.activeSheet = worksheetPosition(workbook.activeTab).value_or(0);
+    document.date1904 = workbook.date1904;
     document.lockStructure = workbook.lockStructure;
     document.lockWindows = workbook.lockWindows;
 

@@ -13,6 +13,15 @@ bool HasFormulas(const WorkbookDocument& document) {
                        [](const SheetDocument& sheet) { return !sheet.formulas.empty(); });
 }
 
+void WriteProperties(XmlWriter& xml, const WorkbookDocument& document) {
+    if (!document.date1904) {
+        return;
+    }
+    xml.StartElement("workbookPr");
+    xml.Attribute("date1904", "1");
+    xml.EndElement();
+}
+
 void WriteProtection(XmlWriter& xml, const WorkbookDocument& document) {
     if (!document.lockStructure && !document.lockWindows) {
         return;
@@ -71,6 +80,7 @@ void WriteWorkbookPart(XmlWriter& xml, const WorkbookDocument& document,
     xml.StartElement("workbook");
     xml.Attribute("xmlns", "http://schemas.openxmlformats.org/spreadsheetml/2006/main");
     xml.Attribute("xmlns:r", "http://schemas.openxmlformats.org/officeDocument/2006/relationships");
+    WriteProperties(xml, document);
     WriteProtection(xml, document);
     xml.StartElement("bookViews");
     xml.StartElement("workbookView");

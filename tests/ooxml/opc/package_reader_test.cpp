@@ -342,10 +342,19 @@ TEST(PackageReaderTest, ReadsTheWorkbookPartSheetsNamesAndProtection) {
     EXPECT_EQ(document.sheets[1].state, "hidden");
     EXPECT_EQ(document.sheets[2].state, "veryHidden");
     EXPECT_EQ(document.activeSheet, 2u);  // the fourth sheet of the part is the third worksheet
+    EXPECT_FALSE(document.date1904);
     EXPECT_TRUE(document.lockStructure);
     EXPECT_TRUE(document.lockWindows);
     EXPECT_EQ(document.names, (std::vector<ooxml::DefinedName>{{"_xlnm.Print_Area", "Last!$A$1:$B$2", 2u, false},
                                                                {"Total", "Data!$C$9", std::nullopt, true}}));
+}
+
+TEST(PackageReaderTest, ReadsThe1904DateSystemOfTheWorkbookPart) {
+    PackageParts parts = MinimalPackage("<sheetData/>");
+    const std::string::size_type sheets = parts["xl/workbook.xml"].find("<sheets>");
+    ASSERT_NE(sheets, std::string::npos);
+    parts["xl/workbook.xml"].insert(sheets, R"(<workbookPr date1904="1"/>)");
+    EXPECT_TRUE(Read(parts).date1904);
 }
 
 TEST(PackageReaderTest, ReadsCoreDocumentProperties) {
