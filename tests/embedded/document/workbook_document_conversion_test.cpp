@@ -83,6 +83,17 @@ TEST(WorkbookDocumentConversion, TheThemeIsSavedWithTheOfficeColours) {
     EXPECT_EQ(saved.themeColors[11], 0x954F72u);  // folHlink
 }
 
+TEST(WorkbookDocumentConversion, TheDateSystemIsLoadedAndSaved) {
+    auto app = std::make_shared<ApplicationModel>();
+    EXPECT_FALSE(ToDocument(*app->AddWorkbook(), "test").date1904);
+    ooxml::WorkbookDocument document = TwoSheetDocument();
+    document.date1904 = true;
+    auto book = std::make_shared<WorkbookModel>(*app, "Dates.xlsx");
+    LoadDocument(*book, document);
+    EXPECT_TRUE(book->Date1904());
+    EXPECT_TRUE(ToDocument(*book, "test").date1904);
+}
+
 TEST(WorkbookDocumentConversion, ColumnSpansLoadAsRunsAndSaveAsOneElementPerRun) {
     ooxml::WorkbookDocument document = TwoSheetDocument();
     ooxml::ColumnRange wide;

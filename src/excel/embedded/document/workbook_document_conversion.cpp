@@ -291,6 +291,7 @@ ooxml::WorkbookDocument ToDocument(const WorkbookModel& book, const std::string&
         }
     }
     std::transform(OfficeThemeColors().begin(), OfficeThemeColors().end(), document.themeColors.begin(), FileRgb);
+    document.date1904 = book.Date1904();
     document.lockStructure = book.ProtectStructure();
     document.lockWindows = book.ProtectWindows();
     document.properties.creator = author;
@@ -343,6 +344,7 @@ void LoadDocument(WorkbookModel& book, const ooxml::WorkbookDocument& document) 
             book.Palette()[i - fixedIndexedColors] = RgbLongFromArgb(*rgb);
         }
     }
+    book.SetDate1904(document.date1904);
     book.Protect("", document.lockStructure, document.lockWindows);
 }
 

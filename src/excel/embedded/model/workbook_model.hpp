@@ -84,6 +84,11 @@ public:
     void Unprotect(const std::string& password);
     void RefuseWhenStructureProtected() const;
 
+    // Whether date serials count from 1904-01-01 (see date_system.hpp). Changing it keeps the
+    // stored serials.
+    bool Date1904() const { return date1904_; }
+    void SetDate1904(bool date1904) { date1904_ = date1904; }
+
     bool Saved() const { return saved_; }
     void SetSaved(bool saved) { saved_ = saved; }
 
@@ -104,6 +109,7 @@ private:
     bool protectStructure_ = false;
     bool protectWindows_ = false;
     std::string password_;
+    bool date1904_ = false;
     bool saved_ = true;
 };
 
