@@ -100,6 +100,7 @@ TEST(WorkbookDocumentConversion, ColumnSpansLoadAsRunsAndSaveAsOneElementPerRun)
     wide.first = 1;
     wide.last = 4;
     wide.width = FileColumnWidth(20.0);
+    wide.customWidth = true;
     ooxml::ColumnRange rest = wide;
     rest.first = 5;
     rest.last = 16384;

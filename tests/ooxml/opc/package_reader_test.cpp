@@ -258,9 +258,9 @@ TEST(PackageReaderTest, ReadsRowsColumnsMergesViewsAndSheetOptions) {
     EXPECT_EQ(sheet.defaultColumnWidth, 12.5);
     EXPECT_EQ(sheet.defaultRowHeight, 18.0);
     ASSERT_EQ(sheet.columns.size(), 3u);
-    EXPECT_EQ(sheet.columns[0], (ooxml::ColumnRange{2, 4, 20.7109375, std::nullopt, false}));
-    EXPECT_EQ(sheet.columns[1], (ooxml::ColumnRange{6, 6, std::nullopt, std::nullopt, true}));
-    EXPECT_EQ(sheet.columns[2], (ooxml::ColumnRange{8, 16384, std::nullopt, 0u, false}));
+    EXPECT_EQ(sheet.columns[0], (ooxml::ColumnRange{2, 4, 20.7109375, std::nullopt, false, true}));
+    EXPECT_EQ(sheet.columns[1], (ooxml::ColumnRange{6, 6, 9.0, std::nullopt, true, false}));
+    EXPECT_EQ(sheet.columns[2], (ooxml::ColumnRange{8, 16384, 9.140625, 0u, false, false}));
     ASSERT_EQ(sheet.rows.size(), 3u);
     EXPECT_EQ(sheet.rows[0].height, 30.0);
     EXPECT_FALSE(sheet.rows[1].height.has_value());  // a height Excel fitted to the content

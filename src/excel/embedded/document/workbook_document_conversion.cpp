@@ -66,6 +66,7 @@ void ConvertColumns(const WorksheetModel& sheet, ooxml::SheetDocument& out) {
         range.last = static_cast<uint32_t>(run.last);
         if (info.HasCustomWidth()) {
             range.width = FileColumnWidth(info.width);
+            range.customWidth = true;
         }
         if (info.format != 0) {
             range.format = info.format;
