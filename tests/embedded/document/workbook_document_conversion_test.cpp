@@ -105,6 +105,7 @@ TEST(WorkbookDocumentConversion, ColumnSpansLoadAsRunsAndSaveAsOneElementPerRun)
     rest.first = 5;
     rest.last = 16384;
     rest.width = FileColumnWidth(8.45);
+    rest.customWidth = false;
     document.sheets[0].columns = {wide, rest};
     auto app = std::make_shared<ApplicationModel>();
     auto book = std::make_shared<WorkbookModel>(*app, "Columns.xlsx");
@@ -118,6 +119,25 @@ TEST(WorkbookDocumentConversion, ColumnSpansLoadAsRunsAndSaveAsOneElementPerRun)
 
     const ooxml::WorkbookDocument saved = ToDocument(*book, "test");
     EXPECT_EQ(saved.sheets[0].columns, document.sheets[0].columns);
+}
+
+TEST(WorkbookDocumentConversion, WidthsOfAFileAreKeptAsTheFileGaveThem) {
+    ooxml::WorkbookDocument document = TwoSheetDocument();
+    document.sheets[0].defaultColumnWidth = 11.0;  // 10.29 characters, 77 px
+    document.sheets[0].columns = {{1, 2, 7.125, std::nullopt, false, true}, {3, 3, 12.5, std::nullopt, false, false}};
+    auto app = std::make_shared<ApplicationModel>();
+    auto book = std::make_shared<WorkbookModel>(*app, "Widths.xlsx");
+    LoadDocument(*book, document);
+    const WorksheetModel& sheet = *book->Sheets()[0];
+    EXPECT_DOUBLE_EQ(sheet.Settings().standardWidth, 10.29);
+    EXPECT_DOUBLE_EQ(sheet.ColumnWidthChars(1), 6.43);
+    EXPECT_DOUBLE_EQ(sheet.ColumnWidthChars(3), 11.71);
+    EXPECT_DOUBLE_EQ(sheet.ColumnWidthChars(4), 10.29);
+
+    const ooxml::WorkbookDocument saved = ToDocument(*book, "test");
+    EXPECT_EQ(saved.sheets[0].defaultColumnWidth, 11.0);
+    EXPECT_EQ(saved.sheets[0].columns, document.sheets[0].columns);
+    EXPECT_FALSE(saved.sheets[1].defaultColumnWidth.has_value());  // the standard width is not written
 }
 
 }  // namespace

@@ -64,14 +64,14 @@ void ConvertColumns(const WorksheetModel& sheet, ooxml::SheetDocument& out) {
         ooxml::ColumnRange range;
         range.first = static_cast<uint32_t>(run.first);
         range.last = static_cast<uint32_t>(run.last);
-        if (info.HasCustomWidth()) {
-            range.width = FileColumnWidth(info.width);
-            range.customWidth = true;
+        if (info.HasWidth()) {
+            range.width = info.fileWidth >= 0.0 ? info.fileWidth : FileColumnWidth(info.width);
+            range.customWidth = info.customWidth;
         }
         if (info.format != 0) {
             range.format = info.format;
         }
-        range.hidden = info.hidden || (info.HasCustomWidth() && info.width == 0.0);
+        range.hidden = info.hidden || (info.HasWidth() && info.width == 0.0);
         out.columns.push_back(range);
     }
 }
@@ -130,6 +130,11 @@ ooxml::SheetDocument ConvertSheet(const WorksheetModel& sheet, StringNumbering& 
     out.showPageBreaks = settings.showPageBreaks;
     out.defaultRowHeight = settings.defaultRowHeight;
     out.activeCell = settings.activeCell;
+    if (settings.fileStandardWidth) {
+        out.defaultColumnWidth = settings.fileStandardWidth;
+    } else if (settings.standardWidth != StandardColumnWidth) {
+        out.defaultColumnWidth = FileColumnWidth(settings.standardWidth);
+    }
     ConvertColumns(sheet, out);
     out.rows.reserve(sheet.Cells().Rows().size());
     for (const RowData& row : sheet.Cells().Rows()) {
@@ -221,6 +226,10 @@ void LoadSheet(WorksheetModel& sheet, const ooxml::SheetDocument& in, const std:
     settings.printGridlines = in.printGridLines;
     settings.showPageBreaks = in.showPageBreaks;
     settings.defaultRowHeight = in.defaultRowHeight;
+    if (in.defaultColumnWidth) {
+        settings.standardWidth = ColumnWidthFromFile(*in.defaultColumnWidth);
+        settings.fileStandardWidth = in.defaultColumnWidth;
+    }
     settings.activeCell = in.activeCell;
     auto formatId = [&](uint32_t index) { return index < formatIds.size() ? formatIds[index] : 0u; };
     for (const ooxml::ColumnRange& range : in.columns) {
@@ -228,6 +237,8 @@ void LoadSheet(WorksheetModel& sheet, const ooxml::SheetDocument& in, const std:
         sheet.Columns().Update(static_cast<int32_t>(range.first), last, [&](ColumnInfo& info) {
             if (range.width) {
                 info.width = ColumnWidthFromFile(*range.width);
+                info.fileWidth = *range.width;
+                info.customWidth = range.customWidth;
             }
             info.format = range.format ? formatId(*range.format) : 0;
             info.hidden = range.hidden;
