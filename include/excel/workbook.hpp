@@ -35,6 +35,10 @@ public:
     virtual void Unprotect(const Variant& password = {}) = 0;
     virtual bool ProtectStructure() = 0;
     virtual bool ProtectWindows() = 0;
+    // Whether dates count from 1904-01-01 instead of 1900-01-01. Setting it keeps the numbers the
+    // cells store, so the dates they show move by 1,462 days.
+    virtual bool Date1904() = 0;
+    virtual void SetDate1904(bool date1904) = 0;
     virtual bool ReadOnly() = 0;
     virtual bool Saved() = 0;
 

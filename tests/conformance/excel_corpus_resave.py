@@ -1,7 +1,8 @@
 """Resaves workbooks that Excel made through the engine and checks every result: schema validation
 (validate-xlsx, no FAIL), logical consistency (check-xlsx, no ERROR) and, read back with openpyxl,
 the same worksheet names, cell values, formula results, defined names, print areas and print titles
-as the original.
+as the original; read from the XML, the same date system, default column widths and column widths
+(and whether each was custom).
 
 The workbooks are the EXCEL-classified .xlsx files of one folder of the Excel corpus, as its
 INDEX.md lists them; --every N takes every N-th of them in name order. Content the engine does not
@@ -26,6 +27,7 @@ import xml.etree.ElementTree as ElementTree
 import openpyxl
 
 MAIN_NS = "{http://schemas.openxmlformats.org/spreadsheetml/2006/main}"
+RELATIONSHIP_ID = "{http://schemas.openxmlformats.org/officeDocument/2006/relationships}id"
 INDEX_FOLDER = re.compile(r"^### (\S+)/")
 INDEX_ENTRY = re.compile(r"^\* `([^`]+)` \| \d+ \| [^|]* \| (\S+) \|")
 # References the saved package cannot resolve, as neither links to other workbooks nor tables are
@@ -181,6 +183,62 @@ def content_differences(original_path, resaved_path):
     return differences
 
 
+def worksheet_part_names(package):
+    """Worksheet title -> its part name, through the workbook's relationships."""
+    workbook = ElementTree.fromstring(package.read("xl/workbook.xml"))
+    relationships = ElementTree.fromstring(package.read("xl/_rels/workbook.xml.rels"))
+    targets = {element.get("Id"): element.get("Target", "") for element in relationships}
+    parts = {}
+    for sheet in workbook.iter(MAIN_NS + "sheet"):
+        target = targets.get(sheet.get(RELATIONSHIP_ID), "")
+        part = target.lstrip("/") if target.startswith("/") else os.path.normpath("xl/" + target)
+        if part in package.namelist() and "worksheets/" in part:
+            parts[sheet.get("name")] = part
+    return parts
+
+
+def column_widths(package, part):
+    """A worksheet's default column width and, per column, its width and whether it is custom."""
+    root = ElementTree.fromstring(package.read(part))
+    sheet_format = root.find(MAIN_NS + "sheetFormatPr")
+    default = sheet_format.get("defaultColWidth") if sheet_format is not None else None
+    widths = {}
+    for column in root.iter(MAIN_NS + "col"):
+        if column.get("width") is None:
+            continue
+        width = (float(column.get("width")), column.get("customWidth") in ("1", "true"))
+        for index in range(int(column.get("min")), min(int(column.get("max")), 16384) + 1):
+            widths[index] = width
+    return (float(default) if default else None), widths
+
+
+def package_settings(path):
+    """The date system, and per worksheet its column widths, as the XML states them."""
+    with zipfile.ZipFile(path) as package:
+        workbook = ElementTree.fromstring(package.read("xl/workbook.xml"))
+        properties = workbook.find(MAIN_NS + "workbookPr")
+        date1904 = properties is not None and properties.get("date1904") in ("1", "true")
+        sheets = {title: column_widths(package, part) for title, part in worksheet_part_names(package).items()}
+    return date1904, sheets
+
+
+def settings_differences(original_path, resaved_path):
+    original_1904, original_sheets = package_settings(original_path)
+    resaved_1904, resaved_sheets = package_settings(resaved_path)
+    differences = []
+    if original_1904 != resaved_1904:
+        differences.append(f"date1904 {original_1904} became {resaved_1904}")
+    for title, (default, widths) in original_sheets.items():
+        resaved_default, resaved_widths = resaved_sheets.get(title, (None, {}))
+        if default != resaved_default:
+            differences.append(f"{title}: defaultColWidth {default} became {resaved_default}")
+        changed = [index for index, width in widths.items() if resaved_widths.get(index) != width]
+        if changed:
+            differences.append(f"{title}: {len(changed)} column widths changed, the first column {changed[0]}: "
+                               f"(width, custom) {widths[changed[0]]} became {resaved_widths.get(changed[0])}")
+    return differences
+
+
 def worksheet_element_kinds(package, part):
     root = ElementTree.fromstring(package.read(part))
     return {"worksheet <" + child.tag.split("}")[-1] + ">" for child in root}
@@ -243,6 +301,7 @@ def main():
     for source, target in resaved.items():
         problems[source] += schema.get(target, []) + consistency.get(target, [])
         problems[source] += content_differences(source, target)
+        problems[source] += settings_differences(source, target)
         for kind in content_kinds(source) - content_kinds(target):
             dropped[kind] += 1
         if any(refers_to_unresolvable(formula or "") for formula in defined_name_formulas(source)):

@@ -137,8 +137,8 @@ WorkbookDocument FullDocument() {
     data.tabSelected = true;
     data.activeCell = "B2";
     data.defaultColumnWidth = 10.7109375;
-    data.columns.push_back(ColumnRange{1, 1, 20.7109375, std::nullopt, false});
-    data.columns.push_back(ColumnRange{2, 4, 12.5, 2u, false});
+    data.columns.push_back(ColumnRange{1, 1, 20.7109375, std::nullopt, false, true});
+    data.columns.push_back(ColumnRange{2, 4, 12.5, 2u, false, true});
     data.columns.push_back(ColumnRange{5, 5, std::nullopt, std::nullopt, true});
     data.columns.push_back(ColumnRange{6, 6, std::nullopt, 1u, false});
     data.formulas = {"SUM(A1:A3)", "A4&\"!\"", "A1>0", "1/0", "NA()"};

@@ -43,9 +43,10 @@ struct Row {
 struct ColumnRange {
     uint32_t first = 1;  // 1-based, inclusive
     uint32_t last = 1;
-    std::optional<double> width;  // characters; set = custom width
+    std::optional<double> width;  // characters, padding included; none = the sheet's default width
     std::optional<uint32_t> format;
     bool hidden = false;
+    bool customWidth = false;  // the width was set rather than fitted or taken from the default
 
     friend bool operator==(const ColumnRange&, const ColumnRange&) = default;
 };
@@ -63,7 +64,7 @@ struct SheetDocument {
     bool printGridLines = false;
     bool tabSelected = false;
     bool showPageBreaks = false;  // the view shows automatic page breaks
-    std::optional<double> defaultColumnWidth;  // characters, when the sheet's standard width changed
+    std::optional<double> defaultColumnWidth;  // characters, padding included, when the sheet gives one
     double defaultRowHeight = 15.0;
     std::string activeCell = "A1";
     std::vector<ColumnRange> columns;  // ascending, not overlapping

@@ -32,6 +32,7 @@ struct WorkbookDocument {
     // accent1..accent6, hlink, folHlink.
     std::array<uint32_t, 12> themeColors{};
     uint32_t activeSheet = 0;       // 0-based
+    bool date1904 = false;          // serial 0 is 1904-01-01 (else serial 1 is 1900-01-01)
     bool lockStructure = false;
     bool lockWindows = false;
     DocumentProperties properties;

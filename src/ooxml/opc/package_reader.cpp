@@ -106,6 +106,7 @@ public:
         document_.activeSheet =
             (workbook.activeTab < worksheetPositions.size() ? worksheetPositions[workbook.activeTab] : std::nullopt)
                 .value_or(0);
+        document_.date1904 = workbook.date1904;
         document_.lockStructure = workbook.lockStructure;
         document_.lockWindows = workbook.lockWindows;
 

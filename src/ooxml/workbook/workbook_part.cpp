@@ -64,10 +64,13 @@ private:
 
     void WriteProperties() {
         const std::vector<CarriedAttribute>& attributes = Carried(&CarriedWorkbook::workbookPrAttributes);
-        if (attributes.empty()) {
+        if (!document_.date1904 && attributes.empty()) {
             return;
         }
         xml_.StartElement("workbookPr");
+        if (document_.date1904) {
+            xml_.Attribute("date1904", "1");
+        }
         WriteCarriedAttributes(xml_, attributes);
         xml_.EndElement();
     }

@@ -41,6 +41,7 @@ WorkbookPart ReadWorkbook(std::string& xml, std::string_view partName, CarriedWo
     ParseXmlPart(document, xml, partName);
     const pugi::xml_node workbook = document.document_element();
     WorkbookPart part;
+    part.date1904 = AttributeBool(FirstChild(workbook, "workbookPr"), "date1904", false);
     ForEachChild(FirstChild(workbook, "sheets"), "sheet",
                  [&](pugi::xml_node sheet) { part.sheets.push_back(ReadSheetEntry(sheet)); });
     ForEachChild(FirstChild(workbook, "definedNames"), "definedName",

@@ -20,6 +20,7 @@ struct WorkbookPart {
     std::vector<SheetEntry> sheets;  // worksheets and the other kinds, in the workbook's order
     std::vector<DefinedName> names;  // localSheet counts positions in sheets
     uint32_t activeTab = 0;          // a position in sheets
+    bool date1904 = false;
     bool lockStructure = false;
     bool lockWindows = false;
 };

@@ -221,7 +221,7 @@ private:
             if (range.hidden) {
                 xml_.Attribute("hidden", "1");
             }
-            if (range.width) {
+            if (range.width && range.customWidth) {
                 xml_.Attribute("customWidth", "1");
             }
             xml_.EndElement();

@@ -121,10 +121,10 @@ private:
         range.last = std::min(*last, MaxColumnIndex);
         range.format = context_.FormatIndex(AttributeText(col, "style"));
         range.hidden = AttributeBool(col, "hidden", false);
-        // A width counts when marked custom, or when it is all the element says.
-        const std::optional<double> width = AttributeDouble(col, "width");
-        if (width && (AttributeBool(col, "customWidth", false) || (!range.format && !range.hidden))) {
+        // A width is the column's width whether or not it is marked custom; the mark is kept apart.
+        if (const std::optional<double> width = AttributeDouble(col, "width")) {
             range.width = std::clamp(*width, 0.0, MaxColumnWidth);
+            range.customWidth = AttributeBool(col, "customWidth", false);
         }
         if (range.width || range.format || range.hidden) {
             sheet_.columns.push_back(range);

@@ -83,16 +83,29 @@ TEST(WorkbookDocumentConversion, TheThemeIsSavedWithTheOfficeColours) {
     EXPECT_EQ(saved.themeColors[11], 0x954F72u);  // folHlink
 }
 
+TEST(WorkbookDocumentConversion, TheDateSystemIsLoadedAndSaved) {
+    auto app = std::make_shared<ApplicationModel>();
+    EXPECT_FALSE(ToDocument(*app->AddWorkbook(), "test").date1904);
+    ooxml::WorkbookDocument document = TwoSheetDocument();
+    document.date1904 = true;
+    auto book = std::make_shared<WorkbookModel>(*app, "Dates.xlsx");
+    LoadDocument(*book, document);
+    EXPECT_TRUE(book->Date1904());
+    EXPECT_TRUE(ToDocument(*book, "test").date1904);
+}
+
 TEST(WorkbookDocumentConversion, ColumnSpansLoadAsRunsAndSaveAsOneElementPerRun) {
     ooxml::WorkbookDocument document = TwoSheetDocument();
     ooxml::ColumnRange wide;
     wide.first = 1;
     wide.last = 4;
     wide.width = FileColumnWidth(20.0);
+    wide.customWidth = true;
     ooxml::ColumnRange rest = wide;
     rest.first = 5;
     rest.last = 16384;
     rest.width = FileColumnWidth(8.45);
+    rest.customWidth = false;
     document.sheets[0].columns = {wide, rest};
     auto app = std::make_shared<ApplicationModel>();
     auto book = std::make_shared<WorkbookModel>(*app, "Columns.xlsx");
@@ -106,6 +119,25 @@ TEST(WorkbookDocumentConversion, ColumnSpansLoadAsRunsAndSaveAsOneElementPerRun)
 
     const ooxml::WorkbookDocument saved = ToDocument(*book, "test");
     EXPECT_EQ(saved.sheets[0].columns, document.sheets[0].columns);
+}
+
+TEST(WorkbookDocumentConversion, WidthsOfAFileAreKeptAsTheFileGaveThem) {
+    ooxml::WorkbookDocument document = TwoSheetDocument();
+    document.sheets[0].defaultColumnWidth = 11.0;  // 10.29 characters, 77 px
+    document.sheets[0].columns = {{1, 2, 7.125, std::nullopt, false, true}, {3, 3, 12.5, std::nullopt, false, false}};
+    auto app = std::make_shared<ApplicationModel>();
+    auto book = std::make_shared<WorkbookModel>(*app, "Widths.xlsx");
+    LoadDocument(*book, document);
+    const WorksheetModel& sheet = *book->Sheets()[0];
+    EXPECT_DOUBLE_EQ(sheet.Settings().standardWidth, 10.29);
+    EXPECT_DOUBLE_EQ(sheet.ColumnWidthChars(1), 6.43);
+    EXPECT_DOUBLE_EQ(sheet.ColumnWidthChars(3), 11.71);
+    EXPECT_DOUBLE_EQ(sheet.ColumnWidthChars(4), 10.29);
+
+    const ooxml::WorkbookDocument saved = ToDocument(*book, "test");
+    EXPECT_EQ(saved.sheets[0].defaultColumnWidth, 11.0);
+    EXPECT_EQ(saved.sheets[0].columns, document.sheets[0].columns);
+    EXPECT_FALSE(saved.sheets[1].defaultColumnWidth.has_value());  // the standard width is not written
 }
 
 }  // namespace

@@ -86,11 +86,11 @@ TEST(ExcelCorpusReaderTest, PrintAreasAreSheetLevelNames) {
 TEST(ExcelCorpusReaderTest, ColumnWidthsUpToTheLastColumn) {
     const auto document = ReadCorpus("cells-drawings-xlsxwriter/xw__set_column09.xlsx");
     const ooxml::SheetDocument& sheet = document.sheets.at(0);
-    EXPECT_EQ(sheet.columns, (std::vector<ooxml::ColumnRange>{{1, 1, 10.7109375, std::nullopt, false},
-                                                              {3, 4, 12.7109375, std::nullopt, false},
-                                                              {6, 8, 8.7109375, std::nullopt, false},
-                                                              {702, 702, 3.7109375, std::nullopt, false},
-                                                              {16384, 16384, 5.7109375, std::nullopt, false}}));
+    EXPECT_EQ(sheet.columns, (std::vector<ooxml::ColumnRange>{{1, 1, 10.7109375, std::nullopt, false, true},
+                                                              {3, 4, 12.7109375, std::nullopt, false, true},
+                                                              {6, 8, 8.7109375, std::nullopt, false, true},
+                                                              {702, 702, 3.7109375, std::nullopt, false, true},
+                                                              {16384, 16384, 5.7109375, std::nullopt, false, true}}));
     EXPECT_FALSE(sheet.defaultColumnWidth.has_value());
     EXPECT_EQ(sheet.defaultRowHeight, 15.0);
 }
@@ -147,7 +147,7 @@ TEST(ExcelCorpusReaderTest, RealWorldWorkbookWithStylesMergesAndProperties) {
     EXPECT_TRUE(sheet.tabSelected);
     EXPECT_EQ(sheet.merges, (std::vector<ooxml::CellBlock>{{6, 7, 6, 11}}));
     ASSERT_GE(sheet.columns.size(), 4u);
-    EXPECT_EQ(sheet.columns[0], (ooxml::ColumnRange{1, 1, 16.0, std::nullopt, false}));
+    EXPECT_EQ(sheet.columns[0], (ooxml::ColumnRange{1, 1, 16.0, std::nullopt, false, true}));
     EXPECT_EQ(sheet.columns[1].width, 16.625);
     EXPECT_EQ(sheet.columns[2].first, 3u);
     EXPECT_EQ(sheet.columns[2].last, 4u);

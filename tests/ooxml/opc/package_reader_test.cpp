@@ -258,9 +258,9 @@ TEST(PackageReaderTest, ReadsRowsColumnsMergesViewsAndSheetOptions) {
     EXPECT_EQ(sheet.defaultColumnWidth, 12.5);
     EXPECT_EQ(sheet.defaultRowHeight, 18.0);
     ASSERT_EQ(sheet.columns.size(), 3u);
-    EXPECT_EQ(sheet.columns[0], (ooxml::ColumnRange{2, 4, 20.7109375, std::nullopt, false}));
-    EXPECT_EQ(sheet.columns[1], (ooxml::ColumnRange{6, 6, std::nullopt, std::nullopt, true}));
-    EXPECT_EQ(sheet.columns[2], (ooxml::ColumnRange{8, 16384, std::nullopt, 0u, false}));
+    EXPECT_EQ(sheet.columns[0], (ooxml::ColumnRange{2, 4, 20.7109375, std::nullopt, false, true}));
+    EXPECT_EQ(sheet.columns[1], (ooxml::ColumnRange{6, 6, 9.0, std::nullopt, true, false}));
+    EXPECT_EQ(sheet.columns[2], (ooxml::ColumnRange{8, 16384, 9.140625, 0u, false, false}));
     ASSERT_EQ(sheet.rows.size(), 3u);
     EXPECT_EQ(sheet.rows[0].height, 30.0);
     EXPECT_FALSE(sheet.rows[1].height.has_value());  // a height Excel fitted to the content
@@ -344,6 +344,7 @@ TEST(PackageReaderTest, ReadsTheWorkbookPartSheetsNamesAndProtection) {
     EXPECT_EQ(document.sheets[1].state, "hidden");
     EXPECT_EQ(document.sheets[2].state, "veryHidden");
     EXPECT_EQ(document.activeSheet, 2u);  // the fourth sheet of the part is the third worksheet
+    EXPECT_FALSE(document.date1904);
     EXPECT_TRUE(document.lockStructure);
     EXPECT_TRUE(document.lockWindows);
     EXPECT_EQ(document.names, (std::vector<ooxml::DefinedName>{{"_xlnm.Print_Area", "Last!$A$1:$B$2", 2u, false},
@@ -391,6 +392,14 @@ TEST(PackageReaderTest, AMacroModuleSheetWithoutAPartIsKept) {
     EXPECT_EQ(document.carried->sheets[0].name, "Two");
     EXPECT_EQ(document.carried->sheets[0].position, 1u);
     EXPECT_TRUE(document.carried->sheets[0].relationship.id.empty());
+}
+
+TEST(PackageReaderTest, ReadsThe1904DateSystemOfTheWorkbookPart) {
+    PackageParts parts = MinimalPackage("<sheetData/>");
+    const std::string::size_type sheets = parts["xl/workbook.xml"].find("<sheets>");
+    ASSERT_NE(sheets, std::string::npos);
+    parts["xl/workbook.xml"].insert(sheets, R"(<workbookPr date1904="1"/>)");
+    EXPECT_TRUE(Read(parts).date1904);
 }
 
 TEST(PackageReaderTest, ReadsCoreDocumentProperties) {

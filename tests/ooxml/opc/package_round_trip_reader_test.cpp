@@ -75,9 +75,9 @@ ooxml::WorkbookDocument RichDocument() {
     data.defaultColumnWidth = 12.5;
     data.defaultRowHeight = 18.0;
     data.activeCell = "C4";
-    data.columns = {{1, 1, 30.7109375, std::nullopt, false},
+    data.columns = {{1, 1, 30.7109375, std::nullopt, false, true},
                     {2, 4, std::nullopt, 2u, false},
-                    {5, 5, 0.0, std::nullopt, true},
+                    {5, 5, 0.0, std::nullopt, true, true},
                     {7, 16384, 4.5, 4u, false}};
     data.formulas = {"SUM(B2:B3)", "\"a\"&\"b\"", "B2>0", "1/0", "A1:A2 A2"};
     data.rows.push_back({1,
@@ -146,7 +146,10 @@ void ExpectSameSheet(const ooxml::WorkbookDocument& expectedBook, const ooxml::S
         const ooxml::ColumnRange& got = actual.columns[i];
         EXPECT_EQ(got.first, want.first);
         EXPECT_EQ(got.last, want.last);
-        EXPECT_EQ(got.width, want.width) << "columns " << want.first << ":" << want.last;
+        // A range without a width is written with the sheet's default width, which reads back as its width.
+        EXPECT_EQ(got.width, want.width ? want.width : expected.defaultColumnWidth)
+            << "columns " << want.first << ":" << want.last;
+        EXPECT_EQ(got.customWidth, want.customWidth) << "columns " << want.first << ":" << want.last;
         EXPECT_EQ(got.hidden, want.hidden);
         ASSERT_EQ(got.format.has_value(), want.format.has_value());
         if (want.format) {

@@ -77,6 +77,22 @@ TEST(WorksheetPart, ColumnsWithoutWidthGetTheStandardWidth) {
     EXPECT_EQ(col.attribute("max").as_int(), 16384);
 }
 
+TEST(WorksheetPart, WidthsAreWrittenAsGivenAndMarkedCustomOnlyWhenTheyAre) {
+    WorkbookDocument document = OneSheet({});
+    document.formats.push_back(CellFormat{});
+    document.sheets[0].defaultColumnWidth = 11.5;
+    document.sheets[0].columns = {ColumnRange{1, 1, 26.109375, std::nullopt, false, true},
+                                  ColumnRange{2, 16384, 10.83203125, 1u, false, false}};
+    auto xml = ParseXml(Write(document));
+    EXPECT_DOUBLE_EQ(xml->child("worksheet").child("sheetFormatPr").attribute("defaultColWidth").as_double(), 11.5);
+    const pugi::xml_node custom = xml->child("worksheet").child("cols").child("col");
+    EXPECT_DOUBLE_EQ(custom.attribute("width").as_double(), 26.109375);
+    EXPECT_STREQ(custom.attribute("customWidth").value(), "1");
+    const pugi::xml_node fitted = custom.next_sibling("col");
+    EXPECT_DOUBLE_EQ(fitted.attribute("width").as_double(), 10.83203125);
+    EXPECT_FALSE(fitted.attribute("customWidth"));
+}
+
 TEST(WorksheetPart, ElementsFollowTheSchemaOrder) {
     WorkbookDocument document = OneSheet({Row{1, {}, {}, false, {Number(1, 1)}}});
     document.sheets[0].columns = {ColumnRange{1, 1, 5.0, std::nullopt, false}};

@@ -66,13 +66,14 @@ void ConvertColumns(const WorksheetModel& sheet, ooxml::SheetDocument& out) {
         ooxml::ColumnRange range;
         range.first = static_cast<uint32_t>(run.first);
         range.last = static_cast<uint32_t>(run.last);
-        if (info.HasCustomWidth()) {
-            range.width = FileColumnWidth(info.width);
+        if (info.HasWidth()) {
+            range.width = info.fileWidth >= 0.0 ? info.fileWidth : FileColumnWidth(info.width);
+            range.customWidth = info.customWidth;
         }
         if (info.format != 0) {
             range.format = info.format;
         }
-        range.hidden = info.hidden || (info.HasCustomWidth() && info.width == 0.0);
+        range.hidden = info.hidden || (info.HasWidth() && info.width == 0.0);
         out.columns.push_back(range);
     }
 }
@@ -131,6 +132,11 @@ ooxml::SheetDocument ConvertSheet(const WorksheetModel& sheet, StringNumbering& 
     out.showPageBreaks = settings.showPageBreaks;
     out.defaultRowHeight = settings.defaultRowHeight;
     out.activeCell = settings.activeCell;
+    if (settings.fileStandardWidth) {
+        out.defaultColumnWidth = settings.fileStandardWidth;
+    } else if (settings.standardWidth != StandardColumnWidth) {
+        out.defaultColumnWidth = FileColumnWidth(settings.standardWidth);
+    }
     ConvertColumns(sheet, out);
     out.rows.reserve(sheet.Cells().Rows().size());
     for (const RowData& row : sheet.Cells().Rows()) {
@@ -246,6 +252,10 @@ void LoadSheet(WorksheetModel& sheet, const ooxml::SheetDocument& in, const std:
     settings.printGridlines = in.printGridLines;
     settings.showPageBreaks = in.showPageBreaks;
     settings.defaultRowHeight = in.defaultRowHeight;
+    if (in.defaultColumnWidth) {
+        settings.standardWidth = ColumnWidthFromFile(*in.defaultColumnWidth);
+        settings.fileStandardWidth = in.defaultColumnWidth;
+    }
     settings.activeCell = in.activeCell;
     auto formatId = [&](uint32_t index) { return index < formatIds.size() ? formatIds[index] : 0u; };
     for (const ooxml::ColumnRange& range : in.columns) {
@@ -253,6 +263,8 @@ void LoadSheet(WorksheetModel& sheet, const ooxml::SheetDocument& in, const std:
         sheet.Columns().Update(static_cast<int32_t>(range.first), last, [&](ColumnInfo& info) {
             if (range.width) {
                 info.width = ColumnWidthFromFile(*range.width);
+                info.fileWidth = *range.width;
+                info.customWidth = range.customWidth;
             }
             info.format = range.format ? formatId(*range.format) : 0;
             info.hidden = range.hidden;
@@ -320,6 +332,7 @@ ooxml::WorkbookDocument ToDocument(const WorkbookModel& book, const std::string&
         }
     }
     std::transform(OfficeThemeColors().begin(), OfficeThemeColors().end(), document.themeColors.begin(), FileRgb);
+    document.date1904 = book.Date1904();
     document.lockStructure = book.ProtectStructure();
     document.lockWindows = book.ProtectWindows();
     document.properties.creator = author;
@@ -372,6 +385,7 @@ void LoadDocument(WorkbookModel& book, const ooxml::WorkbookDocument& document) 
             book.Palette()[i - fixedIndexedColors] = RgbLongFromArgb(*rgb);
         }
     }
+    book.SetDate1904(document.date1904);
     book.Protect("", document.lockStructure, document.lockWindows);
     book.SetCarried(document.carried);
 }

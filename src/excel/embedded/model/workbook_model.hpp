@@ -94,6 +94,11 @@ public:
     const std::shared_ptr<const ooxml::CarriedWorkbook>& Carried() const { return carried_; }
     void SetCarried(std::shared_ptr<const ooxml::CarriedWorkbook> carried) { carried_ = std::move(carried); }
 
+    // Whether date serials count from 1904-01-01 (see date_system.hpp). Changing it keeps the
+    // stored serials.
+    bool Date1904() const { return date1904_; }
+    void SetDate1904(bool date1904) { date1904_ = date1904; }
+
     bool Saved() const { return saved_; }
     void SetSaved(bool saved) { saved_ = saved; }
 
@@ -114,6 +119,7 @@ private:
     bool protectStructure_ = false;
     bool protectWindows_ = false;
     std::string password_;
+    bool date1904_ = false;
     bool saved_ = true;
     std::shared_ptr<const ooxml::CarriedWorkbook> carried_;
 };

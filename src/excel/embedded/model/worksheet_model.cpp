@@ -296,7 +296,7 @@ double WorksheetModel::ColumnsPoints(int32_t left, int32_t right) const {
 }
 
 double WorksheetModel::widthChars(const ColumnInfo& info) const {
-    return info.HasCustomWidth() ? info.width : settings_.standardWidth;
+    return info.HasWidth() ? info.width : settings_.standardWidth;
 }
 
 double WorksheetModel::points(const ColumnInfo& info) const {

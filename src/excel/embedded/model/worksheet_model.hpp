@@ -31,7 +31,9 @@ struct SheetSettings {
     bool printGridlines = false;
     bool showPageBreaks = false;
     double defaultRowHeight = 15.0;
-    double standardWidth = 8.43;
+    double standardWidth = 8.43;  // characters
+    // The default column width an opened file gave, in the file's units, saved again unchanged.
+    std::optional<double> fileStandardWidth;
     std::string activeCell = "A1";
 };
 

@@ -13,11 +13,13 @@ namespace excel::embedded {
 namespace {
 
 ColumnInfo Width(double width) {
-    return ColumnInfo{.width = width};
+    ColumnInfo info;
+    info.SetWidth(width);
+    return info;
 }
 
 void SetWidth(ColumnStore& store, int32_t first, int32_t last, double width) {
-    store.Update(first, last, [&](ColumnInfo& info) { info.width = width; });
+    store.Update(first, last, [&](ColumnInfo& info) { info.SetWidth(width); });
 }
 
 TEST(ColumnStoreTest, EmptyStoreAnswersDefaultEverywhere) {
@@ -90,7 +92,7 @@ TEST(ColumnStoreTest, UpdateVisitsEachSpanOnceIncludingDefaultGaps) {
     });
     EXPECT_EQ(seen, (std::vector<double>{-1.0, 10.0, -1.0}));
     EXPECT_EQ(store.Runs(), (std::vector<ColumnRun>{{1, 2, ColumnInfo{.format = 7}},
-                                                    {3, 4, ColumnInfo{.width = 10.0, .format = 7}},
+                                                    {3, 4, ColumnInfo{.width = 10.0, .customWidth = true, .format = 7}},
                                                     {5, 6, ColumnInfo{.format = 7}}}));
 }
 

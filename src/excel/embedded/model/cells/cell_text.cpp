@@ -1,6 +1,7 @@
 #include "excel/embedded/model/cells/cell_text.hpp"
 
 #include "excel/embedded/model/cells/cell_content.hpp"
+#include "excel/embedded/model/date_system.hpp"
 #include "excel/embedded/text/general_format.hpp"
 #include "excel/embedded/text/number_format_kind.hpp"
 #include "excel/embedded/text/text_entry.hpp"
@@ -49,9 +50,9 @@ std::string GroupThousands(const std::string& digits) {
     return grouped;
 }
 
-// Days since 1899-12-30 to a civil date (Excel's 1900 system, serials after February 1900).
-void CivilFromSerial(double serial, int& year, int& month, int& day) {
-    int64_t z = static_cast<int64_t>(std::floor(serial)) - 25569 + 719468;  // days since 0000-03-01
+// An automation Date (days since 1899-12-30) to a civil date.
+void CivilFromDate(double date, int& year, int& month, int& day) {
+    int64_t z = static_cast<int64_t>(std::floor(date)) - 25569 + 719468;  // days since 0000-03-01
     const int64_t era = (z >= 0 ? z : z - 146096) / 146097;
     const int64_t doe = z - era * 146097;
     const int64_t yoe = (doe - doe / 1460 + doe / 36524 - doe / 146096) / 365;
@@ -62,12 +63,12 @@ void CivilFromSerial(double serial, int& year, int& month, int& day) {
     year = static_cast<int>(yoe + era * 400 + (month <= 2 ? 1 : 0));
 }
 
-std::string FormatDate(double serial, std::string_view format) {
+std::string FormatDate(double date, std::string_view format) {
     int year = 0;
     int month = 0;
     int day = 0;
-    CivilFromSerial(serial, year, month, day);
-    const auto seconds = static_cast<int64_t>(std::llround((serial - std::floor(serial)) * 86400.0));
+    CivilFromDate(date, year, month, day);
+    const auto seconds = static_cast<int64_t>(std::llround((date - std::floor(date)) * 86400.0));
     const int hour = static_cast<int>(seconds / 3600 % 24);
     const int minute = static_cast<int>(seconds / 60 % 60);
     const int second = static_cast<int>(seconds % 60);
@@ -110,7 +111,7 @@ std::string FormatDate(double serial, std::string_view format) {
 
 }  // namespace
 
-std::string FormatNumber(double value, std::string_view numberFormat) {
+std::string FormatNumber(double value, std::string_view numberFormat, bool date1904) {
     const NumberFormatKind kind = ClassifyNumberFormat(numberFormat);
     if (kind == NumberFormatKind::General || kind == NumberFormatKind::Text) {
         return FormatGeneral(value);
@@ -118,7 +119,7 @@ std::string FormatNumber(double value, std::string_view numberFormat) {
     bool negativeSection = false;
     const std::string_view section = SectionFor(numberFormat, value, negativeSection);
     if (kind == NumberFormatKind::Date) {
-        return FormatDate(value, section);
+        return FormatDate(DateFromSerial(value, date1904), section);
     }
     // prefix, digit placeholders (0 # ? , .), suffix; literals in quotes or after a backslash.
     std::string prefix;
@@ -180,13 +181,13 @@ std::string FormatNumber(double value, std::string_view numberFormat) {
     return (negative ? "-" : "") + prefix + integral + fraction + suffix;
 }
 
-std::string DisplayText(const CellContent& content, std::string_view numberFormat) {
+std::string DisplayText(const CellContent& content, std::string_view numberFormat, bool date1904) {
     return std::visit(ContentVisitor{
                           [](std::monostate) { return std::string(); },
                           [](bool value) { return std::string(value ? "TRUE" : "FALSE"); },
                           [](std::string_view text) { return std::string(text); },
                           [](CellError error) { return ErrorTextFromNumber(error.number); },
-                          [&](double number) { return FormatNumber(number, numberFormat); },
+                          [&](double number) { return FormatNumber(number, numberFormat, date1904); },
                       },
                       content);
 }

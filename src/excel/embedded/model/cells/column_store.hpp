@@ -8,10 +8,23 @@ namespace excel::embedded {
 
 struct ColumnInfo {
     double width = -1.0;  // characters; negative = the sheet's standard width
+    // The width an opened file gave the column, in the file's units, saved again unchanged while
+    // width stays as read: Excel keeps widths in whole pixels, and a width another program or
+    // screen wrote need not be one that whole pixels give back. Negative = none.
+    double fileWidth = -1.0;
+    // The width was set (ColumnWidth, or a file marking it customWidth) rather than fitted to the
+    // content or copied from the standard width.
+    bool customWidth = false;
     uint32_t format = 0;  // 0 = no column format
     bool hidden = false;
 
-    bool HasCustomWidth() const { return width >= 0.0; }
+    bool HasWidth() const { return width >= 0.0; }
+    // Sets the width as ColumnWidth does: a custom width, no longer the file's.
+    void SetWidth(double characters) {
+        width = characters;
+        fileWidth = -1.0;
+        customWidth = true;
+    }
     friend bool operator==(const ColumnInfo&, const ColumnInfo&) = default;
 };
 

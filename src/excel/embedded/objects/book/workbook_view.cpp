@@ -136,6 +136,16 @@ bool WorkbookView::ProtectWindows() {
     return model().ProtectWindows();
 }
 
+bool WorkbookView::Date1904() {
+    return model().Date1904();
+}
+
+void WorkbookView::SetDate1904(bool date1904) {
+    WorkbookModel& book = model();
+    book.SetDate1904(date1904);
+    book.SetSaved(false);
+}
+
 bool WorkbookView::ReadOnly() {
     model();
     return false;

@@ -32,6 +32,8 @@ public:
     void Unprotect(const Variant& password) override;
     bool ProtectStructure() override;
     bool ProtectWindows() override;
+    bool Date1904() override;
+    void SetDate1904(bool date1904) override;
     bool ReadOnly() override;
     bool Saved() override;
 

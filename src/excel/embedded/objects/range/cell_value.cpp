@@ -1,6 +1,7 @@
 #include "excel/embedded/objects/range/cell_value.hpp"
 
 #include "excel/embedded/model/cells/cell_content.hpp"
+#include "excel/embedded/model/date_system.hpp"
 #include "excel/embedded/text/general_format.hpp"
 #include "excel/embedded/text/text_entry.hpp"
 
@@ -25,11 +26,12 @@ std::optional<int32_t> ErrorNumberOf(const Variant& value) {
     return number;
 }
 
-std::string DateFormatFor(double serial) {
-    if (serial == std::floor(serial)) {
+// The format a General cell takes for an automation Date: a day, a time of day (a Date on day 0), or both.
+std::string DateFormatFor(double date) {
+    if (date == std::floor(date)) {
         return "m/d/yyyy";
     }
-    return serial < 1.0 ? "h:mm:ss" : "m/d/yyyy h:mm";
+    return date < 1.0 ? "h:mm:ss" : "m/d/yyyy h:mm";
 }
 
 void SetNumber(Cell& cell, double number) {
@@ -52,10 +54,13 @@ bool IsStorableValue(const Variant& value) {
 
 void CellValueWriter::Store(Cell& cell, const Variant& value) {
     switch (value.Type()) {
-        case VarType::Date:
-            StorePlain(cell, value);
-            setNumberFormatIfGeneral(cell, DateFormatFor(cell.number));
+        case VarType::Date: {
+            // The cell stores the serial of the workbook's date system.
+            const double date = value.ToDouble();
+            StorePlain(cell, Variant(SerialFromDate(date, book_.Date1904())));
+            setNumberFormatIfGeneral(cell, DateFormatFor(date));
             return;
+        }
         case VarType::Currency:
             StorePlain(cell, value);
             setNumberFormatIfGeneral(cell, "$#,##0.00");
@@ -173,7 +178,7 @@ Variant CellValueReader::readNumber(uint32_t format, double number) {
     if (convertDates_) {
         const NumberFormatKind kind = kindOf(format);
         if (kind == NumberFormatKind::Date) {
-            return Variant(Date{number});
+            return Variant(Date{DateFromSerial(number, book_.Date1904())});
         }
         if (kind == NumberFormatKind::Currency) {
             return Variant(Currency{static_cast<int64_t>(std::llround(number * 10000.0))});

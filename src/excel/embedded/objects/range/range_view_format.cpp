@@ -212,7 +212,7 @@ void RangeView::SetColumnWidth(double width) {
         ThrowRefused("Unable to set the ColumnWidth property of the Range class");
     }
     for (const CellBlock& area : cells_.Areas()) {
-        cells_.Sheet()->Columns().Update(area.left, area.right, [&](ColumnInfo& info) { info.width = width; });
+        cells_.Sheet()->Columns().Update(area.left, area.right, [&](ColumnInfo& info) { info.SetWidth(width); });
     }
     owner.SetSaved(false);
 }

@@ -189,7 +189,8 @@ Variant RangeView::Text() {
             }
             std::string text =
                 DisplayText(ContentOf(&cell, owner.Strings(), owner.OpenedFormulas()),
-                            owner.Formats().Get(cells_.Sheet()->ResolvedFormat(row, cell.column)).numberFormat);
+                            owner.Formats().Get(cells_.Sheet()->ResolvedFormat(row, cell.column)).numberFormat,
+                            owner.Date1904());
             if (!common) {
                 common = std::move(text);
             } else if (*common != text) {
