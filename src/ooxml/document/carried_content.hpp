@@ -79,6 +79,8 @@ struct CarriedWorksheet {
     std::vector<CarriedAttribute> printOptionsAttributes;
     // The anchors of the sheet's drawing that are not text boxes; a slot counts the text boxes below.
     CarriedMarkup drawing;
+    // The highest shape id among those anchors: the shapes the engine adds take higher ones.
+    uint32_t highestShapeId = 0;
 };
 
 // The workbook's carried content: the parts, the package's own relationships, and what the

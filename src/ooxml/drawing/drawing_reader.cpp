@@ -245,6 +245,17 @@ bool IsTextBox(pugi::xml_node shape) {
     return LocalName(shape) == "sp" && AttributeBool(FirstChild(FirstChild(shape, "nvSpPr"), "cNvSpPr"), "txBox", false);
 }
 
+// The highest id the shapes within node have (a group holds several).
+uint32_t HighestShapeId(pugi::xml_node node) {
+    uint32_t highest = LocalName(node) == "cNvPr" ? AttributeUnsigned(node, "id").value_or(0) : 0;
+    for (pugi::xml_node child : node.children()) {
+        if (child.type() == pugi::node_element) {
+            highest = std::max(highest, HighestShapeId(child));
+        }
+    }
+    return highest;
+}
+
 // The anchor's shape when it is a text box; an anchor holds one shape, picture, chart or group.
 pugi::xml_node TextBoxOf(pugi::xml_node anchor) {
     for (pugi::xml_node child = anchor.first_child(); child; child = child.next_sibling()) {
@@ -257,11 +268,11 @@ pugi::xml_node TextBoxOf(pugi::xml_node anchor) {
 
 }  // namespace
 
-std::vector<TextBoxShape> ReadDrawing(std::string& xml, std::string_view partName, CarriedMarkup& carried) {
+std::vector<TextBoxShape> ReadDrawing(std::string& xml, std::string_view partName, CarriedWorksheet& carried) {
     pugi::xml_document document;
     ParseXmlPart(document, xml, partName);
     const pugi::xml_node root = document.document_element();
-    carried.rootAttributes = AttributesExcept(root, {"xmlns:xdr", "xmlns:a"});
+    carried.drawing.rootAttributes = AttributesExcept(root, {"xmlns:xdr", "xmlns:a"});
     std::vector<TextBoxShape> boxes;
     for (pugi::xml_node anchor = root.first_child(); anchor; anchor = anchor.next_sibling()) {
         if (anchor.type() != pugi::node_element) {
@@ -272,9 +283,10 @@ std::vector<TextBoxShape> ReadDrawing(std::string& xml, std::string_view partNam
         if (textBox) {
             boxes.push_back(ReadTextBox(anchor, *editAs, textBox));
         } else {
-            carried.elements.push_back(
+            carried.drawing.elements.push_back(
                 {static_cast<uint16_t>(std::min<std::size_t>(boxes.size(), UINT16_MAX)), std::string(LocalName(anchor)),
                  ElementMarkup(anchor)});
+            carried.highestShapeId = std::max(carried.highestShapeId, HighestShapeId(anchor));
         }
     }
     return boxes;

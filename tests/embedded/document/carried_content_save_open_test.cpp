@@ -152,3 +152,23 @@ TEST_F(CarriedContentSaveOpenTest, ConditionalFormatsFollowTheirCells) {
 }
 
 }  // namespace
+
+namespace {
+
+TEST_F(CarriedContentSaveOpenTest, AddedShapesTakeIdsThePicturesOfTheFileLeaveFree) {
+    auto workbook = OpenCorpus("realworld-excel/cxml__TTL__LoadImageWithoutTransform2D.xlsx");
+    auto shapes = workbook->Worksheets(1)->Shapes();
+    shapes->AddTextbox(1, 10, 10, 100, 40);
+    shapes->AddTextbox(1, 10, 60, 100, 40);
+    const ooxml_test::PackageParts output = Saved(workbook, "copy.xlsx");
+    const std::string& drawing = output.at("xl/drawings/drawing1.xml");
+    std::vector<std::string> ids;
+    for (std::size_t at = drawing.find("cNvPr id=\""); at != std::string::npos; at = drawing.find("cNvPr id=\"", at + 1)) {
+        ids.push_back(drawing.substr(at + 10, drawing.find('"', at + 10) - at - 10));
+    }
+    EXPECT_EQ(ids, (std::vector<std::string>{"3", "4", "5"}));
+    EXPECT_EQ(output.count("xl/media/image1.png"), 1u);
+    EXPECT_EQ(RunTool("check-xlsx", PathOf("copy.xlsx")), 0);
+}
+
+}  // namespace

@@ -20,7 +20,7 @@ std::vector<TextBoxShape> Read(const std::string& anchors) {
     std::string xml = R"(<xdr:wsDr xmlns:xdr="http://schemas.openxmlformats.org/drawingml/2006/spreadsheetDrawing" )"
                       R"(xmlns:a="http://schemas.openxmlformats.org/drawingml/2006/main">)" +
                       anchors + "</xdr:wsDr>";
-    CarriedMarkup carried;
+    CarriedWorksheet carried;
     return ReadDrawing(xml, "xl/drawings/drawing1.xml", carried);
 }
 

@@ -296,6 +296,9 @@ void LoadSheet(WorksheetModel& sheet, const ooxml::SheetDocument& in, const std:
                                            static_cast<int32_t>(merge.lastColumn)});
     }
     LoadShapes(sheet, in);
+    if (in.carried) {
+        sheet.Shapes().ReserveIdsThrough(in.carried->highestShapeId);
+    }
     sheet.SetCarried(in.carried);
 }
 

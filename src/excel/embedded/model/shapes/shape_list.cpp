@@ -24,8 +24,12 @@ std::shared_ptr<ShapeModel> ShapeList::AddComment(const CommentLink& link) {
 }
 
 void ShapeList::AddOpened(std::shared_ptr<ShapeModel> shape) {
-    lastNumber_ = std::max(lastNumber_, shape->id > 0 ? shape->id - 1 : 0);
+    ReserveIdsThrough(shape->id);
     shapes_.push_back(std::move(shape));
+}
+
+void ShapeList::ReserveIdsThrough(uint32_t id) {
+    lastNumber_ = std::max(lastNumber_, id > 0 ? id - 1 : 0);
 }
 
 void ShapeList::Remove(ShapeModel& shape) {

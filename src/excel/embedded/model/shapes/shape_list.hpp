@@ -21,6 +21,8 @@ public:
     std::shared_ptr<ShapeModel> AddComment(const CommentLink& link);
     // Takes a shape of an opened file with its own name and ID; later shapes number on from it.
     void AddOpened(std::shared_ptr<ShapeModel> shape);
+    // Shapes added from now on take ids above id, which a shape the engine does not model has.
+    void ReserveIdsThrough(uint32_t id);
     void Remove(ShapeModel& shape);
     std::shared_ptr<ShapeModel> CommentAt(int32_t row, int32_t column) const;
     // Moves the shapes and comments as the shift moves cells; a comment whose cell is deleted
