@@ -38,6 +38,10 @@ struct Row {
     std::optional<uint32_t> format;  // row format (customFormat)
     bool hidden = false;
     std::vector<Cell> cells;  // ascending columns
+    uint8_t outlineLevel = 0;  // 0 (not grouped) .. 7
+    bool collapsed = false;    // the group the row closes is collapsed
+
+    bool HasSettings() const { return height || format || hidden || outlineLevel != 0 || collapsed; }
 };
 
 struct ColumnRange {
@@ -47,6 +51,8 @@ struct ColumnRange {
     std::optional<uint32_t> format;
     bool hidden = false;
     bool customWidth = false;  // the width was set rather than fitted or taken from the default
+    uint8_t outlineLevel = 0;  // 0 (not grouped) .. 7
+    bool collapsed = false;    // the group the column closes is collapsed
 
     friend bool operator==(const ColumnRange&, const ColumnRange&) = default;
 };

@@ -6,6 +6,7 @@
 #include "ooxml/styles/font_reader.hpp"
 #include "ooxml/worksheet/cell_reference_reader.hpp"
 #include "ooxml/worksheet/formula_reference_shifter.hpp"
+#include "ooxml/worksheet/outline_level.hpp"
 #include "ooxml/xml/escaped_text_decoder.hpp"
 #include "ooxml/xml/xml_node_access.hpp"
 #include "ooxml/xml/xml_part_parser.hpp"
@@ -78,7 +79,7 @@ public:
             Row row = ReadRow(previousRow + 1);
             rowsInOrder = rowsInOrder && row.index > previousRow;
             previousRow = row.index;
-            if (!row.cells.empty() || row.height || row.format || row.hidden) {
+            if (!row.cells.empty() || row.HasSettings()) {
                 sheet_.rows.push_back(std::move(row));
             }
         }
@@ -117,6 +118,10 @@ private:
                 format = context_.FormatIndex(attribute.value);
             } else if (name == "customFormat") {
                 customFormat = ParseBoolean(attribute.value).value_or(false);
+            } else if (name == "outlineLevel") {
+                row.outlineLevel = ParseOutlineLevel(attribute.value);
+            } else if (name == "collapsed") {
+                row.collapsed = ParseBoolean(attribute.value).value_or(false);
             }
         }
         if (row.index > MaxRowIndex) {

@@ -224,6 +224,7 @@ private:
             if (range.width && range.customWidth) {
                 xml_.Attribute("customWidth", "1");
             }
+            WriteOutline(range.outlineLevel, range.collapsed);
             xml_.EndElement();
         }
         xml_.EndElement();
@@ -237,7 +238,7 @@ private:
                 Malformed(sheet_, "row " + std::to_string(row.index) + " is out of order or range");
             }
             previousRow = row.index;
-            if (row.cells.empty() && !row.height && !row.format && !row.hidden) {
+            if (row.cells.empty() && !row.HasSettings()) {
                 continue;
             }
             WriteRow(row);
@@ -263,6 +264,7 @@ private:
         if (row.hidden) {
             xml_.Attribute("hidden", "1");
         }
+        WriteOutline(row.outlineLevel, row.collapsed);
         uint32_t previousColumn = 0;
         for (const Cell& cell : row.cells) {
             if (cell.column <= previousColumn || cell.column > kMaxColumns) {
@@ -273,6 +275,15 @@ private:
             WriteCell(cell, Reference(row.index, cell.column));
         }
         xml_.EndElement();
+    }
+
+    void WriteOutline(uint8_t level, bool collapsed) {
+        if (level != 0) {
+            xml_.Attribute("outlineLevel", static_cast<uint32_t>(level));
+        }
+        if (collapsed) {
+            xml_.Attribute("collapsed", "1");
+        }
     }
 
     void CheckString(const Cell& cell, std::string_view reference) const {

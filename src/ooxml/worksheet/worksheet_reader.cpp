@@ -3,6 +3,7 @@
 #include "ooxml/carried/carried_attributes.hpp"
 #include "ooxml/carried/carried_element_collector.hpp"
 #include "ooxml/worksheet/cell_reference_reader.hpp"
+#include "ooxml/worksheet/outline_level.hpp"
 #include "ooxml/worksheet/sheet_data_reader.hpp"
 #include "ooxml/worksheet/worksheet_element_order.hpp"
 #include "ooxml/xml/xml_node_access.hpp"
@@ -121,12 +122,14 @@ private:
         range.last = std::min(*last, MaxColumnIndex);
         range.format = context_.FormatIndex(AttributeText(col, "style"));
         range.hidden = AttributeBool(col, "hidden", false);
+        range.outlineLevel = ParseOutlineLevel(AttributeText(col, "outlineLevel"));
+        range.collapsed = AttributeBool(col, "collapsed", false);
         // A width is the column's width whether or not it is marked custom; the mark is kept apart.
         if (const std::optional<double> width = AttributeDouble(col, "width")) {
             range.width = std::clamp(*width, 0.0, MaxColumnWidth);
             range.customWidth = AttributeBool(col, "customWidth", false);
         }
-        if (range.width || range.format || range.hidden) {
+        if (range.width || range.format || range.hidden || range.outlineLevel != 0 || range.collapsed) {
             sheet_.columns.push_back(range);
         }
     }

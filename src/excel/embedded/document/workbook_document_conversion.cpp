@@ -74,6 +74,8 @@ void ConvertColumns(const WorksheetModel& sheet, ooxml::SheetDocument& out) {
             range.format = info.format;
         }
         range.hidden = info.hidden || (info.HasWidth() && info.width == 0.0);
+        range.outlineLevel = info.outlineLevel;
+        range.collapsed = info.collapsed;
         out.columns.push_back(range);
     }
 }
@@ -152,6 +154,8 @@ ooxml::SheetDocument ConvertSheet(const WorksheetModel& sheet, StringNumbering& 
             outRow.format = row.format;
         }
         outRow.hidden = row.hidden;
+        outRow.outlineLevel = row.outlineLevel;
+        outRow.collapsed = row.collapsed;
         outRow.cells.reserve(row.cells.size());
         for (const Cell& cell : row.cells) {
             ooxml::Cell outCell;
@@ -268,6 +272,8 @@ void LoadSheet(WorksheetModel& sheet, const ooxml::SheetDocument& in, const std:
             }
             info.format = range.format ? formatId(*range.format) : 0;
             info.hidden = range.hidden;
+            info.outlineLevel = range.outlineLevel;
+            info.collapsed = range.collapsed;
         });
     }
     auto& rows = sheet.Cells().Rows();
@@ -278,6 +284,8 @@ void LoadSheet(WorksheetModel& sheet, const ooxml::SheetDocument& in, const std:
         row.hasFormat = inRow.format.has_value();
         row.format = inRow.format ? formatId(*inRow.format) : 0;
         row.hidden = inRow.hidden;
+        row.outlineLevel = inRow.outlineLevel;
+        row.collapsed = inRow.collapsed;
         row.cells.reserve(inRow.cells.size());
         for (const ooxml::Cell& inCell : inRow.cells) {
             Cell cell = Cell::Blank(static_cast<int32_t>(inCell.column), formatId(inCell.format));

@@ -18,10 +18,14 @@ struct RowData {
     double height = -1.0;  // points; negative = the sheet's default height
     bool hasFormat = false;
     bool hidden = false;
+    uint8_t outlineLevel = 0;  // 0 (not grouped) .. 7
+    bool collapsed = false;    // the group the row closes is collapsed
     std::vector<Cell> cells;
 
     bool HasCustomHeight() const { return height >= 0.0; }
-    bool IsBare() const { return cells.empty() && !hasFormat && !HasCustomHeight() && !hidden; }
+    bool IsBare() const {
+        return cells.empty() && !hasFormat && !HasCustomHeight() && !hidden && outlineLevel == 0 && !collapsed;
+    }
 
     // The first cell at or right of column, and the end of the cells at or left of right.
     std::vector<Cell>::iterator LowerBound(int32_t column) {

@@ -17,6 +17,8 @@ struct ColumnInfo {
     bool customWidth = false;
     uint32_t format = 0;  // 0 = no column format
     bool hidden = false;
+    uint8_t outlineLevel = 0;  // 0 (not grouped) .. 7
+    bool collapsed = false;    // the group the column closes is collapsed
 
     bool HasWidth() const { return width >= 0.0; }
     // Sets the width as ColumnWidth does: a custom width, no longer the file's.
