@@ -233,7 +233,16 @@ void PlanPackage(const WorkbookDocument& document, const std::string& path, Pack
     for (PackagePart& sheetPart : sheetParts) {
         package.parts.push_back(std::move(sheetPart));
     }
-    if (!keepsTheme) {
+    std::vector<PackagePart> carriedPackageParts = carriedParts.Parts();
+    // The theme, the workbook's own or the default, is stored where Excel stores it.
+    if (keepsTheme) {
+        const auto theme = std::find_if(carriedPackageParts.begin(), carriedPackageParts.end(),
+                                        [](const PackagePart& part) { return part.contentType == kThemeContentType; });
+        if (theme != carriedPackageParts.end()) {
+            package.parts.push_back(std::move(*theme));
+            carriedPackageParts.erase(theme);
+        }
+    } else {
         package.parts.push_back({"xl/theme/theme1.xml", kThemeContentType,
                                  [&document](XmlWriter& xml) { WriteThemePart(xml, document.themeColors); }, {}});
     }
@@ -251,7 +260,7 @@ void PlanPackage(const WorkbookDocument& document, const std::string& path, Pack
             package.parts.push_back(std::move(part));
         }
     }
-    for (PackagePart& part : carriedParts.Parts()) {
+    for (PackagePart& part : carriedPackageParts) {
         package.parts.push_back(std::move(part));
     }
     package.parts.push_back({"docProps/core.xml", kCorePropertiesContentType,

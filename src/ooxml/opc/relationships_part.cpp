@@ -1,11 +1,13 @@
 #include "ooxml/opc/relationships_part.hpp"
 
 #include <algorithm>
+#include <charconv>
+#include <cstdint>
 
 namespace ooxml {
 
 std::string Relationships::Add(std::string_view type, std::string target) {
-    std::size_t number = relationships_.size() + 1;
+    std::size_t number = 1;
     std::string id = "rId" + std::to_string(number);
     while (Taken(id)) {
         id = "rId" + std::to_string(++number);
@@ -25,11 +27,29 @@ bool Relationships::Taken(std::string_view id) const {
                        [id](const Entry& relationship) { return relationship.id == id; });
 }
 
+// Listed by id number ("rId2" before "rId10"), so a workbook saved again lists its relationships
+// as before, whichever were kept and which made anew.
 void Relationships::Write(XmlWriter& xml) const {
+    std::vector<const Entry*> ordered;
+    for (const Entry& relationship : relationships_) {
+        ordered.push_back(&relationship);
+    }
+    const auto number = [](const Entry* relationship) {
+        const std::string_view id = relationship->id;
+        const std::size_t digits = id.find_last_not_of("0123456789") + 1;
+        uint64_t value = 0;
+        if (std::from_chars(id.data() + digits, id.data() + id.size(), value).ec != std::errc()) {
+            value = digits < id.size() ? UINT64_MAX : 0;
+        }
+        return std::make_pair(id.substr(0, digits), value);
+    };
+    std::stable_sort(ordered.begin(), ordered.end(),
+                     [&number](const Entry* a, const Entry* b) { return number(a) < number(b); });
     xml.Declaration();
     xml.StartElement("Relationships");
     xml.Attribute("xmlns", "http://schemas.openxmlformats.org/package/2006/relationships");
-    for (const Entry& relationship : relationships_) {
+    for (const Entry* entry : ordered) {
+        const Entry& relationship = *entry;
         xml.StartElement("Relationship");
         xml.Attribute("Id", relationship.id);
         xml.Attribute("Type", relationship.type);

@@ -17,14 +17,20 @@ TEST(RelativeTarget, ClimbsOutOfTheSourceFolderAsFarAsTheyDiffer) {
     EXPECT_EQ(RelativeTarget("xl/drawings/drawing1.xml", "xl/drawingsOld/a.xml"), "../drawingsOld/a.xml");
 }
 
-TEST(Relationships, NewIdsPassTheKeptOnesBy) {
+TEST(Relationships, NewIdsTakeTheNumbersTheKeptOnesLeaveFreeAndAllAreListedByNumber) {
     Relationships relationships;
     relationships.Keep({"rId1", "http://x/printerSettings", "xl/printerSettings/printerSettings1.bin", false},
                        "xl/worksheets/sheet1.xml");
     relationships.Keep({"rId3", "http://x/hyperlink", "https://example.com/a?b&c", true}, "xl/worksheets/sheet1.xml");
-    EXPECT_EQ(relationships.Add("http://x/drawing", "../drawings/drawing1.xml"), "rId4");
-    EXPECT_EQ(relationships.Add("http://x/comments", "../comments1.xml"), "rId5");
+    relationships.Keep({"rId10", "http://x/table", "xl/tables/table1.xml", false}, "xl/worksheets/sheet1.xml");
+    EXPECT_EQ(relationships.Add("http://x/drawing", "../drawings/drawing1.xml"), "rId2");
+    EXPECT_EQ(relationships.Add("http://x/comments", "../comments1.xml"), "rId4");
     const std::string xml = writer_test::WriteToString([&](XmlWriter& writer) { relationships.Write(writer); });
+    std::vector<std::string> ids;
+    for (std::size_t at = xml.find("Id=\""); at != std::string::npos; at = xml.find("Id=\"", at + 1)) {
+        ids.push_back(xml.substr(at + 4, xml.find('"', at + 4) - at - 4));
+    }
+    EXPECT_EQ(ids, (std::vector<std::string>{"rId1", "rId2", "rId3", "rId4", "rId10"}));
     EXPECT_NE(xml.find(R"(Id="rId1" Type="http://x/printerSettings" Target="../printerSettings/printerSettings1.bin")"),
               std::string::npos);
     EXPECT_NE(xml.find(R"(Target="https://example.com/a?b&amp;c" TargetMode="External")"), std::string::npos);
