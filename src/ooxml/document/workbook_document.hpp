@@ -31,6 +31,10 @@ struct WorkbookDocument {
     // The theme's colour scheme (0x00RRGGBB) in the order cells index it: lt1, dk1, lt2, dk2,
     // accent1..accent6, hlink, folHlink.
     std::array<uint32_t, 12> themeColors{};
+    // Whether themeColors are the colour scheme of the theme the opened file keeps. Otherwise the
+    // engine fills them in, and the writer writes them in a theme of its own when the workbook
+    // keeps none.
+    bool themeFromFile = false;
     uint32_t activeSheet = 0;       // 0-based
     bool date1904 = false;          // serial 0 is 1904-01-01 (else serial 1 is 1900-01-01)
     bool lockStructure = false;

@@ -11,6 +11,7 @@
 #include "ooxml/shared_strings/shared_strings_reader.hpp"
 #include "ooxml/shared_strings/string_table_builder.hpp"
 #include "ooxml/styles/styles_reader.hpp"
+#include "ooxml/theme/theme_reader.hpp"
 #include "ooxml/workbook/workbook_reader.hpp"
 #include "ooxml/worksheet/worksheet_element_order.hpp"
 #include "ooxml/worksheet/worksheet_reader.hpp"
@@ -122,6 +123,7 @@ public:
         }
         ReadProperties(packageRelationships);
         FollowCarriedRelationships();
+        ReadThemeColorsOfKeptTheme();
         document_.carried = std::move(carried_);
         return std::move(document_);
     }
@@ -309,6 +311,19 @@ private:
         for (const auto& sheet : carriedWorksheets_) {
             std::erase_if(sheet->worksheet.relationships, dangling);
             std::erase_if(sheet->drawing.relationships, dangling);
+        }
+    }
+
+    // The workbook's theme is kept as it is; its colour scheme is what theme colours show.
+    void ReadThemeColorsOfKeptTheme() {
+        const Relationship* theme = FindRelationshipOfType(carried_->workbook.relationships, "theme");
+        const auto part = theme != nullptr ? carried_->parts.find(theme->target) : carried_->parts.end();
+        if (part == carried_->parts.end()) {
+            return;
+        }
+        if (const std::optional<std::array<uint32_t, 12>> colors = ReadThemeColors(part->second.bytes)) {
+            document_.themeColors = *colors;
+            document_.themeFromFile = true;
         }
     }
 

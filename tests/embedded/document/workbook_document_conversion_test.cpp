@@ -94,6 +94,31 @@ TEST(WorkbookDocumentConversion, TheDateSystemIsLoadedAndSaved) {
     EXPECT_TRUE(ToDocument(*book, "test").date1904);
 }
 
+TEST(WorkbookDocumentConversion, AnOpenedWorkbookTakesTheColoursOfItsOwnTheme) {
+    ooxml::WorkbookDocument document = TwoSheetDocument();
+    document.themeColors = {0xFFFFFF, 0x000000, 0xC9C2D1, 0x69676D, 0xCEB966, 0x9CB084,
+                            0x6BB1C9, 0x6585CF, 0x7E6BC9, 0xA379BB, 0xB333FF, 0x5300A6};
+    document.themeFromFile = true;
+    auto app = std::make_shared<ApplicationModel>();
+    auto book = std::make_shared<WorkbookModel>(*app, "Apex.xlsx");
+    LoadDocument(*book, document);
+    EXPECT_EQ(book->ThemeColors()[2], 0xD1C2C9u);  // lt2, as an RGB Long
+    EXPECT_EQ(book->ThemeColors()[4], 0x66B9CEu);  // accent1
+    EXPECT_EQ(book->ThemeColors()[11], 0xA60053u);
+    // Saved again, the document carries them for a workbook that would need a theme written.
+    EXPECT_EQ(ToDocument(*book, "test").themeColors, document.themeColors);
+}
+
+TEST(WorkbookDocumentConversion, AFileWithoutThemeColoursLeavesTheOfficeTheme) {
+    ooxml::WorkbookDocument document = TwoSheetDocument();
+    document.themeColors.fill(0x123456);  // not from the file: not taken
+    auto app = std::make_shared<ApplicationModel>();
+    auto book = std::make_shared<WorkbookModel>(*app, "Plain.xlsx");
+    LoadDocument(*book, document);
+    EXPECT_EQ(book->ThemeColors(), app->AddWorkbook()->ThemeColors());
+    EXPECT_EQ(book->ThemeColors()[4], 0xC47244u);  // accent1 #4472C4
+}
+
 TEST(WorkbookDocumentConversion, ColumnSpansLoadAsRunsAndSaveAsOneElementPerRun) {
     ooxml::WorkbookDocument document = TwoSheetDocument();
     ooxml::ColumnRange wide;

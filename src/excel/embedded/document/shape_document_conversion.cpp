@@ -67,24 +67,24 @@ ooxml::CellAnchor AnchorOf(const CellPoint& point) {
 }
 
 // A palette colour as the RGB it shows, keeping its tint: drawings have no palette.
-FormatColor WithoutPalette(const FormatColor& color, const Palette& palette) {
+FormatColor WithoutPalette(const FormatColor& color, const WorkbookColors& colors) {
     if (color.kind != FormatColor::Kind::Indexed) {
         return color;
     }
-    return FormatColor{FormatColor::Kind::Rgb, ArgbFromRgbLong(RgbOf(color, palette, 0)), 0, color.tint};
+    return FormatColor{FormatColor::Kind::Rgb, ArgbFromRgbLong(RgbOf(color, colors, 0)), 0, color.tint};
 }
 
 // The text with a font on every run: the files have no frame font to fall back on. Runs of a
 // drawing's text show palette colours by their RGB; a comment's runs keep them.
-ooxml::SharedString SpelledOut(const ShapeText& frame, const Palette* drawingPalette) {
+ooxml::SharedString SpelledOut(const ShapeText& frame, const WorkbookColors* drawingColors) {
     RichText text = frame.text;
     if (text.runs.empty() && !text.text.empty()) {
         text.runs.push_back(TextRun{text.text, std::nullopt});
     }
     for (TextRun& run : text.runs) {
         run.font = run.font.value_or(frame.font);
-        if (drawingPalette) {
-            run.font->color = WithoutPalette(run.font->color, *drawingPalette);
+        if (drawingColors) {
+            run.font->color = WithoutPalette(run.font->color, *drawingColors);
         }
     }
     return DocumentText(text);
@@ -138,7 +138,7 @@ Corners CornersOf(const WorksheetModel& sheet, const ShapeModel& shape) {
 
 ooxml::TextBoxShape TextBoxOf(const WorksheetModel& sheet, const ShapeModel& shape) {
     const Corners corners = CornersOf(sheet, shape);
-    const Palette& palette = sheet.Book().Palette();
+    const WorkbookColors& colors = sheet.Book().Colors();
     const TextMargins margins = shape.text.Margins();
     ooxml::TextBoxShape out;
     out.id = shape.id;
@@ -151,11 +151,11 @@ ooxml::TextBoxShape TextBoxOf(const WorksheetModel& sheet, const ShapeModel& sha
     out.width = Emu(corners.bounds.width);
     out.height = Emu(corners.bounds.height);
     if (shape.fill.visible) {
-        out.fill = DocumentColor(WithoutPalette(shape.fill.color.color, palette));
+        out.fill = DocumentColor(WithoutPalette(shape.fill.color.color, colors));
     }
     out.fillTransparency = shape.fill.transparency;
     if (shape.line.visible) {
-        out.line = DocumentColor(WithoutPalette(shape.line.color.color, palette));
+        out.line = DocumentColor(WithoutPalette(shape.line.color.color, colors));
     }
     out.lineWidth = Emu(shape.line.weight);
     out.insetLeft = Emu(margins.left);
@@ -168,13 +168,13 @@ ooxml::TextBoxShape TextBoxOf(const WorksheetModel& sheet, const ShapeModel& sha
     out.alignment = std::string(NameOf(HorizontalAlignments, shape.text.horizontalAlignment));
     out.macro = shape.onAction;
     out.hidden = !shape.visible;
-    out.text = SpelledOut(shape.text, &palette);
+    out.text = SpelledOut(shape.text, &colors);
     return out;
 }
 
 ooxml::CellComment CommentOf(const WorksheetModel& sheet, const ShapeModel& shape) {
     const Corners corners = CornersOf(sheet, shape);
-    const Palette& palette = sheet.Book().Palette();
+    const WorkbookColors& colors = sheet.Book().Colors();
     ooxml::CellComment out;
     out.row = static_cast<uint32_t>(shape.comment->row);
     out.column = static_cast<uint32_t>(shape.comment->column);
@@ -195,8 +195,8 @@ ooxml::CellComment CommentOf(const WorksheetModel& sheet, const ShapeModel& shap
                                      Pixels(corners.to.rowOffset)};
     out.moveWithCells = shape.placement != xlFreeFloating;
     out.sizeWithCells = shape.placement == xlMoveAndSize;
-    out.fillRgb = RrggbbOf(RgbOf(shape.fill.color, palette));
-    out.lineRgb = RrggbbOf(RgbOf(shape.line.color, palette));
+    out.fillRgb = RrggbbOf(RgbOf(shape.fill.color, colors));
+    out.lineRgb = RrggbbOf(RgbOf(shape.line.color, colors));
     out.lineWeight = shape.line.weight;
     if (!shape.text.autoMargins) {
         const TextMargins& margins = shape.text.margins;

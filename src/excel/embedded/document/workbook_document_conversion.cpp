@@ -5,7 +5,7 @@
 #include "excel/embedded/document/shape_document_conversion.hpp"
 #include "excel/embedded/format/color_conversion.hpp"
 #include "excel/embedded/format/palette.hpp"
-#include "excel/embedded/format/theme_colors.hpp"
+#include "excel/embedded/format/workbook_colors.hpp"
 #include "excel/embedded/model/geometry/geometry.hpp"
 #include "excel/embedded/model/names/defined_name_rules.hpp"
 #include "excel/embedded/text/text_entry.hpp"
@@ -342,7 +342,7 @@ ooxml::WorkbookDocument ToDocument(const WorkbookModel& book, const std::string&
             document.palette.push_back(FileRgb(color));
         }
     }
-    std::transform(OfficeThemeColors().begin(), OfficeThemeColors().end(), document.themeColors.begin(), FileRgb);
+    std::transform(book.ThemeColors().begin(), book.ThemeColors().end(), document.themeColors.begin(), FileRgb);
     document.date1904 = book.Date1904();
     document.lockStructure = book.ProtectStructure();
     document.lockWindows = book.ProtectWindows();
@@ -397,6 +397,11 @@ void LoadDocument(WorkbookModel& book, const ooxml::WorkbookDocument& document) 
         }
     }
     book.SetDate1904(document.date1904);
+    if (document.themeFromFile) {
+        ThemeColors theme{};
+        std::transform(document.themeColors.begin(), document.themeColors.end(), theme.begin(), RgbLongFromArgb);
+        book.SetThemeColors(theme);
+    }
     book.Protect("", document.lockStructure, document.lockWindows);
     book.SetCarried(document.carried);
 }

@@ -17,7 +17,8 @@ constexpr int32_t systemBackground = 65;
 constexpr uint32_t white = 0xFFFFFF;
 }  // namespace
 
-uint32_t RgbOf(const FormatColor& color, const Palette& palette, uint32_t automatic) {
+uint32_t RgbOf(const FormatColor& color, const WorkbookColors& colors, uint32_t automatic) {
+    const Palette& palette = colors.palette;
     switch (color.kind) {
         case FormatColor::Kind::Rgb:
             return ApplyTintAndShade(RgbLongFromArgb(color.argb), color.tint);
@@ -31,7 +32,7 @@ uint32_t RgbOf(const FormatColor& color, const Palette& palette, uint32_t automa
             return color.index == systemBackground ? white : automatic;
         case FormatColor::Kind::Theme:
             if (color.index >= 0 && color.index < 12) {
-                return ApplyTintAndShade(OfficeThemeColors()[static_cast<size_t>(color.index)], color.tint);
+                return ApplyTintAndShade(colors.theme[static_cast<size_t>(color.index)], color.tint);
             }
             return automatic;
         case FormatColor::Kind::None:
@@ -41,7 +42,7 @@ uint32_t RgbOf(const FormatColor& color, const Palette& palette, uint32_t automa
     return automatic;
 }
 
-int32_t ColorIndexOf(const FormatColor& color, const Palette& palette, int32_t whenAutomatic) {
+int32_t ColorIndexOf(const FormatColor& color, const WorkbookColors& colors, int32_t whenAutomatic) {
     switch (color.kind) {
         case FormatColor::Kind::None:
         case FormatColor::Kind::Automatic:
@@ -53,12 +54,12 @@ int32_t ColorIndexOf(const FormatColor& color, const Palette& palette, int32_t w
             if (color.index >= firstPaletteIndex && color.index < firstPaletteIndex + 56) {
                 return color.index - firstPaletteIndex + 1;
             }
-            return color.index == systemForeground ? whenAutomatic : NearestColorIndex(palette, white);
+            return color.index == systemForeground ? whenAutomatic : NearestColorIndex(colors.palette, white);
         case FormatColor::Kind::Rgb:
         case FormatColor::Kind::Theme:
             break;
     }
-    return NearestColorIndex(palette, RgbOf(color, palette, 0));
+    return NearestColorIndex(colors.palette, RgbOf(color, colors, 0));
 }
 
 int32_t ThemeColorOf(const FormatColor& color) {

@@ -39,8 +39,8 @@ ShapeColor ShapeColorFromThemeIndex(int32_t themeIndex, double tint) {
     ThrowRefused("The specified value is out of range.");
 }
 
-uint32_t RgbOf(const ShapeColor& color, const Palette& palette) {
-    return RgbOf(color.color, palette, 0);
+uint32_t RgbOf(const ShapeColor& color, const WorkbookColors& colors) {
+    return RgbOf(color.color, colors, 0);
 }
 
 }  // namespace excel::embedded

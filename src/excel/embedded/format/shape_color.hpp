@@ -22,6 +22,6 @@ ShapeColor ShapeColorFromObjectTheme(int32_t objectThemeColor);
 // A theme colour given by the file's theme index (0 lt1, 1 dk1, ...), as files store them.
 ShapeColor ShapeColorFromThemeIndex(int32_t themeIndex, double tint);
 // The RGB Long the colour shows.
-uint32_t RgbOf(const ShapeColor& color, const Palette& palette);
+uint32_t RgbOf(const ShapeColor& color, const WorkbookColors& colors);
 
 }  // namespace excel::embedded

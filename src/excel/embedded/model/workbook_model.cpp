@@ -1,7 +1,6 @@
 #include "excel/embedded/model/workbook_model.hpp"
 
 #include "excel/embedded/engine_errors.hpp"
-#include "excel/embedded/format/palette.hpp"
 #include "excel/embedded/model/names/defined_name_rules.hpp"
 #include "excel/embedded/model/names/name_reference.hpp"
 #include "excel/embedded/model/names/sheet_name_rules.hpp"
@@ -41,8 +40,7 @@ int32_t SheetNumber(std::string_view name) {
 
 }  // namespace
 
-WorkbookModel::WorkbookModel(ApplicationModel& app, std::string name)
-    : app_(&app), name_(std::move(name)), palette_(DefaultPalette()) {}
+WorkbookModel::WorkbookModel(ApplicationModel& app, std::string name) : app_(&app), name_(std::move(name)) {}
 
 WorkbookModel::~WorkbookModel() {
     Detach();

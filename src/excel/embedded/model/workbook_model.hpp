@@ -1,6 +1,7 @@
 #pragma once
 
 #include "excel/embedded/format/format_table.hpp"
+#include "excel/embedded/format/workbook_colors.hpp"
 #include "excel/embedded/model/block_shift.hpp"
 #include "excel/embedded/model/cells/opened_formula_table.hpp"
 #include "excel/embedded/model/names/defined_name_model.hpp"
@@ -79,8 +80,12 @@ public:
     const StringPool& Strings() const { return strings_; }
     OpenedFormulaTable& OpenedFormulas() { return openedFormulas_; }
     const OpenedFormulaTable& OpenedFormulas() const { return openedFormulas_; }
-    std::array<uint32_t, 56>& Palette() { return palette_; }
-    const std::array<uint32_t, 56>& Palette() const { return palette_; }
+    // The colours colour references show: the palette Workbook.Colors edits, and the theme's.
+    const WorkbookColors& Colors() const { return colors_; }
+    excel::embedded::Palette& Palette() { return colors_.palette; }
+    const excel::embedded::Palette& Palette() const { return colors_.palette; }
+    const excel::embedded::ThemeColors& ThemeColors() const { return colors_.theme; }
+    void SetThemeColors(const excel::embedded::ThemeColors& colors) { colors_.theme = colors; }
 
     bool ProtectStructure() const { return protectStructure_; }
     bool ProtectWindows() const { return protectWindows_; }
@@ -115,7 +120,7 @@ private:
     FormatTable formats_;
     StringPool strings_;
     OpenedFormulaTable openedFormulas_;
-    std::array<uint32_t, 56> palette_;
+    WorkbookColors colors_;
     bool protectStructure_ = false;
     bool protectWindows_ = false;
     std::string password_;

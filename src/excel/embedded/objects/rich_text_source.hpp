@@ -20,7 +20,7 @@ public:
     virtual void SetText(const RichText& text) = 0;
     // Applies the edit to the fonts of count characters from start (0-based).
     virtual void EditFonts(size_t start, size_t count, const std::function<void(FontFormat&)>& edit) = 0;
-    virtual const Palette& Colors() = 0;
+    virtual const WorkbookColors& Colors() = 0;
 };
 
 }  // namespace excel::embedded

@@ -235,7 +235,7 @@ Variant BordersView::read(Project&& project) {
             }
         }
     }
-    return CommonValue(lines, [&](const BorderLine& line) { return project(line, book.Palette()); });
+    return CommonValue(lines, [&](const BorderLine& line) { return project(line, book.Colors()); });
 }
 
 namespace {
@@ -318,7 +318,7 @@ void BordersView::edit(const std::function<void(BorderLine&)>& editLine) {
 }
 
 Variant BordersView::LineStyle() {
-    return read([](const BorderLine& line, const Palette&) { return Variant(lineStyles[line.style]); });
+    return read([](const BorderLine& line, const WorkbookColors&) { return Variant(lineStyles[line.style]); });
 }
 
 void BordersView::SetLineStyle(int32_t style) {
@@ -338,7 +338,7 @@ void BordersView::SetLineStyle(int32_t style) {
 }
 
 Variant BordersView::Weight() {
-    return read([](const BorderLine& line, const Palette&) { return Variant(weights[line.style]); });
+    return read([](const BorderLine& line, const WorkbookColors&) { return Variant(weights[line.style]); });
 }
 
 void BordersView::SetWeight(int32_t weight) {
@@ -380,8 +380,8 @@ void Colour(BorderLine& line, const FormatColor& color) {
 }  // namespace
 
 Variant BordersView::Color() {
-    return read([](const BorderLine& line, const Palette& palette) {
-        return Variant(static_cast<double>(RgbOf(line.color, palette, 0)));
+    return read([](const BorderLine& line, const WorkbookColors& colors) {
+        return Variant(static_cast<double>(RgbOf(line.color, colors, 0)));
     });
 }
 
@@ -391,9 +391,8 @@ void BordersView::SetColor(int32_t rgb) {
 }
 
 Variant BordersView::ColorIndex() {
-    return read([](const BorderLine& line, const Palette& palette) {
-        return Variant(!line.Drawn() ? xlColorIndexNone
-                                     : ColorIndexOf(line.color, palette, xlColorIndexAutomatic));
+    return read([](const BorderLine& line, const WorkbookColors& colors) {
+        return Variant(!line.Drawn() ? xlColorIndexNone : ColorIndexOf(line.color, colors, xlColorIndexAutomatic));
     });
 }
 
@@ -403,7 +402,7 @@ void BordersView::SetColorIndex(int32_t index) {
 }
 
 Variant BordersView::ThemeColor() {
-    return read([](const BorderLine& line, const Palette&) { return Variant(ThemeColorOf(line.color)); });
+    return read([](const BorderLine& line, const WorkbookColors&) { return Variant(ThemeColorOf(line.color)); });
 }
 
 void BordersView::SetThemeColor(int32_t themeColor) {
@@ -412,7 +411,7 @@ void BordersView::SetThemeColor(int32_t themeColor) {
 }
 
 Variant BordersView::TintAndShade() {
-    return read([](const BorderLine& line, const Palette&) { return Variant(TintOf(line.color)); });
+    return read([](const BorderLine& line, const WorkbookColors&) { return Variant(TintOf(line.color)); });
 }
 
 void BordersView::SetTintAndShade(double tint) {

@@ -46,8 +46,8 @@ void CellRichText::EditFonts(size_t start, size_t count, const std::function<voi
     book.SetSaved(false);
 }
 
-const Palette& CellRichText::Colors() {
-    return cell_.Book().Palette();
+const WorkbookColors& CellRichText::Colors() {
+    return cell_.Book().Colors();
 }
 
 }  // namespace excel::embedded

@@ -17,7 +17,7 @@ public:
     void SetText(const RichText& text) override;
     // Only text holds runs; for any other value Excel formats the whole cell.
     void EditFonts(size_t start, size_t count, const std::function<void(FontFormat&)>& edit) override;
-    const Palette& Colors() override;
+    const WorkbookColors& Colors() override;
 
 private:
     RangeCells cell_;

@@ -38,7 +38,7 @@ public:
         source_->EditFonts(span.start, span.count, edit);
     }
 
-    const Palette& Colors() override { return source_->Colors(); }
+    const WorkbookColors& Colors() override { return source_->Colors(); }
 
 private:
     std::shared_ptr<RichTextSource> source_;

@@ -141,8 +141,8 @@ void FontView::SetFontStyle(const std::string& style) {
 }
 
 Variant FontView::Color() {
-    const Palette& palette = target_->Colors();
-    return read([&](const FontFormat& font) { return Variant(static_cast<double>(RgbOf(font.color, palette, 0))); });
+    const WorkbookColors& colors = target_->Colors();
+    return read([&](const FontFormat& font) { return Variant(static_cast<double>(RgbOf(font.color, colors, 0))); });
 }
 
 void FontView::SetColor(int32_t rgb) {
@@ -151,9 +151,9 @@ void FontView::SetColor(int32_t rgb) {
 }
 
 Variant FontView::ColorIndex() {
-    const Palette& palette = target_->Colors();
+    const WorkbookColors& colors = target_->Colors();
     return read(
-        [&](const FontFormat& font) { return Variant(ColorIndexOf(font.color, palette, xlColorIndexAutomatic)); });
+        [&](const FontFormat& font) { return Variant(ColorIndexOf(font.color, colors, xlColorIndexAutomatic)); });
 }
 
 void FontView::SetColorIndex(int32_t index) {

@@ -17,7 +17,7 @@ public:
     virtual ~FontTarget() = default;
     virtual std::vector<FontFormat> Fonts() = 0;  // the distinct fonts shown
     virtual void EditFonts(const std::function<void(FontFormat&)>& edit) = 0;
-    virtual const Palette& Colors() = 0;
+    virtual const WorkbookColors& Colors() = 0;
 };
 
 class FontView final : public excel::Font {

@@ -71,7 +71,7 @@ template <class Project>
 Variant InteriorView::read(Project&& project) {
     const WorkbookModel& book = cells_.Book();
     const auto ids = cells_.DistinctFormats();
-    return CommonValue(ids, [&](uint32_t id) { return project(book.Formats().Get(id).fill, book.Palette()); });
+    return CommonValue(ids, [&](uint32_t id) { return project(book.Formats().Get(id).fill, book.Colors()); });
 }
 
 void InteriorView::setCellColor(const FormatColor& color) {
@@ -95,8 +95,8 @@ void InteriorView::setLineColor(const FormatColor& color) {
 }
 
 Variant InteriorView::Color() {
-    return read([](const CellFill& fill, const Palette& palette) {
-        return Variant(static_cast<double>(HasFill(fill) ? RgbOf(CellColor(fill), palette, white) : white));
+    return read([](const CellFill& fill, const WorkbookColors& colors) {
+        return Variant(static_cast<double>(HasFill(fill) ? RgbOf(CellColor(fill), colors, white) : white));
     });
 }
 
@@ -105,9 +105,8 @@ void InteriorView::SetColor(int32_t rgb) {
 }
 
 Variant InteriorView::ColorIndex() {
-    return read([](const CellFill& fill, const Palette& palette) {
-        return Variant(HasFill(fill) ? ColorIndexOf(CellColor(fill), palette, xlColorIndexAutomatic)
-                                     : xlColorIndexNone);
+    return read([](const CellFill& fill, const WorkbookColors& colors) {
+        return Variant(HasFill(fill) ? ColorIndexOf(CellColor(fill), colors, xlColorIndexAutomatic) : xlColorIndexNone);
     });
 }
 
@@ -124,7 +123,7 @@ void InteriorView::SetColorIndex(int32_t index) {
 }
 
 Variant InteriorView::ThemeColor() {
-    return read([](const CellFill& fill, const Palette&) {
+    return read([](const CellFill& fill, const WorkbookColors&) {
         return HasFill(fill) ? Variant(ThemeColorOf(CellColor(fill))) : Variant(xlColorIndexNone);
     });
 }
@@ -134,8 +133,9 @@ void InteriorView::SetThemeColor(int32_t themeColor) {
 }
 
 Variant InteriorView::TintAndShade() {
-    return read(
-        [](const CellFill& fill, const Palette&) { return Variant(HasFill(fill) ? TintOf(CellColor(fill)) : 0.0); });
+    return read([](const CellFill& fill, const WorkbookColors&) {
+        return Variant(HasFill(fill) ? TintOf(CellColor(fill)) : 0.0);
+    });
 }
 
 void InteriorView::SetTintAndShade(double tint) {
@@ -148,9 +148,7 @@ void InteriorView::SetTintAndShade(double tint) {
 }
 
 Variant InteriorView::Pattern() {
-    return read([](const CellFill& fill, const Palette&) {
-        return Variant(patterns[fill.pattern]);
-    });
+    return read([](const CellFill& fill, const WorkbookColors&) { return Variant(patterns[fill.pattern]); });
 }
 
 void InteriorView::SetPattern(int32_t pattern) {
@@ -179,8 +177,8 @@ void InteriorView::SetPattern(int32_t pattern) {
 }
 
 Variant InteriorView::PatternColor() {
-    return read([](const CellFill& fill, const Palette& palette) {
-        return Variant(static_cast<double>(RgbOf(LineColor(fill), palette, 0)));
+    return read([](const CellFill& fill, const WorkbookColors& colors) {
+        return Variant(static_cast<double>(RgbOf(LineColor(fill), colors, 0)));
     });
 }
 
@@ -189,8 +187,8 @@ void InteriorView::SetPatternColor(int32_t rgb) {
 }
 
 Variant InteriorView::PatternColorIndex() {
-    return read([](const CellFill& fill, const Palette& palette) {
-        return Variant(ColorIndexOf(LineColor(fill), palette, xlColorIndexAutomatic));
+    return read([](const CellFill& fill, const WorkbookColors& colors) {
+        return Variant(ColorIndexOf(LineColor(fill), colors, xlColorIndexAutomatic));
     });
 }
 

@@ -43,7 +43,7 @@ public:
     void EditFonts(const std::function<void(FontFormat&)>& edit) override {
         cells_.EditFormats([&](CellFormat& format) { edit(format.font); });
     }
-    const Palette& Colors() override { return cells_.Book().Palette(); }
+    const WorkbookColors& Colors() override { return cells_.Book().Colors(); }
 
 private:
     RangeCells cells_;

@@ -22,7 +22,7 @@ void ColorFormatView::set(const ShapeColor& color) {
 }
 
 int32_t ColorFormatView::RGB() {
-    return static_cast<int32_t>(RgbOf(color(), shape_.Sheet().Book().Palette()));
+    return static_cast<int32_t>(RgbOf(color(), shape_.Sheet().Book().Colors()));
 }
 
 void ColorFormatView::SetRGB(int32_t rgb) {

@@ -36,8 +36,8 @@ void ShapeRichText::EditFonts(size_t start, size_t count, const std::function<vo
     shape_.Changed();
 }
 
-const Palette& ShapeRichText::Colors() {
-    return shape_.Sheet().Book().Palette();
+const WorkbookColors& ShapeRichText::Colors() {
+    return shape_.Sheet().Book().Colors();
 }
 
 }  // namespace excel::embedded

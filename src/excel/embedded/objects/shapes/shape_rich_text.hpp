@@ -15,7 +15,7 @@ public:
     FontFormat BaseFont() override;
     void SetText(const RichText& text) override;
     void EditFonts(size_t start, size_t count, const std::function<void(FontFormat&)>& edit) override;
-    const Palette& Colors() override;
+    const WorkbookColors& Colors() override;
 
 private:
     ShapeHandle shape_;
