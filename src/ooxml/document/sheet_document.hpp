@@ -5,6 +5,7 @@
 #include "ooxml/document/text_box_shape.hpp"
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -63,6 +64,19 @@ struct CellBlock {
     friend bool operator==(const CellBlock&, const CellBlock&) = default;
 };
 
+// A row as the writer takes it, with the formulas its cells' formula indices name.
+struct RowView {
+    const Row& row;
+    const std::vector<std::string>& formulas;
+    const std::map<uint32_t, CellBlock>& arrayFormulas;  // formula index -> the block it fills
+};
+
+using RowVisitor = std::function<void(const RowView&)>;
+// Gives a sheet's rows to the visitor one at a time, in ascending order, each valid during its
+// call; it may be asked more than once. A sheet saved from a model streams its rows so that they
+// are never all held a second time.
+using RowStream = std::function<void(const RowVisitor&)>;
+
 struct SheetDocument {
     std::string name;
     std::string state = "visible";  // "visible", "hidden", "veryHidden"
@@ -74,12 +88,14 @@ struct SheetDocument {
     double defaultRowHeight = 15.0;
     std::string activeCell = "A1";
     std::vector<ColumnRange> columns;  // ascending, not overlapping
-    std::vector<Row> rows;             // ascending
+    std::vector<Row> rows;             // ascending; none when rowStream gives them
     std::vector<std::string> formulas;  // without the leading "="
     std::map<uint32_t, CellBlock> arrayFormulas;  // formula index -> the block an array formula fills
     std::vector<CellBlock> merges;
     std::vector<TextBoxShape> textBoxes;  // in z-order, bottom first
     std::vector<CellComment> comments;    // in row, then column order
+    RowStream rowStream;                  // when set, the rows instead of rows and formulas
+    bool streamedFormulas = false;        // a streamed row has a cell with a formula
     // What the opened sheet held beyond the rest of the document; none for a new sheet.
     std::shared_ptr<const CarriedWorksheet> carried;
 };

@@ -1,5 +1,6 @@
 #include "ooxml/shared_strings/shared_strings_part.hpp"
 
+#include "ooxml/document/sheet_rows.hpp"
 #include "ooxml/styles/font_element.hpp"
 
 #include <algorithm>
@@ -26,14 +27,14 @@ SharedStringTable BuildSharedStringTable(const WorkbookDocument& document) {
     // Formula results are written in their cells, not as references. Indices out of range are
     // skipped here and refused by the worksheet writer.
     for (const SheetDocument& sheet : document.sheets) {
-        for (const Row& row : sheet.rows) {
-            for (const Cell& cell : row.cells) {
+        ForEachRow(sheet, [&table](const RowView& view) {
+            for (const Cell& cell : view.row.cells) {
                 if (cell.type == CellType::String && cell.formula == NoFormula && cell.string < table.positions.size()) {
                     table.positions[cell.string] = 0;
                     ++table.references;
                 }
             }
-        }
+        });
     }
     for (uint32_t index = 0; index < table.positions.size(); ++index) {
         if (table.positions[index] != SharedStringTable::kNotShared) {

@@ -2,6 +2,7 @@
 
 #include "ooxml/carried/carried_attributes.hpp"
 #include "ooxml/carried/carried_element_writer.hpp"
+#include "ooxml/document/sheet_rows.hpp"
 #include "ooxml/workbook/workbook_element_order.hpp"
 #include "ooxml/worksheet/unresolvable_references.hpp"
 
@@ -13,9 +14,9 @@ namespace {
 
 const std::vector<CarriedAttribute> NoAttributes;
 
-bool HasFormulas(const WorkbookDocument& document) {
+bool AnySheetHasFormulas(const WorkbookDocument& document) {
     return std::any_of(document.sheets.begin(), document.sheets.end(),
-                       [](const SheetDocument& sheet) { return !sheet.formulas.empty(); });
+                       [](const SheetDocument& sheet) { return HasFormulas(sheet); });
 }
 
 class WorkbookWriter {
@@ -169,7 +170,7 @@ private:
         // The engine does not calculate: a formula it wrote has no result, and a result kept from an
         // opened file may be stale once inputs changed. The results stay for readers that do not
         // calculate, and Excel recalculates every formula on opening.
-        if (HasFormulas(document_)) {
+        if (AnySheetHasFormulas(document_)) {
             xml_.Attribute("fullCalcOnLoad", "1");
         }
         xml_.EndElement();

@@ -2,6 +2,7 @@
 
 #include "ooxml/carried/carried_attributes.hpp"
 #include "ooxml/carried/carried_element_writer.hpp"
+#include "ooxml/document/sheet_rows.hpp"
 #include "ooxml/package_error.hpp"
 #include "ooxml/worksheet/column_name.hpp"
 #include "ooxml/worksheet/unresolvable_references.hpp"
@@ -118,15 +119,16 @@ private:
 
     void WriteDimension() {
         uint32_t firstRow = 0, lastRow = 0, firstColumn = kMaxColumns, lastColumn = 0;
-        for (const Row& row : sheet_.rows) {
+        ForEachRow(sheet_, [&](const RowView& view) {
+            const Row& row = view.row;
             if (row.cells.empty()) {
-                continue;
+                return;
             }
             firstRow = firstRow == 0 ? row.index : firstRow;
             lastRow = row.index;
             firstColumn = std::min(firstColumn, row.cells.front().column);
             lastColumn = std::max(lastColumn, row.cells.back().column);
-        }
+        });
         xml_.StartElement("dimension");
         if (firstRow == 0) {
             xml_.AttributeVerbatim("ref", "A1");
@@ -233,20 +235,21 @@ private:
     void WriteSheetData() {
         xml_.StartElement("sheetData");
         uint32_t previousRow = 0;
-        for (const Row& row : sheet_.rows) {
+        ForEachRow(sheet_, [&](const RowView& view) {
+            const Row& row = view.row;
             if (row.index <= previousRow || row.index > kMaxRows) {
                 Malformed(sheet_, "row " + std::to_string(row.index) + " is out of order or range");
             }
             previousRow = row.index;
-            if (row.cells.empty() && !row.HasSettings()) {
-                continue;
+            if (!row.cells.empty() || row.HasSettings()) {
+                WriteRow(view);
             }
-            WriteRow(row);
-        }
+        });
         xml_.EndElement();
     }
 
-    void WriteRow(const Row& row) {
+    void WriteRow(const RowView& view) {
+        const Row& row = view.row;
         char digits[12];
         const std::string_view rowNumber(digits, static_cast<std::size_t>(
                                                      std::to_chars(digits, digits + sizeof digits, row.index).ptr - digits));
@@ -272,7 +275,7 @@ private:
                                       std::to_string(row.index) + " is out of order or range");
             }
             previousColumn = cell.column;
-            WriteCell(cell, Reference(row.index, cell.column));
+            WriteCell(cell, Reference(row.index, cell.column), view);
         }
         xml_.EndElement();
     }
@@ -297,10 +300,10 @@ private:
         return document_.strings[cell.string];
     }
 
-    void WriteCell(const Cell& cell, std::string_view reference) {
+    void WriteCell(const Cell& cell, std::string_view reference, const RowView& view) {
         CheckFormat(cell.format);
         const bool hasFormula = cell.formula != NoFormula;
-        if (hasFormula && cell.formula >= sheet_.formulas.size()) {
+        if (hasFormula && cell.formula >= view.formulas.size()) {
             Malformed(sheet_, "cell " + std::string(reference) + " refers to a missing formula");
         }
         // A number the file cannot hold (NaN, infinity) is stored as Excel would show it.
@@ -318,7 +321,7 @@ private:
             xml_.AttributeVerbatim("t", "e");
         }
         if (hasFormula) {
-            WriteFormula(cell.formula);
+            WriteFormula(cell.formula, view);
         }
         switch (cell.type) {
         case CellType::Blank:
@@ -352,10 +355,10 @@ private:
         xml_.EndElement();
     }
 
-    void WriteFormula(uint32_t index) {
-        const std::string& formula = sheet_.formulas[index];
+    void WriteFormula(uint32_t index, const RowView& view) {
+        const std::string& formula = view.formulas[index];
         xml_.StartElement("f");
-        if (const auto array = sheet_.arrayFormulas.find(index); array != sheet_.arrayFormulas.end()) {
+        if (const auto array = view.arrayFormulas.find(index); array != view.arrayFormulas.end()) {
             xml_.AttributeVerbatim("t", "array");
             xml_.Attribute("ref", BlockReference(array->second));
         }

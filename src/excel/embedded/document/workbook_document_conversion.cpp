@@ -13,7 +13,10 @@
 #include "ooxml/opc/carried_cell_moves.hpp"
 
 #include <algorithm>
+#include <cassert>
 #include <ctime>
+#include <map>
+#include <memory>
 #include <unordered_map>
 
 namespace excel::embedded {
@@ -31,31 +34,39 @@ uint32_t FileRgb(uint32_t rgbLong) {
 }
 
 // Numbers the strings cells use, in first-use order, so unused pool entries are not saved.
+// Once closed, it only answers the numbers given: streamed rows are converted after the document's
+// string list has moved on with the document.
 class StringNumbering {
 public:
-    StringNumbering(const StringPool& pool, std::vector<ooxml::SharedString>& out) : pool_(pool), out_(out) {}
+    StringNumbering(const StringPool& pool, std::vector<ooxml::SharedString>& out) : pool_(pool), out_(&out) {}
 
     uint32_t Number(uint32_t poolId) {
         if (poolId >= numbers_.size()) {
             numbers_.resize(poolId + 1, unmapped);
         }
         if (numbers_[poolId] == unmapped) {
-            numbers_[poolId] = static_cast<uint32_t>(out_.size());
-            out_.push_back(DocumentText(pool_.Get(poolId)));
+            assert(out_ != nullptr);
+            numbers_[poolId] = static_cast<uint32_t>(out_->size());
+            out_->push_back(DocumentText(pool_.Get(poolId)));
         }
         return numbers_[poolId];
     }
     uint32_t NumberText(const std::string& text) {
-        auto [it, inserted] = texts_.try_emplace(text, static_cast<uint32_t>(out_.size()));
-        if (inserted) {
-            out_.push_back(ooxml::SharedString{text, {}});
+        const auto found = texts_.find(text);
+        if (found != texts_.end()) {
+            return found->second;
         }
-        return it->second;
+        assert(out_ != nullptr);
+        const auto number = static_cast<uint32_t>(out_->size());
+        out_->push_back(ooxml::SharedString{text, {}});
+        texts_.emplace(text, number);
+        return number;
     }
+    void Close() { out_ = nullptr; }
 
 private:
     const StringPool& pool_;
-    std::vector<ooxml::SharedString>& out_;
+    std::vector<ooxml::SharedString>* out_;
     std::vector<uint32_t> numbers_;
     std::unordered_map<std::string, uint32_t> texts_;
 };
@@ -108,13 +119,19 @@ void ConvertValue(const Cell& value, StringNumbering& strings, ooxml::Cell& out)
 
 // Adds an opened formula of the cell at row, column to the sheet's formulas with its result and,
 // for an array formula, the block it fills.
+// The formulas of converted cells, which the cells name by index.
+struct FormulaList {
+    std::vector<std::string>& texts;
+    std::map<uint32_t, ooxml::CellBlock>& arrays;
+};
+
 uint32_t ConvertOpenedFormula(const OpenedFormula& formula, int32_t row, int32_t column, const StringPool& pool,
-                              StringNumbering& strings, ooxml::SheetDocument& sheet, ooxml::Cell& out) {
-    const auto index = static_cast<uint32_t>(sheet.formulas.size());
-    sheet.formulas.push_back(pool.Get(formula.text).text);
+                              StringNumbering& strings, FormulaList formulas, ooxml::Cell& out) {
+    const auto index = static_cast<uint32_t>(formulas.texts.size());
+    formulas.texts.push_back(pool.Get(formula.text).text);
     ConvertValue(formula.result, strings, out);
     if (formula.IsArray()) {
-        sheet.arrayFormulas.emplace(
+        formulas.arrays.emplace(
             index, ooxml::CellBlock{static_cast<uint32_t>(row), static_cast<uint32_t>(column),
                                     static_cast<uint32_t>(std::min(row + formula.arrayRows - 1, MaxRow)),
                                     static_cast<uint32_t>(std::min(column + formula.arrayColumns - 1, MaxColumn))});
@@ -122,9 +139,80 @@ uint32_t ConvertOpenedFormula(const OpenedFormula& formula, int32_t row, int32_t
     return index;
 }
 
-ooxml::SheetDocument ConvertSheet(const WorksheetModel& sheet, StringNumbering& strings) {
+// The model's row as the document's, its cells' formulas added to formulas.
+void ConvertRow(const RowData& row, const WorksheetModel& sheet, StringNumbering& strings, FormulaList formulas,
+                ooxml::Row& out) {
     const StringPool& pool = sheet.Book().Strings();
-    const OpenedFormulaTable& formulas = sheet.Book().OpenedFormulas();
+    const OpenedFormulaTable& opened = sheet.Book().OpenedFormulas();
+    out.index = static_cast<uint32_t>(row.index);
+    out.height = row.HasCustomHeight() ? std::optional(row.height) : std::nullopt;
+    out.format = row.hasFormat ? std::optional(row.format) : std::nullopt;
+    out.hidden = row.hidden;
+    out.outlineLevel = row.outlineLevel;
+    out.collapsed = row.collapsed;
+    out.cells.clear();
+    out.cells.reserve(row.cells.size());
+    for (const Cell& cell : row.cells) {
+        ooxml::Cell outCell;
+        outCell.column = cell.column;
+        outCell.format = cell.format;
+        if (cell.kind == CellKind::Formula) {
+            outCell.formula = static_cast<uint32_t>(formulas.texts.size());
+            formulas.texts.push_back(pool.Get(cell.text).text);
+        } else if (cell.kind == CellKind::OpenedFormula) {
+            outCell.formula =
+                ConvertOpenedFormula(opened.Get(cell.text), row.index, cell.column, pool, strings, formulas, outCell);
+        } else {
+            ConvertValue(cell, strings, outCell);
+        }
+        out.cells.push_back(outCell);
+    }
+}
+
+// The sheet's rows, held by the document.
+void ConvertRows(const WorksheetModel& sheet, StringNumbering& strings, ooxml::SheetDocument& out) {
+    out.rows.reserve(sheet.Cells().Rows().size());
+    for (const RowData& row : sheet.Cells().Rows()) {
+        if (!row.IsBare()) {
+            ConvertRow(row, sheet, strings, FormulaList{out.formulas, out.arrayFormulas}, out.rows.emplace_back());
+        }
+    }
+}
+
+// The sheet's rows, made one at a time each time the writer asks for them, so that saving holds
+// no second copy of the cells. Their strings are numbered now, in the order a held conversion
+// would number them.
+void StreamRows(const WorksheetModel& sheet, const std::shared_ptr<StringNumbering>& strings,
+                ooxml::SheetDocument& out) {
+    std::vector<std::string> texts;
+    std::map<uint32_t, ooxml::CellBlock> arrays;
+    ooxml::Row scratch;
+    for (const RowData& row : sheet.Cells().Rows()) {
+        if (!row.IsBare()) {
+            ConvertRow(row, sheet, *strings, FormulaList{texts, arrays}, scratch);
+            out.streamedFormulas = out.streamedFormulas || !texts.empty();
+            texts.clear();
+            arrays.clear();
+        }
+    }
+    out.rowStream = [&sheet, strings](const ooxml::RowVisitor& visit) {
+        std::vector<std::string> formulas;
+        std::map<uint32_t, ooxml::CellBlock> arrayFormulas;
+        ooxml::Row row;
+        for (const RowData& data : sheet.Cells().Rows()) {
+            if (data.IsBare()) {
+                continue;
+            }
+            formulas.clear();
+            arrayFormulas.clear();
+            ConvertRow(data, sheet, *strings, FormulaList{formulas, arrayFormulas}, row);
+            visit(ooxml::RowView{row, formulas, arrayFormulas});
+        }
+    };
+}
+
+ooxml::SheetDocument ConvertSheet(const WorksheetModel& sheet, const std::shared_ptr<StringNumbering>& strings,
+                                  RowDelivery rows) {
     const SheetSettings& settings = sheet.Settings();
     ooxml::SheetDocument out;
     out.name = settings.name;
@@ -140,39 +228,10 @@ ooxml::SheetDocument ConvertSheet(const WorksheetModel& sheet, StringNumbering& 
         out.defaultColumnWidth = FileColumnWidth(settings.standardWidth);
     }
     ConvertColumns(sheet, out);
-    out.rows.reserve(sheet.Cells().Rows().size());
-    for (const RowData& row : sheet.Cells().Rows()) {
-        if (row.IsBare()) {
-            continue;
-        }
-        ooxml::Row outRow;
-        outRow.index = static_cast<uint32_t>(row.index);
-        if (row.HasCustomHeight()) {
-            outRow.height = row.height;
-        }
-        if (row.hasFormat) {
-            outRow.format = row.format;
-        }
-        outRow.hidden = row.hidden;
-        outRow.outlineLevel = row.outlineLevel;
-        outRow.collapsed = row.collapsed;
-        outRow.cells.reserve(row.cells.size());
-        for (const Cell& cell : row.cells) {
-            ooxml::Cell outCell;
-            outCell.column = cell.column;
-            outCell.format = cell.format;
-            if (cell.kind == CellKind::Formula) {
-                outCell.formula = static_cast<uint32_t>(out.formulas.size());
-                out.formulas.push_back(pool.Get(cell.text).text);
-            } else if (cell.kind == CellKind::OpenedFormula) {
-                outCell.formula =
-                    ConvertOpenedFormula(formulas.Get(cell.text), row.index, cell.column, pool, strings, out, outCell);
-            } else {
-                ConvertValue(cell, strings, outCell);
-            }
-            outRow.cells.push_back(outCell);
-        }
-        out.rows.push_back(std::move(outRow));
+    if (rows == RowDelivery::Streamed) {
+        StreamRows(sheet, strings, out);
+    } else {
+        ConvertRows(sheet, *strings, out);
     }
     for (const CellBlock& merge : sheet.Merges()) {
         out.merges.push_back(ooxml::CellBlock{static_cast<uint32_t>(merge.top), static_cast<uint32_t>(merge.left),
@@ -312,15 +371,15 @@ void LoadSheet(WorksheetModel& sheet, const ooxml::SheetDocument& in, const std:
 
 }  // namespace
 
-ooxml::WorkbookDocument ToDocument(const WorkbookModel& book, const std::string& author) {
+ooxml::WorkbookDocument ToDocument(const WorkbookModel& book, const std::string& author, RowDelivery rows) {
     ooxml::WorkbookDocument document;
     const std::vector<CellFormat>& formats = book.Formats().All();
     document.formats.resize(formats.size());
     std::transform(formats.begin(), formats.end(), document.formats.begin(), DocumentCellFormat);
-    StringNumbering strings(book.Strings(), document.strings);
+    const auto strings = std::make_shared<StringNumbering>(book.Strings(), document.strings);
     document.carried = book.Carried();
     for (const auto& sheet : book.Sheets()) {
-        document.sheets.push_back(ConvertSheet(*sheet, strings));
+        document.sheets.push_back(ConvertSheet(*sheet, strings, rows));
         MoveCarriedCells(*sheet, document);
         document.sheets.back().tabSelected = sheet.get() == book.ActiveSheet();
         if (sheet.get() == book.ActiveSheet()) {
@@ -350,6 +409,7 @@ ooxml::WorkbookDocument ToDocument(const WorkbookModel& book, const std::string&
     document.properties.lastModifiedBy = author;
     document.properties.created = std::time(nullptr);
     document.properties.modified = document.properties.created;
+    strings->Close();
     return document;
 }
 

@@ -36,7 +36,7 @@ std::shared_ptr<WorkbookModel> OpenWorkbookFile(ApplicationModel& app, const std
 
 void SaveWorkbookFile(const WorkbookModel& book, const std::string& fullName) {
     try {
-        ooxml::WritePackage(ToDocument(book, book.App().userName), fullName);
+        ooxml::WritePackage(ToDocument(book, book.App().userName, RowDelivery::Streamed), fullName);
     } catch (const ooxml::PackageError& failure) {
         switch (failure.reason()) {
             case ooxml::PackageError::Reason::PathNotFound:
