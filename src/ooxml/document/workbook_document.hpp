@@ -39,6 +39,9 @@ struct WorkbookDocument {
     bool date1904 = false;          // serial 0 is 1904-01-01 (else serial 1 is 1900-01-01)
     bool lockStructure = false;
     bool lockWindows = false;
+    // The protection is the opened file's, locked with a password whose hash it keeps (carried
+    // with the protection's other attributes); false once the protection changed.
+    bool passwordFromFile = false;
     DocumentProperties properties;
     // What the opened file held beyond the rest of the document; none for a new workbook.
     std::shared_ptr<const CarriedWorkbook> carried;

@@ -110,6 +110,11 @@ public:
         document_.date1904 = workbook.date1904;
         document_.lockStructure = workbook.lockStructure;
         document_.lockWindows = workbook.lockWindows;
+        document_.passwordFromFile =
+            std::any_of(carried_->protectionAttributes.begin(), carried_->protectionAttributes.end(),
+                        [](const CarriedAttribute& attribute) {
+                            return attribute.first == "workbookPassword" || attribute.first == "workbookHashValue";
+                        });
 
         std::set<std::string> sheetRelationshipIds;
         for (const SheetEntry& entry : workbook.sheets) {

@@ -76,9 +76,11 @@ private:
         xml_.EndElement();
     }
 
-    // The password hash and the other settings of an opened workbook's protection stay with it.
+    // The password hash and the other settings of an opened workbook's protection stay with it
+    // while the protection is the file's.
     void WriteProtection() {
-        const std::vector<CarriedAttribute>& attributes = Carried(&CarriedWorkbook::protectionAttributes);
+        const std::vector<CarriedAttribute>& attributes =
+            document_.passwordFromFile ? Carried(&CarriedWorkbook::protectionAttributes) : NoAttributes;
         if (!document_.lockStructure && !document_.lockWindows && attributes.empty()) {
             return;
         }

@@ -172,3 +172,38 @@ TEST_F(CarriedContentSaveOpenTest, AddedShapesTakeIdsThePicturesOfTheFileLeaveFr
 }
 
 }  // namespace
+
+namespace {
+
+// A one-sheet workbook file whose structure is locked with a password only its hash stands for.
+ooxml_test::PackageParts PasswordProtectedWorkbook() {
+    ooxml_test::PackageParts parts = ooxml_test::MinimalPackage("<sheetData/>");
+    std::string& workbook = parts["xl/workbook.xml"];
+    workbook.insert(workbook.find("<sheets>"),
+                    R"(<workbookProtection workbookAlgorithmName="SHA-512" workbookHashValue="aGFzaA==" )"
+                    R"(workbookSaltValue="c2FsdA==" workbookSpinCount="100000" lockStructure="1"/>)");
+    return parts;
+}
+
+TEST_F(CarriedContentSaveOpenTest, AFilePasswordStaysUntilTheProtectionChanges) {
+    const ooxml_test::TemporaryPackage file(PasswordProtectedWorkbook());
+    book->Close(false);
+    auto workbook = app->Workbooks()->Open(file.Path());
+    EXPECT_TRUE(workbook->ProtectStructure());
+    // The password cannot be checked against its hash: no password unprotects the workbook.
+    EXPECT_EQ(ErrorCodeOf([&] { workbook->Unprotect(std::string()); }), kRefused);
+    EXPECT_EQ(ErrorCodeOf([&] { workbook->Unprotect(std::string("guess")); }), kRefused);
+    EXPECT_TRUE(workbook->ProtectStructure());
+    std::string saved = Saved(workbook, "kept.xlsx").at("xl/workbook.xml");
+    EXPECT_NE(saved.find(R"(workbookHashValue="aGFzaA==")"), std::string::npos);
+    EXPECT_NE(saved.find(R"(lockStructure="1")"), std::string::npos);
+
+    workbook->Protect(std::string("new"), true, false);
+    saved = Saved(workbook, "changed.xlsx").at("xl/workbook.xml");
+    EXPECT_EQ(saved.find("workbookHashValue"), std::string::npos);
+    EXPECT_NE(saved.find(R"(lockStructure="1")"), std::string::npos);
+    workbook->Unprotect(std::string("new"));
+    EXPECT_FALSE(workbook->ProtectStructure());
+}
+
+}  // namespace

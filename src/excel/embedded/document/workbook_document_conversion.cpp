@@ -404,6 +404,7 @@ ooxml::WorkbookDocument ToDocument(const WorkbookModel& book, const std::string&
     std::transform(book.ThemeColors().begin(), book.ThemeColors().end(), document.themeColors.begin(), FileRgb);
     document.date1904 = book.Date1904();
     document.lockStructure = book.ProtectStructure();
+    document.passwordFromFile = book.PasswordFromFile();
     document.lockWindows = book.ProtectWindows();
     document.properties.creator = author;
     document.properties.lastModifiedBy = author;
@@ -462,7 +463,11 @@ void LoadDocument(WorkbookModel& book, const ooxml::WorkbookDocument& document) 
         std::transform(document.themeColors.begin(), document.themeColors.end(), theme.begin(), RgbLongFromArgb);
         book.SetThemeColors(theme);
     }
-    book.Protect("", document.lockStructure, document.lockWindows);
+    if (document.passwordFromFile) {
+        book.ProtectWithFilePassword(document.lockStructure, document.lockWindows);
+    } else {
+        book.Protect("", document.lockStructure, document.lockWindows);
+    }
     book.SetCarried(document.carried);
 }
 

@@ -324,10 +324,16 @@ void WorkbookModel::Protect(const std::string& password, bool structure, bool wi
     protectStructure_ = structure;
     protectWindows_ = windows;
     password_ = password;
+    passwordFromFile_ = false;
+}
+
+void WorkbookModel::ProtectWithFilePassword(bool structure, bool windows) {
+    Protect("", structure, windows);
+    passwordFromFile_ = true;
 }
 
 void WorkbookModel::Unprotect(const std::string& password) {
-    if ((protectStructure_ || protectWindows_) && password != password_) {
+    if ((protectStructure_ || protectWindows_) && (passwordFromFile_ || password != password_)) {
         ThrowRefused(
             "The password you supplied is not correct. Verify that the CAPS LOCK key is off and be sure to "
             "use the correct capitalization.");

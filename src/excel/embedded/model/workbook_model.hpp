@@ -90,6 +90,10 @@ public:
     bool ProtectStructure() const { return protectStructure_; }
     bool ProtectWindows() const { return protectWindows_; }
     void Protect(const std::string& password, bool structure, bool windows);
+    // Protection an opened file locked with a password the engine cannot check (it keeps only its
+    // hash): unprotecting is refused, and the file's password stays until the protection changes.
+    void ProtectWithFilePassword(bool structure, bool windows);
+    bool PasswordFromFile() const { return passwordFromFile_; }
     void Unprotect(const std::string& password);
     void RefuseWhenStructureProtected() const;
 
@@ -124,6 +128,7 @@ private:
     bool protectStructure_ = false;
     bool protectWindows_ = false;
     std::string password_;
+    bool passwordFromFile_ = false;
     bool date1904_ = false;
     bool saved_ = true;
     std::shared_ptr<const ooxml::CarriedWorkbook> carried_;
