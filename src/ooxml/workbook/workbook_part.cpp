@@ -142,6 +142,7 @@ private:
         if (name.hidden) {
             xml_.Attribute("hidden", "1");
         }
+        WriteCarriedAttributes(xml_, name.otherAttributes);
         xml_.Text(name.formula.find('[') == std::string::npos ? name.formula
                                                              : WithoutUnresolvableReferences(name.formula, targets_));
         xml_.EndElement();

@@ -31,6 +31,7 @@ DefinedName ReadDefinedName(pugi::xml_node node) {
     name.formula = formula;
     name.localSheet = AttributeUnsigned(node, "localSheetId");
     name.hidden = AttributeBool(node, "hidden", false);
+    name.otherAttributes = AttributesExcept(node, {"name", "localSheetId", "hidden"});
     return name;
 }
 

@@ -207,3 +207,20 @@ TEST_F(CarriedContentSaveOpenTest, AFilePasswordStaysUntilTheProtectionChanges) 
 }
 
 }  // namespace
+
+namespace {
+
+TEST_F(CarriedContentSaveOpenTest, NamesKeepWhatTheFileSaidOfThem) {
+    ooxml_test::PackageParts parts = ooxml_test::MinimalPackage("<sheetData/>");
+    std::string& workbookXml = parts["xl/workbook.xml"];
+    workbookXml.insert(workbookXml.find("</workbook>"),
+                       R"(<definedNames><definedName name="Run" function="1" vbProcedure="1" comment="the macro">)"
+                       R"(Sheet1!$A$1</definedName></definedNames>)");
+    const ooxml_test::TemporaryPackage file(parts);
+    book->Close(false);
+    auto workbook = app->Workbooks()->Open(file.Path());
+    const std::string saved = Saved(workbook, "names.xlsx").at("xl/workbook.xml");
+    EXPECT_NE(saved.find(R"(function="1" vbProcedure="1" comment="the macro")"), std::string::npos) << saved;
+}
+
+}  // namespace

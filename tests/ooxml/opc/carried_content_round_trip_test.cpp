@@ -295,3 +295,17 @@ TEST(CarriedContentRoundTrip, ARelationshipToAMissingPartIsLeftOut) {
 }
 
 }  // namespace
+
+namespace {
+
+TEST(CarriedContentRoundTrip, DefinedNamesKeepWhatTheFileSaidOfThem) {
+    PackageParts input = RichPackage();
+    std::string& workbook = input["xl/workbook.xml"];
+    workbook.replace(workbook.find(R"(<definedName name="Rate">)"), 25,
+                     R"(<definedName name="Rate" comment="from rates.xlsx" function="1" vbProcedure="1">)");
+    const PackageParts output = Resaved(input);
+    EXPECT_NE(output.at("xl/workbook.xml").find(R"(comment="from rates.xlsx" function="1" vbProcedure="1")"),
+              std::string::npos);
+}
+
+}  // namespace

@@ -387,7 +387,7 @@ ooxml::WorkbookDocument ToDocument(const WorkbookModel& book, const std::string&
         }
     }
     for (const auto& name : book.Names()) {
-        ooxml::DefinedName out{name->name, name->formula, std::nullopt, !name->visible};
+        ooxml::DefinedName out{name->name, name->formula, std::nullopt, !name->visible, name->fileAttributes};
         if (name->localSheet) {
             out.localSheet = static_cast<uint32_t>(book.SheetPosition(*name->localSheet));
         }
@@ -447,7 +447,8 @@ void LoadDocument(WorkbookModel& book, const ooxml::WorkbookDocument& document) 
             continue;
         }
         names.push_back(
-            std::make_shared<DefinedNameModel>(DefinedNameModel{name.name, name.formula, local, !name.hidden, false}));
+            std::make_shared<DefinedNameModel>(
+                DefinedNameModel{name.name, name.formula, local, !name.hidden, false, name.otherAttributes}));
     }
     book.AddOpenedNames(std::move(names));
     // The colours a file lists from index 8 on replace the palette's; the rest keep Excel's standard ones.
