@@ -18,7 +18,7 @@ public:
     // Refused (0x800A03EC) for an empty or over-31-character name, one holding : \ / ? * [ ],
     // beginning or ending with an apostrophe, "History", or the name of another sheet in any case.
     virtual void SetName(const std::string& name) = 0;
-    virtual int32_t Index() = 0;
+    virtual int32_t Index() = 0;  // 1-based, among all the workbook's sheets (as Workbook.Sheets counts)
     virtual int32_t Visible() = 0;
     virtual void SetVisible(int32_t visibility) = 0;
 

@@ -129,11 +129,12 @@ bool SheetNameNeedsQuotes(std::string_view name) {
 std::string SheetServices::MakeValidSheetName(const std::shared_ptr<excel::Workbook>& workbook,
                                               const std::string& wantedName) const {
     const std::string base = CleanedSheetName(wantedName);
-    // The names in use, folded to upper case once, so that finding the next free number costs one
-    // pass over the sheets rather than one lookup per number tried. Excel has the last word on a
-    // candidate, as it also folds the case of letters beyond ASCII.
+    // The worksheets' names, folded to upper case once, so that finding the next free number costs
+    // one pass over the sheets rather than one lookup per number tried. Excel has the last word on
+    // a candidate, as it also folds the case of letters beyond ASCII, and it alone knows the names
+    // of chart sheets, which the object model gives no Worksheet for.
     std::unordered_set<std::string> namesInUse{UpperCaseAscii(ReservedSheetName)};
-    const auto sheets = workbook->Sheets();
+    const auto sheets = workbook->Worksheets();
     for (int32_t i = 1; i <= sheets->Count(); ++i)
         namesInUse.insert(UpperCaseAscii(sheets->Item(i)->Name()));
     const auto isFree = [&](const std::string& candidate) {
@@ -154,8 +155,9 @@ bool SheetServices::WorkbookHasSheet(const std::shared_ptr<excel::Workbook>& wor
                                      const std::string& sheetName) const {
     try {
         return workbook->Sheets(sheetName) != nullptr;
-    } catch (const excel::AutomationError&) {
-        return false;
+    } catch (const excel::AutomationError& error) {
+        // A chart sheet or another sheet that is not a worksheet is a type mismatch, yet it is there.
+        return error.code() == excel::hresult::TypeMismatch;
     }
 }
 

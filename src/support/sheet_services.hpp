@@ -16,7 +16,8 @@ public:
     // end go, the name is cut to 31 characters, and a name in use (in any case) or Excel's
     // reserved "History" gets the first free suffix " (2)", " (3)", ...; an empty result is "Report".
     std::string MakeValidSheetName(const std::shared_ptr<excel::Workbook>& workbook, const std::string& wantedName) const;
-    // Whether a sheet of that name (in any case, as Excel compares sheet names) exists.
+    // Whether a sheet of that name (in any case, as Excel compares sheet names) exists, of any
+    // kind: a chart sheet's name is taken too.
     bool WorkbookHasSheet(const std::shared_ptr<excel::Workbook>& workbook, const std::string& sheetName) const;
     // Deletes the sheet with Excel's alerts off, so that no confirmation prompt appears; the
     // application's DisplayAlerts setting is restored afterwards, also when the delete fails.

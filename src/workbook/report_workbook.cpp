@@ -115,10 +115,20 @@ std::string ReportWorkbook::ReportSheetName(const std::string& wantedName) const
     return support.Sheets().MakeValidSheetName(excelWorkbook_, name + " (2)");
 }
 
-// A new worksheet behind the very last sheet of the workbook, of whatever kind that sheet is.
+// A new worksheet behind the very last sheet of the workbook. When that sheet is a chart sheet or
+// another sheet that is not a worksheet, the object model gives no Worksheet to add after; the new
+// sheet then goes behind the last worksheet.
 std::shared_ptr<excel::Worksheet> ReportWorkbook::AddSheetAtEnd() {
     const auto sheets = excelWorkbook_->Sheets();
-    const auto lastSheet = sheets->Item(sheets->Count());
+    std::shared_ptr<excel::Worksheet> lastSheet;
+    try {
+        lastSheet = sheets->Item(sheets->Count());
+    } catch (const excel::AutomationError& error) {
+        if (error.code() != excel::hresult::TypeMismatch)
+            throw;
+        const auto worksheets = excelWorkbook_->Worksheets();
+        lastSheet = worksheets->Item(worksheets->Count());
+    }
     return excelWorkbook_->Worksheets()->Add(excel::Variant(), lastSheet, 1);
 }
 

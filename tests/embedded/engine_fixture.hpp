@@ -38,3 +38,4 @@ int32_t ErrorCodeOf(Statement&& statement) {
 inline constexpr int32_t kRefused = static_cast<int32_t>(0x800A03EC);
 inline constexpr int32_t kSubscriptOutOfRange = static_cast<int32_t>(0x800A0009);
 inline constexpr int32_t kObjectRequired = static_cast<int32_t>(0x800A01A8);
+inline constexpr int32_t kTypeMismatch = static_cast<int32_t>(0x800A000D);

@@ -87,6 +87,15 @@ TEST_F(SheetServicesTest, WorkbookHasSheetComparesWithoutRegardToCase) {
     EXPECT_FALSE(sheets.WorkbookHasSheet(book, "Other"));
 }
 
+TEST_F(SheetServicesTest, AChartSheetsNameIsTakenToo) {
+    // Numbers, Chart, SomeJunk: Chart is a chart sheet.
+    const auto opened =
+        app->Workbooks()->Open(std::string(VOS_SHARED_DIR) + "/excel-corpus/realworld-excel/poi__47813.xlsx");
+    EXPECT_TRUE(vos::Support().Sheets().WorkbookHasSheet(opened, "chart"));
+    EXPECT_EQ(vos::Support().Sheets().MakeValidSheetName(opened, "Chart"), "Chart (2)");
+    EXPECT_EQ(vos::Support().Sheets().MakeValidSheetName(opened, "Numbers"), "Numbers (2)");
+}
+
 TEST_F(SheetServicesTest, DeleteSheetQuietlyRestoresDisplayAlerts) {
     auto extra = book->Worksheets()->Add();
     app->SetDisplayAlerts(true);

@@ -37,6 +37,17 @@ TEST_F(ReportWorkbookTest, ReportSheetsGoToTheEndInTheOrderAsked) {
     EXPECT_EQ(SheetNames(book), (std::vector<std::string>{"Before", "First", "Second", "Third"}));
 }
 
+TEST_F(ReportWorkbookTest, InAWorkbookEndingInAChartSheetReportSheetsFollowTheLastWorksheet) {
+    // Sheet1 ... Sheet2 and last the chart sheet Chart2.
+    const auto opened =
+        app->Workbooks()->Open(std::string(VOS_SHARED_DIR) + "/excel-corpus/realworld-excel/poi__WithChartSheet.xlsx");
+    auto chartReport = reporting.NewReportWorkbook(app, "MyApp", opened);
+    EXPECT_EQ(chartReport->NewReportWorksheet("Chart2")->ExcelWorksheet()->Name(), "Chart2 (2)");
+    EXPECT_EQ(chartReport->NewReportWorksheet("Data")->ExcelWorksheet()->Index(), 8);
+    EXPECT_EQ(opened->Sheets()->Count(), 9);
+    EXPECT_EQ(opened->Worksheets(8)->Name(), "Data");
+}
+
 TEST_F(ReportWorkbookTest, SheetNamesAreTrimmedMadeValidAndUnique) {
     EXPECT_EQ(report->NewReportWorksheet("  Data  ")->ExcelWorksheet()->Name(), "Data");
     EXPECT_EQ(report->NewReportWorksheet("data")->ExcelWorksheet()->Name(), "data (2)");

@@ -12,4 +12,8 @@ void ThrowObjectRequired() {
     throw AutomationError(hresult::ObjectRequired, "Object required");
 }
 
+void ThrowTypeMismatch() {
+    throw AutomationError(hresult::TypeMismatch, "Type mismatch");
+}
+
 }  // namespace excel::embedded

@@ -10,4 +10,7 @@ namespace excel::embedded {
 // The answer to using an object whose workbook was closed or whose sheet was deleted.
 [[noreturn]] void ThrowObjectRequired();
 
+// The answer to asking for an object as a type it is not: a chart sheet as a Worksheet.
+[[noreturn]] void ThrowTypeMismatch();
+
 }  // namespace excel::embedded

@@ -3,6 +3,7 @@
 #include "excel/embedded/document/format_document_conversion.hpp"
 #include "excel/embedded/document/rich_text_document_conversion.hpp"
 #include "excel/embedded/document/shape_document_conversion.hpp"
+#include "excel/embedded/document/sheet_list_document_conversion.hpp"
 #include "excel/embedded/format/color_conversion.hpp"
 #include "excel/embedded/format/palette.hpp"
 #include "excel/embedded/format/workbook_colors.hpp"
@@ -216,7 +217,7 @@ ooxml::SheetDocument ConvertSheet(const WorksheetModel& sheet, const std::shared
     const SheetSettings& settings = sheet.Settings();
     ooxml::SheetDocument out;
     out.name = settings.name;
-    out.state = settings.visibility == 0 ? "hidden" : settings.visibility == 2 ? "veryHidden" : "visible";
+    out.state = SheetStateFromVisibility(settings.visibility);
     out.showGridLines = settings.showGridlines;
     out.printGridLines = settings.printGridlines;
     out.showPageBreaks = settings.showPageBreaks;
@@ -310,7 +311,7 @@ void LoadFormula(const ooxml::SheetDocument& sheet, const ooxml::Cell& in, const
 void LoadSheet(WorksheetModel& sheet, const ooxml::SheetDocument& in, const std::vector<uint32_t>& formatIds,
                const DocumentStrings& strings) {
     SheetSettings& settings = sheet.Settings();
-    settings.visibility = in.state == "hidden" ? 0 : in.state == "veryHidden" ? 2 : -1;
+    settings.visibility = VisibilityFromSheetState(in.state);
     settings.showGridlines = in.showGridLines;
     settings.printGridlines = in.printGridLines;
     settings.showPageBreaks = in.showPageBreaks;
@@ -377,7 +378,7 @@ ooxml::WorkbookDocument ToDocument(const WorkbookModel& book, const std::string&
     document.formats.resize(formats.size());
     std::transform(formats.begin(), formats.end(), document.formats.begin(), DocumentCellFormat);
     const auto strings = std::make_shared<StringNumbering>(book.Strings(), document.strings);
-    document.carried = book.Carried();
+    document.carried = CarriedInSheetOrder(book);
     for (const auto& sheet : book.Sheets()) {
         document.sheets.push_back(ConvertSheet(*sheet, strings, rows));
         MoveCarriedCells(*sheet, document);
@@ -468,6 +469,9 @@ void LoadDocument(WorkbookModel& book, const ooxml::WorkbookDocument& document) 
         book.ProtectWithFilePassword(document.lockStructure, document.lockWindows);
     } else {
         book.Protect("", document.lockStructure, document.lockWindows);
+    }
+    if (document.carried) {
+        LoadOtherSheets(book, *document.carried);
     }
     book.SetCarried(document.carried);
 }

@@ -74,6 +74,15 @@ int32_t WorkbookModel::SheetPosition(const WorksheetModel& sheet) const {
     return -1;
 }
 
+int32_t WorkbookModel::PlaceOf(const WorksheetModel& sheet) const {
+    for (size_t i = 0; i < allSheets_.size(); ++i) {
+        if (allSheets_[i].worksheet.get() == &sheet) {
+            return static_cast<int32_t>(i);
+        }
+    }
+    return -1;
+}
+
 std::shared_ptr<WorksheetModel> WorkbookModel::FindSheet(std::string_view name) const {
     for (const auto& sheet : sheets_) {
         if (SameSheetName(sheet->Name(), name)) {
@@ -83,29 +92,58 @@ std::shared_ptr<WorksheetModel> WorkbookModel::FindSheet(std::string_view name) 
     return nullptr;
 }
 
-std::shared_ptr<WorksheetModel> WorkbookModel::AddSheets(size_t position, int32_t count) {
+const WorkbookModel::SheetSlot* WorkbookModel::FindAnySheet(std::string_view name) const {
+    for (const SheetSlot& slot : allSheets_) {
+        if (SameSheetName(slot.Name(), name)) {
+            return &slot;
+        }
+    }
+    return nullptr;
+}
+
+std::shared_ptr<WorksheetModel> WorkbookModel::AddSheets(size_t place, int32_t count) {
     RefuseWhenStructureProtected();
+    // The numbers go on from the highest SheetN of any sheet, so a new name is never a chart
+    // sheet's either.
     int32_t number = 0;
-    for (const auto& sheet : sheets_) {
-        number = std::max(number, SheetNumber(sheet->Name()));
+    for (const SheetSlot& slot : allSheets_) {
+        number = std::max(number, SheetNumber(slot.Name()));
     }
     std::shared_ptr<WorksheetModel> added;
-    position = std::min(position, sheets_.size());
+    place = std::min(place, allSheets_.size());
     for (int32_t i = 0; i < count; ++i) {
         added = std::make_shared<WorksheetModel>(*this, "Sheet" + std::to_string(++number));
-        sheets_.insert(sheets_.begin() + static_cast<std::ptrdiff_t>(position + static_cast<size_t>(i)), added);
+        allSheets_.insert(allSheets_.begin() + static_cast<std::ptrdiff_t>(place + static_cast<size_t>(i)),
+                          SheetSlot{added, {}});
     }
+    listWorksheets();
     activeSheet_ = added.get();
     saved_ = false;
     return added;
 }
 
 std::shared_ptr<WorksheetModel> WorkbookModel::AppendSheet(const std::string& name) {
-    sheets_.push_back(std::make_shared<WorksheetModel>(*this, name));
+    auto sheet = std::make_shared<WorksheetModel>(*this, name);
+    allSheets_.push_back(SheetSlot{sheet, {}});
+    sheets_.push_back(sheet);
     if (activeSheet_ == nullptr) {
-        activeSheet_ = sheets_.back().get();
+        activeSheet_ = sheet.get();
     }
-    return sheets_.back();
+    return sheet;
+}
+
+void WorkbookModel::InsertOtherSheet(size_t place, OtherSheet sheet) {
+    place = std::min(place, allSheets_.size());
+    allSheets_.insert(allSheets_.begin() + static_cast<std::ptrdiff_t>(place), SheetSlot{nullptr, std::move(sheet)});
+}
+
+void WorkbookModel::listWorksheets() {
+    sheets_.clear();
+    for (const SheetSlot& slot : allSheets_) {
+        if (slot.worksheet) {
+            sheets_.push_back(slot.worksheet);
+        }
+    }
 }
 
 int32_t WorkbookModel::VisibleSheetCount() const {
@@ -116,7 +154,9 @@ int32_t WorkbookModel::VisibleSheetCount() const {
 
 void WorkbookModel::DeleteSheet(WorksheetModel& sheet) {
     RefuseWhenStructureProtected();
-    if (sheet.Settings().visibility == sheetVisible && VisibleSheetCount() <= 1) {
+    // A workbook keeps a worksheet, and a visible one. Excel would let a visible chart sheet be the
+    // only visible sheet, but the engine's active sheet is always a worksheet.
+    if ((sheet.Settings().visibility == sheetVisible && VisibleSheetCount() <= 1) || sheets_.size() <= 1) {
         ThrowRefused("A workbook must contain at least one visible worksheet.");
     }
     const int32_t position = SheetPosition(sheet);
@@ -135,6 +175,7 @@ void WorkbookModel::DeleteSheet(WorksheetModel& sheet) {
         }
     }
     const auto keep = sheets_[static_cast<size_t>(position)];
+    allSheets_.erase(allSheets_.begin() + PlaceOf(sheet));
     sheets_.erase(sheets_.begin() + position);
     if (activeSheet_ == &sheet) {
         // The next visible sheet becomes active, else the previous one.
@@ -161,7 +202,7 @@ void WorkbookModel::RenameSheet(WorksheetModel& sheet, const std::string& name) 
     if (!IsValidSheetName(name)) {
         ThrowRefused("You typed an invalid name for a sheet or chart.");
     }
-    if (auto other = FindSheet(name); other && other.get() != &sheet) {
+    if (const SheetSlot* other = FindAnySheet(name); other && other->worksheet.get() != &sheet) {
         ThrowRefused(
             "Cannot rename a sheet to the same name as another sheet, a referenced object library or a "
             "workbook referenced by Visual Basic.");

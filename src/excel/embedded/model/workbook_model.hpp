@@ -5,6 +5,7 @@
 #include "excel/embedded/model/block_shift.hpp"
 #include "excel/embedded/model/cells/opened_formula_table.hpp"
 #include "excel/embedded/model/names/defined_name_model.hpp"
+#include "excel/embedded/model/other_sheet.hpp"
 #include "excel/embedded/model/string_pool.hpp"
 #include "excel/embedded/model/worksheet_model.hpp"
 
@@ -42,21 +43,38 @@ public:
     void SetFile(const std::string& path);
     bool HasFile() const { return !fullName_.empty(); }
 
-    // Sheets
+    // Sheets. The workbook's sheets are its worksheets and, in a workbook opened from a file, the
+    // other sheets the file had (chart sheets and the like), in one order, as Excel's Sheets
+    // collection lists them; Worksheets lists the worksheets alone.
+    //
+    // One place in that order: a worksheet, or else another sheet.
+    struct SheetSlot {
+        std::shared_ptr<WorksheetModel> worksheet;  // none for another sheet
+        OtherSheet other;                           // when worksheet is none
+
+        const std::string& Name() const { return worksheet ? worksheet->Name() : other.name; }
+    };
+    const std::vector<SheetSlot>& AllSheets() const { return allSheets_; }
+    // The worksheets, in their order.
     const std::vector<std::shared_ptr<WorksheetModel>>& Sheets() const { return sheets_; }
-    int32_t SheetPosition(const WorksheetModel& sheet) const;  // 0-based, -1 when absent
-    std::shared_ptr<WorksheetModel> FindSheet(std::string_view name) const;
-    // Inserts count new sheets at position (0-based), named SheetN with the next free numbers;
-    // the last one becomes active and is returned.
-    std::shared_ptr<WorksheetModel> AddSheets(size_t position, int32_t count);
-    // Appends a sheet with a given name (opening a file); no checks.
+    int32_t SheetPosition(const WorksheetModel& sheet) const;  // among the worksheets, 0-based, -1 when absent
+    int32_t PlaceOf(const WorksheetModel& sheet) const;        // among all the sheets, 0-based, -1 when absent
+    std::shared_ptr<WorksheetModel> FindSheet(std::string_view name) const;  // a worksheet
+    const SheetSlot* FindAnySheet(std::string_view name) const;              // a sheet of any kind
+    // Inserts count new worksheets at place (0-based, among all the sheets), named SheetN with the
+    // next free numbers; the last one becomes active and is returned.
+    std::shared_ptr<WorksheetModel> AddSheets(size_t place, int32_t count);
+    // Appends a worksheet with a given name (opening a file); no checks.
     std::shared_ptr<WorksheetModel> AppendSheet(const std::string& name);
+    // Inserts another sheet of an opened file at place (among all the sheets, at most their
+    // count); no checks.
+    void InsertOtherSheet(size_t place, OtherSheet sheet);
     void DeleteSheet(WorksheetModel& sheet);
     void RenameSheet(WorksheetModel& sheet, const std::string& name);
     void SetSheetVisibility(WorksheetModel& sheet, int32_t visibility);
     WorksheetModel* ActiveSheet() const { return activeSheet_; }
     void ActivateSheet(WorksheetModel& sheet);
-    int32_t VisibleSheetCount() const;
+    int32_t VisibleSheetCount() const;  // of the worksheets
 
     // Defined names, kept in Excel's order (alphabetical, case-insensitive).
     const std::vector<std::shared_ptr<DefinedNameModel>>& Names() const { return names_; }
@@ -114,11 +132,14 @@ public:
 private:
     static bool NameListedBefore(const std::shared_ptr<DefinedNameModel>& a, const std::shared_ptr<DefinedNameModel>& b);
     void sortNames();
+    // Lists the worksheets of allSheets_ again in sheets_, after a sheet came or went.
+    void listWorksheets();
 
     ApplicationModel* app_;
     std::string name_;
     std::string fullName_;
-    std::vector<std::shared_ptr<WorksheetModel>> sheets_;
+    std::vector<SheetSlot> allSheets_;
+    std::vector<std::shared_ptr<WorksheetModel>> sheets_;  // the worksheets of allSheets_
     WorksheetModel* activeSheet_ = nullptr;
     std::vector<std::shared_ptr<DefinedNameModel>> names_;
     FormatTable formats_;

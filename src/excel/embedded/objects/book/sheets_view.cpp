@@ -11,14 +11,15 @@ namespace excel::embedded {
 
 namespace {
 
-// The position of a sheet given as Before or After, which must be a sheet of this workbook.
-size_t PositionOf(const WorkbookModel& book, const Variant& sheet) {
+// The place among all the workbook's sheets of a sheet given as Before or After, which must be a
+// sheet of this workbook: new sheets go next to it whatever sheets are around it.
+size_t PlaceOf(const WorkbookModel& book, const Variant& sheet) {
     const auto view = sheet.As<WorksheetView>();
-    const int32_t position = view ? book.SheetPosition(view->Model()) : -1;
-    if (position < 0) {
+    const int32_t place = view ? book.PlaceOf(view->Model()) : -1;
+    if (place < 0) {
         ThrowRefused("Method 'Add' of object 'Sheets' failed");
     }
-    return static_cast<size_t>(position);
+    return static_cast<size_t>(place);
 }
 
 }  // namespace
@@ -40,19 +41,38 @@ std::shared_ptr<excel::Workbook> SheetsView::Parent() {
 }
 
 int32_t SheetsView::Count() {
-    return static_cast<int32_t>(model().Sheets().size());
+    const WorkbookModel& book = model();
+    return static_cast<int32_t>(listing_ == Listing::AllSheets ? book.AllSheets().size() : book.Sheets().size());
 }
 
+// Worksheets finds worksheets only. Sheets finds every sheet, but a chart sheet or another sheet
+// that is not a worksheet cannot be given as a Worksheet: asking for one is a type mismatch.
 std::shared_ptr<excel::Worksheet> SheetsView::Item(const Variant& index) {
     WorkbookModel& book = model();
+    const WorkbookModel::SheetSlot* slot = nullptr;
     std::shared_ptr<WorksheetModel> sheet;
     if (index.IsString()) {
-        sheet = book.FindSheet(index.ToString());
+        if (listing_ == Listing::AllSheets) {
+            slot = book.FindAnySheet(index.ToString());
+        } else {
+            sheet = book.FindSheet(index.ToString());
+        }
     } else {
         const int32_t position = index.ToInt();
         if (position >= 1 && position <= Count()) {
-            sheet = book.Sheets()[static_cast<size_t>(position - 1)];
+            const auto at = static_cast<size_t>(position - 1);
+            if (listing_ == Listing::AllSheets) {
+                slot = &book.AllSheets()[at];
+            } else {
+                sheet = book.Sheets()[at];
+            }
         }
+    }
+    if (slot != nullptr) {
+        if (!slot->worksheet) {
+            ThrowTypeMismatch();
+        }
+        sheet = slot->worksheet;
     }
     if (!sheet) {
         ThrowRuntimeError(9);
@@ -66,15 +86,15 @@ std::shared_ptr<excel::Worksheet> SheetsView::Add(const Variant& before, const V
     if (sheets < 1 || (!before.IsEmpty() && !after.IsEmpty())) {
         ThrowRefused("Method 'Add' of object 'Sheets' failed");
     }
-    size_t position = 0;
+    size_t place = 0;
     if (!before.IsEmpty()) {
-        position = PositionOf(book, before);
+        place = PlaceOf(book, before);
     } else if (!after.IsEmpty()) {
-        position = PositionOf(book, after) + 1;
+        place = PlaceOf(book, after) + 1;
     } else if (book.ActiveSheet() != nullptr) {
-        position = static_cast<size_t>(book.SheetPosition(*book.ActiveSheet()));
+        place = static_cast<size_t>(book.PlaceOf(*book.ActiveSheet()));
     }
-    auto added = book.AddSheets(position, sheets);
+    auto added = book.AddSheets(place, sheets);
     book.App().ActivateWorkbook(book);
     return std::make_shared<WorksheetView>(added);
 }

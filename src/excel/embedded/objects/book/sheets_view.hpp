@@ -6,9 +6,12 @@
 
 namespace excel::embedded {
 
+// Workbook.Sheets, every sheet of the workbook, or Workbook.Worksheets, its worksheets alone.
 class SheetsView final : public excel::Sheets {
 public:
-    explicit SheetsView(std::shared_ptr<WorkbookModel> model) : model_(std::move(model)) {}
+    enum class Listing { AllSheets, Worksheets };
+
+    SheetsView(std::shared_ptr<WorkbookModel> model, Listing listing) : model_(std::move(model)), listing_(listing) {}
 
     std::shared_ptr<excel::Application> Application() override;
     std::shared_ptr<excel::Workbook> Parent() override;
@@ -20,6 +23,7 @@ private:
     WorkbookModel& model() const;
 
     std::shared_ptr<WorkbookModel> model_;
+    Listing listing_;
 };
 
 }  // namespace excel::embedded

@@ -55,7 +55,7 @@ std::string WorkbookView::Path() {
 
 std::shared_ptr<excel::Sheets> WorkbookView::Worksheets() {
     model();
-    return std::make_shared<SheetsView>(model_);
+    return std::make_shared<SheetsView>(model_, SheetsView::Listing::Worksheets);
 }
 
 std::shared_ptr<excel::Worksheet> WorkbookView::Worksheets(const Variant& index) {
@@ -63,11 +63,12 @@ std::shared_ptr<excel::Worksheet> WorkbookView::Worksheets(const Variant& index)
 }
 
 std::shared_ptr<excel::Sheets> WorkbookView::Sheets() {
-    return Worksheets();
+    model();
+    return std::make_shared<SheetsView>(model_, SheetsView::Listing::AllSheets);
 }
 
 std::shared_ptr<excel::Worksheet> WorkbookView::Sheets(const Variant& index) {
-    return Worksheets()->Item(index);
+    return Sheets()->Item(index);
 }
 
 std::shared_ptr<excel::Worksheet> WorkbookView::ActiveSheet() {

@@ -34,8 +34,9 @@ void WorksheetView::SetName(const std::string& name) {
     model_->Book().RenameSheet(*model_, name);
 }
 
+// The place among all the workbook's sheets, chart sheets included, as Excel counts it.
 int32_t WorksheetView::Index() {
-    return model_->Book().SheetPosition(*model_) + 1;
+    return model_->Book().PlaceOf(*model_) + 1;
 }
 
 int32_t WorksheetView::Visible() {
