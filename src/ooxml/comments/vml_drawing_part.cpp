@@ -1,14 +1,18 @@
 #include "ooxml/comments/vml_drawing_part.hpp"
 
+#include "ooxml/carried/carried_attributes.hpp"
+#include "ooxml/comments/vml_id_blocks.hpp"
+#include "ooxml/package_error.hpp"
+
 #include <fmt/format.h>
 
+#include <set>
 #include <string>
 
 namespace ooxml {
 
 namespace {
 
-constexpr uint32_t IdsPerBlock = 1024;
 constexpr uint32_t DefaultStrokeRgb = 0x000000;
 constexpr double DefaultStrokeWeight = 0.75;  // points
 
@@ -16,11 +20,24 @@ std::string VmlColor(uint32_t rgb) {
     return fmt::format("#{:06x}", rgb & 0xFFFFFFu);
 }
 
-std::string IdBlocks(uint32_t first, uint32_t count) {
-    std::string blocks = std::to_string(first);
-    for (uint32_t block = first + 1; block < first + count; ++block) {
-        blocks += ',';
-        blocks += std::to_string(block);
+std::string IdBlocks(const std::set<uint32_t>& blocks) {
+    std::string data;
+    for (const uint32_t block : blocks) {
+        data += data.empty() ? "" : ",";
+        data += std::to_string(block);
+    }
+    return data;
+}
+
+// The blocks the drawing's shapes take: the notes' and those of the shapes it carries. A drawing
+// of carried shapes alone lists theirs only, unless they have none.
+std::set<uint32_t> UsedIdBlocks(const SheetDocument& sheet, const std::vector<uint32_t>& noteIdBlocks) {
+    std::set<uint32_t> blocks;
+    if (sheet.carried && !sheet.carried->legacyDrawing.elements.empty()) {
+        blocks.insert(sheet.carried->legacyDrawingIdBlocks.begin(), sheet.carried->legacyDrawingIdBlocks.end());
+    }
+    if (!sheet.comments.empty() || blocks.empty()) {
+        blocks.insert(noteIdBlocks.begin(), noteIdBlocks.end());
     }
     return blocks;
 }
@@ -29,23 +46,35 @@ class VmlDrawingWriter {
 public:
     explicit VmlDrawingWriter(XmlWriter& xml) : xml_(xml) {}
 
-    void Write(const SheetDocument& sheet, uint32_t firstIdBlock) {
+    void Write(const SheetDocument& sheet, const std::vector<uint32_t>& noteIdBlocks) {
+        const CarriedMarkup* carried = sheet.carried ? &sheet.carried->legacyDrawing : nullptr;
         xml_.StartElement("xml");
         xml_.Attribute("xmlns:v", "urn:schemas-microsoft-com:vml");
         xml_.Attribute("xmlns:o", "urn:schemas-microsoft-com:office:office");
         xml_.Attribute("xmlns:x", "urn:schemas-microsoft-com:office:excel");
+        if (carried != nullptr) {
+            WriteCarriedAttributes(xml_, carried->rootAttributes);
+        }
         xml_.StartElement("o:shapelayout");
         xml_.Attribute("v:ext", "edit");
         xml_.StartElement("o:idmap");
         xml_.Attribute("v:ext", "edit");
-        xml_.Attribute("data", IdBlocks(firstIdBlock, VmlIdBlockCount(sheet.comments.size())));
+        xml_.Attribute("data", IdBlocks(UsedIdBlocks(sheet, noteIdBlocks)));
         xml_.EndElement();
         xml_.EndElement();
         WriteNoteShapeType();
-        uint32_t shapeId = firstIdBlock * IdsPerBlock;
-        uint32_t zIndex = 0;
-        for (const CellComment& comment : sheet.comments) {
-            WriteNoteShape(comment, ++shapeId, ++zIndex);
+        const std::vector<uint32_t> ids = VmlShapeIds(noteIdBlocks, sheet.comments.size());
+        if (ids.size() < sheet.comments.size()) {
+            throw PackageError(PackageError::Reason::WriteFailed,
+                               "too few VML shape ids for the notes of " + sheet.name);
+        }
+        for (std::size_t i = 0; i < sheet.comments.size(); ++i) {
+            WriteNoteShape(sheet.comments[i], ids[i], static_cast<uint32_t>(i + 1));
+        }
+        if (carried != nullptr) {
+            for (const CarriedElement& element : carried->elements) {
+                xml_.Raw(element.xml);
+            }
         }
         xml_.EndElement();
     }
@@ -54,7 +83,7 @@ private:
     // The text box shape type (202) every note refers to.
     void WriteNoteShapeType() {
         xml_.StartElement("v:shapetype");
-        xml_.Attribute("id", "_x0000_t202");
+        xml_.Attribute("id", kVmlNoteShapeTypeId);
         xml_.Attribute("coordsize", "21600,21600");
         xml_.Attribute("o:spt", "202");
         xml_.Attribute("path", "m,l,21600r21600,l21600,xe");
@@ -71,7 +100,7 @@ private:
     void WriteNoteShape(const CellComment& comment, uint32_t shapeId, uint32_t zIndex) {
         xml_.StartElement("v:shape");
         xml_.Attribute("id", fmt::format("_x0000_s{}", shapeId));
-        xml_.Attribute("type", "#_x0000_t202");
+        xml_.Attribute("type", fmt::format("#{}", kVmlNoteShapeTypeId));
         xml_.Attribute("style", fmt::format("position:absolute;margin-left:{}pt;margin-top:{}pt;width:{}pt;height:{}pt;"
                                             "z-index:{};visibility:{}",
                                             comment.left, comment.top, comment.width, comment.height, zIndex,
@@ -153,12 +182,8 @@ private:
 
 }  // namespace
 
-uint32_t VmlIdBlockCount(std::size_t commentCount) {
-    return static_cast<uint32_t>(commentCount / IdsPerBlock + 1);
-}
-
-void WriteVmlDrawingPart(XmlWriter& xml, const SheetDocument& sheet, uint32_t firstIdBlock) {
-    VmlDrawingWriter(xml).Write(sheet, firstIdBlock);
+void WriteVmlDrawingPart(XmlWriter& xml, const SheetDocument& sheet, const std::vector<uint32_t>& noteIdBlocks) {
+    VmlDrawingWriter(xml).Write(sheet, noteIdBlocks);
 }
 
 }  // namespace ooxml

@@ -3,9 +3,9 @@
 #include "ooxml/document/workbook_document.hpp"
 #include "ooxml/xml/xml_writer.hpp"
 
-#include <cstddef>
 #include <cstdint>
 #include <string_view>
+#include <vector>
 
 namespace ooxml {
 
@@ -13,13 +13,14 @@ inline constexpr std::string_view kVmlDrawingContentType = "application/vnd.open
 inline constexpr std::string_view kVmlDrawingRelationshipType =
     "http://schemas.openxmlformats.org/officeDocument/2006/relationships/vmlDrawing";
 
-// VML shapes are numbered in blocks of 1,024 ids that no two drawings of a workbook share: the
-// shapes of block b are _x0000_s(1024 b + 1) onwards. How many blocks commentCount shapes take.
-uint32_t VmlIdBlockCount(std::size_t commentCount);
+// The shape type of the text box every note is drawn as.
+inline constexpr std::string_view kVmlNoteShapeTypeId = "_x0000_t202";
 
 // Writes a sheet's legacy drawing (xl/drawings/vmlDrawingN.vml) the way Excel writes it: the
-// shape of each comment, numbered from firstIdBlock (1 or more), with its place, size, colours,
-// visibility and anchor.
-void WriteVmlDrawingPart(XmlWriter& xml, const SheetDocument& sheet, uint32_t firstIdBlock);
+// shape of each comment, numbered in noteIdBlocks (taken from the workbook's VmlIdBlocks for as
+// many shapes as the sheet has comments), with its place, size, colours, visibility and anchor;
+// then the shapes the sheet's opened drawing carries, as they were. The idmap lists the blocks of
+// both.
+void WriteVmlDrawingPart(XmlWriter& xml, const SheetDocument& sheet, const std::vector<uint32_t>& noteIdBlocks);
 
 }  // namespace ooxml

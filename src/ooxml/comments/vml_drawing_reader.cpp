@@ -1,5 +1,6 @@
 #include "ooxml/comments/vml_drawing_reader.hpp"
 
+#include "ooxml/comments/vml_carried_shapes.hpp"
 #include "ooxml/xml/xml_node_access.hpp"
 #include "ooxml/xml/xml_part_parser.hpp"
 
@@ -188,12 +189,14 @@ void ReadShapes(pugi::xml_node parent, std::vector<CellComment>& comments) {
 
 }  // namespace
 
-void ReadVmlNoteShapes(std::string& xml, std::vector<CellComment>& comments) {
+void ReadVmlDrawing(std::string& xml, std::vector<CellComment>& comments, CarriedWorksheet& carried) {
     pugi::xml_document document;
-    if (!document.load_buffer_inplace(xml.data(), xml.size(), XmlPartParseOptions)) {
+    // Excel breaks long attributes (style) over lines; as in any XML, they read as spaces.
+    if (!document.load_buffer_inplace(xml.data(), xml.size(), XmlPartParseOptions | pugi::parse_wconv_attribute)) {
         return;
     }
     ReadShapes(document.document_element(), comments);
+    CarryVmlShapes(document.document_element(), carried.legacyDrawing, carried.legacyDrawingIdBlocks);
 }
 
 }  // namespace ooxml

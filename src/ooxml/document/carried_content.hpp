@@ -81,6 +81,12 @@ struct CarriedWorksheet {
     CarriedMarkup drawing;
     // The highest shape id among those anchors: the shapes the engine adds take higher ones.
     uint32_t highestShapeId = 0;
+    // The shapes of the sheet's legacy VML drawing that are not notes (form controls, the icons of
+    // embedded objects, pictures), with the shape types they use, as the file wrote them, and the
+    // drawing's relationships (their images). They keep their ids, which the sheet's oleObjects
+    // and controls refer to, so the blocks of ids they take are kept from the notes.
+    CarriedMarkup legacyDrawing;
+    std::vector<uint32_t> legacyDrawingIdBlocks;  // ascending
 };
 
 // The workbook's carried content: the parts, the package's own relationships, and what the

@@ -17,6 +17,7 @@ CarriedPartsPlan::CarriedPartsPlan(const WorkbookDocument& document,
         if (sheet.carried) {
             Follow(sheet.carried->worksheet.relationships);
             Follow(sheet.carried->drawing.relationships);
+            Follow(sheet.carried->legacyDrawing.relationships);
         }
     }
 }

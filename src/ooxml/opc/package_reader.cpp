@@ -242,7 +242,10 @@ private:
             carriedParts_.Rewritten(comments->target);
             rewrittenIds.insert(comments->id);
             if (std::optional<std::string> shapes = ReadRelatedPart(archive_, vml)) {
-                ReadVmlNoteShapes(*shapes, sheet.comments);
+                ReadVmlDrawing(*shapes, sheet.comments, carried);
+                if (!carried.legacyDrawing.elements.empty()) {
+                    carried.legacyDrawing.relationships = ReadRelationships(archive_, vml->target);
+                }
                 carriedParts_.Rewritten(vml->target);
                 rewrittenIds.insert(vml->id);
             }
@@ -307,6 +310,7 @@ private:
         for (const auto& sheet : carriedWorksheets_) {
             carriedParts_.Follow(sheet->worksheet.relationships);
             carriedParts_.Follow(sheet->drawing.relationships);
+            carriedParts_.Follow(sheet->legacyDrawing.relationships);
         }
         const auto dangling = [this](const Relationship& relationship) {
             return !relationship.external && carried_->parts.count(relationship.target) == 0;
@@ -316,6 +320,7 @@ private:
         for (const auto& sheet : carriedWorksheets_) {
             std::erase_if(sheet->worksheet.relationships, dangling);
             std::erase_if(sheet->drawing.relationships, dangling);
+            std::erase_if(sheet->legacyDrawing.relationships, dangling);
         }
     }
 

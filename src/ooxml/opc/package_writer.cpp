@@ -9,6 +9,7 @@
 #include "ooxml/opc/package_part.hpp"
 #include "ooxml/opc/part_names.hpp"
 #include "ooxml/opc/relationships_reader.hpp"
+#include "ooxml/opc/vml_id_reservations.hpp"
 #include "ooxml/package_error.hpp"
 #include "ooxml/properties/document_properties_part.hpp"
 #include "ooxml/shared_strings/shared_strings_part.hpp"
@@ -68,7 +69,7 @@ struct DrawingPlan {
     uint32_t drawingCount = 0;
     uint32_t commentsCount = 0;
     uint32_t vmlDrawingCount = 0;
-    uint32_t nextVmlIdBlock = 1;
+    VmlIdBlocks vmlIdBlocks;
 };
 
 // Plans the parts that hold a sheet's text boxes (with the anchors its opened drawing carries) and
@@ -88,20 +89,32 @@ SheetDrawingReferences PlanSheetDrawings(const SheetDocument& sheet, PackagePart
         }
         plan.drawings.push_back(std::move(part));
     }
-    if (!sheet.comments.empty()) {
-        const std::string comments = names.Next("xl/comments", plan.commentsCount, ".xml");
+    // The legacy drawing holds the notes and the shapes the opened one carries (form controls,
+    // embedded objects' icons), with their relationships.
+    const CarriedMarkup* legacy = sheet.carried ? &sheet.carried->legacyDrawing : nullptr;
+    if (!sheet.comments.empty() || (legacy != nullptr && !legacy->elements.empty())) {
+        const std::string comments =
+            sheet.comments.empty() ? std::string() : names.Next("xl/comments", plan.commentsCount, ".xml");
         const std::string vmlDrawing = names.Next("xl/drawings/vmlDrawing", plan.vmlDrawingCount, ".vml");
         references.legacyDrawing =
             sheetPart.relationships.Add(kVmlDrawingRelationshipType, RelativeTarget(sheetPart.path, vmlDrawing));
-        sheetPart.relationships.Add(kCommentsRelationshipType, RelativeTarget(sheetPart.path, comments));
-        plan.comments.push_back(
-            {comments, kCommentsContentType, [&sheet](XmlWriter& xml) { WriteCommentsPart(xml, sheet); }, {}});
-        plan.comments.push_back({vmlDrawing, kVmlDrawingContentType,
-                                 [&sheet, firstIdBlock = plan.nextVmlIdBlock](XmlWriter& xml) {
-                                     WriteVmlDrawingPart(xml, sheet, firstIdBlock);
-                                 },
-                                 {}});
-        plan.nextVmlIdBlock += VmlIdBlockCount(sheet.comments.size());
+        if (!comments.empty()) {
+            sheetPart.relationships.Add(kCommentsRelationshipType, RelativeTarget(sheetPart.path, comments));
+            plan.comments.push_back(
+                {comments, kCommentsContentType, [&sheet](XmlWriter& xml) { WriteCommentsPart(xml, sheet); }, {}});
+        }
+        PackagePart part{vmlDrawing,
+                         kVmlDrawingContentType,
+                         [&sheet, blocks = plan.vmlIdBlocks.Take(sheet.comments.size())](XmlWriter& xml) {
+                             WriteVmlDrawingPart(xml, sheet, blocks);
+                         },
+                         {}};
+        if (legacy != nullptr) {
+            for (const Relationship& relationship : legacy->relationships) {
+                part.relationships.Keep(relationship, vmlDrawing);
+            }
+        }
+        plan.comments.push_back(std::move(part));
     }
     return references;
 }
@@ -192,6 +205,7 @@ void PlanPackage(const WorkbookDocument& document, const std::string& path, Pack
     std::vector<PackagePart> sheetParts;
     std::vector<std::string> sheetRelationshipIds;
     DrawingPlan drawingPlan;
+    drawingPlan.vmlIdBlocks = ReserveVmlIdBlocks(document, carriedParts);
     uint32_t sheetCount = 0;
     for (const SheetDocument& sheet : document.sheets) {
         PackagePart sheetPart{names.Next("xl/worksheets/sheet", sheetCount, ".xml"), kWorksheetContentType, {}, {}};

@@ -14,14 +14,18 @@ using writer_test::ParseXml;
 using writer_test::WriteToString;
 using ::testing::HasSubstr;
 
-std::string WriteText(const std::vector<CellComment>& comments, uint32_t firstIdBlock = 1) {
+std::string WriteText(const std::vector<CellComment>& comments, const std::vector<uint32_t>& noteIdBlocks = {1},
+                      std::shared_ptr<const CarriedWorksheet> carried = nullptr) {
     SheetDocument sheet;
     sheet.comments = comments;
-    return WriteToString([&](XmlWriter& xml) { WriteVmlDrawingPart(xml, sheet, firstIdBlock); });
+    sheet.carried = std::move(carried);
+    return WriteToString([&](XmlWriter& xml) { WriteVmlDrawingPart(xml, sheet, noteIdBlocks); });
 }
 
-std::unique_ptr<pugi::xml_document> Write(const std::vector<CellComment>& comments, uint32_t firstIdBlock = 1) {
-    return ParseXml(WriteText(comments, firstIdBlock));
+std::unique_ptr<pugi::xml_document> Write(const std::vector<CellComment>& comments,
+                                          const std::vector<uint32_t>& noteIdBlocks = {1},
+                                          std::shared_ptr<const CarriedWorksheet> carried = nullptr) {
+    return ParseXml(WriteText(comments, noteIdBlocks, std::move(carried)));
 }
 
 CellComment Note(uint32_t row, uint32_t column) {
@@ -122,7 +126,7 @@ TEST(VmlDrawingPart, VisibleNoteWithItsOwnColoursLineAndInsets) {
 }
 
 TEST(VmlDrawingPart, ShapesAreNumberedInTheirIdBlocksWithRisingZOrder) {
-    auto xml = Write({Note(1, 1), Note(1, 2)}, 3);
+    auto xml = Write({Note(1, 1), Note(1, 2)}, {3});
     EXPECT_STREQ(xml->child("xml").child("o:shapelayout").child("o:idmap").attribute("data").value(), "3");
     const std::vector<pugi::xml_node> shapes = Shapes(*xml);
     ASSERT_EQ(shapes.size(), 2u);
@@ -132,16 +136,48 @@ TEST(VmlDrawingPart, ShapesAreNumberedInTheirIdBlocksWithRisingZOrder) {
 }
 
 TEST(VmlDrawingPart, ManyNotesTakeMoreIdBlocks) {
-    EXPECT_EQ(VmlIdBlockCount(1), 1u);
-    EXPECT_EQ(VmlIdBlockCount(1023), 1u);
-    EXPECT_EQ(VmlIdBlockCount(1024), 2u);  // the 1,024th shape's id, 2,048, opens the second block
     std::vector<CellComment> notes;
     for (uint32_t row = 1; row <= 1024; ++row) {
         notes.push_back(Note(row, 1));
     }
-    auto xml = Write(notes, 2);
+    auto xml = Write(notes, {2, 3});
     EXPECT_STREQ(xml->child("xml").child("o:shapelayout").child("o:idmap").attribute("data").value(), "2,3");
     EXPECT_STREQ(Shapes(*xml).back().attribute("id").value(), "_x0000_s3072");
+}
+
+// A checkbox and the shape type it uses, as an opened drawing carries them.
+std::shared_ptr<const CarriedWorksheet> CarriedCheckbox() {
+    auto carried = std::make_shared<CarriedWorksheet>();
+    carried->legacyDrawing.rootAttributes = {{"xmlns:w", "urn:schemas-microsoft-com:office:word"}};
+    carried->legacyDrawing.elements = {
+        {0, "shapetype", R"(<v:shapetype id="_x0000_t201" coordsize="21600,21600" o:spt="201"></v:shapetype>)"},
+        {0, "shape",
+         R"(<v:shape id="_x0000_s1025" type="#_x0000_t201"><x:ClientData ObjectType="Checkbox"><x:Checked>1</x:Checked>)"
+         R"(</x:ClientData></v:shape>)"},
+    };
+    carried->legacyDrawingIdBlocks = {1};
+    return carried;
+}
+
+TEST(VmlDrawingPart, CarriedShapesFollowTheNotesAsTheyWereWithTheirBlocksInTheIdmap) {
+    auto xml = Write({Note(1, 1)}, {2}, CarriedCheckbox());
+    const pugi::xml_node root = xml->child("xml");
+    EXPECT_STREQ(root.attribute("xmlns:w").value(), "urn:schemas-microsoft-com:office:word");
+    EXPECT_STREQ(root.child("o:shapelayout").child("o:idmap").attribute("data").value(), "1,2");
+    std::vector<std::string> children;
+    for (const pugi::xml_node child : root.children()) {
+        children.push_back(std::string(child.name()) + " " + child.attribute("id").value());
+    }
+    EXPECT_EQ(children, (std::vector<std::string>{"o:shapelayout ", "v:shapetype _x0000_t202", "v:shape _x0000_s2049",
+                                                  "v:shapetype _x0000_t201", "v:shape _x0000_s1025"}));
+    EXPECT_THAT(WriteText({Note(1, 1)}, {2}, CarriedCheckbox()),
+                HasSubstr(CarriedCheckbox()->legacyDrawing.elements[1].xml));
+}
+
+TEST(VmlDrawingPart, ADrawingOfCarriedShapesAloneListsTheirBlocksOnly) {
+    auto xml = Write({}, {2}, CarriedCheckbox());
+    EXPECT_STREQ(xml->child("xml").child("o:shapelayout").child("o:idmap").attribute("data").value(), "1");
+    EXPECT_EQ(Shapes(*xml).size(), 1u);
 }
 
 }  // namespace

@@ -1,0 +1,154 @@
+// A workbook whose legacy drawings hold notes beside other shapes (the icons and pictures of
+// embedded documents, buttons), opened and saved again: the engine writes the notes anew and keeps
+// the other shapes as they were, under their ids, with their images.
+
+#include "embedded/document/save_open_fixture.hpp"
+#include "ooxml/reader_test_package.hpp"
+
+#include <pugixml.hpp>
+
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+using namespace excel;
+
+namespace {
+
+constexpr const char* Attachments = "realworld-excel/poi__ExcelWithAttachments.xlsm";
+
+std::string Corpus(const std::string& name) {
+    return std::string(VOS_SHARED_DIR) + "/excel-corpus/" + name;
+}
+
+bool IsNote(pugi::xml_node shape) {
+    return std::string_view(shape.child("x:ClientData").attribute("ObjectType").value()) == "Note";
+}
+
+// The shapes of a VML drawing that are not notes, each as markup, and how many notes it has.
+struct VmlShapes {
+    std::vector<std::string> others;
+    std::size_t notes = 0;
+    std::vector<std::string> ids;  // of every shape
+    std::string idmap;
+};
+
+VmlShapes ShapesOf(const std::string& vml) {
+    pugi::xml_document document;
+    EXPECT_TRUE(document.load_string(vml.c_str()));
+    const pugi::xml_node root = document.document_element();
+    VmlShapes shapes;
+    shapes.idmap = root.child("o:shapelayout").child("o:idmap").attribute("data").value();
+    for (const pugi::xml_node child : root.children()) {
+        const std::string_view name = child.name();
+        if (name == "o:shapelayout" || name == "v:shapetype") {
+            continue;
+        }
+        shapes.ids.emplace_back(child.attribute("o:spid") ? child.attribute("o:spid").value()
+                                                          : child.attribute("id").value());
+        if (IsNote(child)) {
+            ++shapes.notes;
+            continue;
+        }
+        std::ostringstream markup;
+        child.print(markup, "", pugi::format_raw);
+        shapes.others.push_back(markup.str());
+    }
+    return shapes;
+}
+
+std::vector<std::string> VmlParts(const ooxml_test::PackageParts& parts) {
+    std::vector<std::string> names;
+    for (const auto& [name, bytes] : parts) {
+        if (name.ends_with(".vml")) {
+            names.push_back(name);
+        }
+    }
+    return names;
+}
+
+class LegacyDrawingSaveOpenTest : public SaveOpenTest {
+protected:
+    std::shared_ptr<Workbook> OpenCorpus(const std::string& name) {
+        book->Close(false);
+        return app->Workbooks()->Open(Corpus(name));
+    }
+    ooxml_test::PackageParts Saved(const std::shared_ptr<Workbook>& workbook, const std::string& target) {
+        workbook->SaveAs(PathOf(target));
+        return ooxml_test::ReadPackageParts(PathOf(target));
+    }
+};
+
+TEST_F(LegacyDrawingSaveOpenTest, EmbeddedDocumentsKeepTheirIconsBesideTheNotes) {
+    const ooxml_test::PackageParts input = ooxml_test::ReadPackageParts(Corpus(Attachments));
+    auto workbook = OpenCorpus(Attachments);
+    const ooxml_test::PackageParts output = Saved(workbook, "copy.xlsm");
+    for (const auto& [part, bytes] : input) {
+        if (part.starts_with("xl/media/") || part.starts_with("xl/embeddings/")) {
+            SCOPED_TRACE(part);
+            ASSERT_EQ(output.count(part), 1u);
+            EXPECT_TRUE(output.at(part) == bytes);
+        }
+    }
+    const VmlShapes opened = ShapesOf(input.at("xl/drawings/vmlDrawing1.vml"));
+    ASSERT_EQ(VmlParts(output), std::vector<std::string>{"xl/drawings/vmlDrawing1.vml"});
+    const VmlShapes saved = ShapesOf(output.at("xl/drawings/vmlDrawing1.vml"));
+    EXPECT_EQ(opened.others.size(), 4u);
+    EXPECT_EQ(saved.others, opened.others);
+    EXPECT_EQ(saved.notes, opened.notes);
+    EXPECT_EQ(std::set<std::string>(saved.ids.begin(), saved.ids.end()).size(), saved.ids.size());
+    // The pictures keep block 1, which the sheet's oleObjects refer to (shapeId="1032"); the notes take block 2.
+    EXPECT_EQ(saved.idmap, "1,2");
+    EXPECT_NE(output.at("xl/worksheets/sheet1.xml").find(R"(shapeId="1032")"), std::string::npos);
+    for (const char* image :
+         {"../media/image1.emf", "../media/image2.emf", "../media/image3.emf", "../media/image4.emf"}) {
+        EXPECT_NE(output.at("xl/drawings/_rels/vmlDrawing1.vml.rels").find(image), std::string::npos) << image;
+    }
+    EXPECT_EQ(RunTool("validate-xlsx", PathOf("copy.xlsm")), 0);
+    EXPECT_EQ(RunTool("check-xlsx", PathOf("copy.xlsm")), 0);
+}
+
+TEST_F(LegacyDrawingSaveOpenTest, TheIconsStayWhenTheNotesAreCleared) {
+    const ooxml_test::PackageParts input = ooxml_test::ReadPackageParts(Corpus(Attachments));
+    auto workbook = OpenCorpus(Attachments);
+    workbook->Worksheets(1)->Cells()->ClearComments();
+    const ooxml_test::PackageParts output = Saved(workbook, "cleared.xlsm");
+    ASSERT_EQ(VmlParts(output).size(), 1u);
+    const VmlShapes saved = ShapesOf(output.at(VmlParts(output).front()));
+    EXPECT_EQ(saved.notes, 0u);
+    EXPECT_EQ(saved.others, ShapesOf(input.at("xl/drawings/vmlDrawing1.vml")).others);
+    EXPECT_EQ(saved.idmap, "1");
+    EXPECT_EQ(output.count("xl/comments1.xml"), 0u);
+    EXPECT_EQ(RunTool("validate-xlsx", PathOf("cleared.xlsm")), 0);
+    EXPECT_EQ(RunTool("check-xlsx", PathOf("cleared.xlsm")), 0);
+}
+
+// Two sheets with buttons and notes, the first with 2,048 notes over blocks 1 to 3 and its buttons
+// in block 1, the other with its button in block 4: every shape of the workbook keeps an id of its own.
+TEST_F(LegacyDrawingSaveOpenTest, ButtonsKeepTheirIdsAndNotesTakeOthers) {
+    const std::string name = "cells-drawings-xlsxwriter/rxw__vml04.xlsx";
+    const ooxml_test::PackageParts input = ooxml_test::ReadPackageParts(Corpus(name));
+    auto workbook = OpenCorpus(name);
+    const ooxml_test::PackageParts output = Saved(workbook, "copy.xlsx");
+    std::set<std::string> ids;
+    std::size_t shapes = 0;
+    std::set<std::string> idmaps;
+    for (const std::string& part : VmlParts(output)) {
+        SCOPED_TRACE(part);
+        const VmlShapes saved = ShapesOf(output.at(part));
+        const VmlShapes opened = ShapesOf(input.at(part));
+        EXPECT_EQ(saved.others, opened.others);
+        EXPECT_EQ(saved.notes, opened.notes);
+        ids.insert(saved.ids.begin(), saved.ids.end());
+        shapes += saved.ids.size();
+        idmaps.insert(saved.idmap);
+    }
+    EXPECT_EQ(shapes, 2048u + 3u + 1u + 1u);
+    EXPECT_EQ(ids.size(), shapes);
+    EXPECT_EQ(idmaps, (std::set<std::string>{"1,2,3,5", "4,6"}));
+    EXPECT_EQ(RunTool("validate-xlsx", PathOf("copy.xlsx")), 0);
+    EXPECT_EQ(RunTool("check-xlsx", PathOf("copy.xlsx")), 0);
+}
+
+}  // namespace
