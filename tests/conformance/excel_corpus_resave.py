@@ -8,8 +8,20 @@ The workbooks are the EXCEL-classified .xlsx files of one folder of the Excel co
 INDEX.md lists them; --every N takes every N-th of them in name order. Content the engine does not
 model is dropped on saving; the run ends with a count of what was dropped, by kind.
 
+--changed resaves with resave_workbook --insert-row-and-delete-last: a row is inserted at the top
+of the first worksheet and the last sheet deleted before saving. The openpyxl comparison then
+expects the first worksheet's values one row down and the last sheet gone, and leaves formulas,
+formula results and names to the loss report, which knows where their references should point.
+
+--nothing-lost also requires the round trip to lose nothing, as scripts/resave-losses measures it:
+with "parts", every part of the input is in the output, byte for byte unless the engine writes it
+itself (workbook, worksheets, styles, shared strings, drawings, comments, VML, properties); with
+"all" (the default), no element, attribute, formula, name or column width is lost either. The
+checkers then compare each output with its input: an output may have only the findings its input
+has.
+
 Usage: excel_corpus_resave.py --resave PROGRAM --corpus DIR --folder NAME [--every N] --out DIR
-                              --tools DIR
+                              --tools DIR [--changed] [--nothing-lost [parts|all]]
 Exit status: 0 when every workbook passes, 1 otherwise.
 """
 
@@ -20,6 +32,7 @@ import os
 import re
 import subprocess
 import sys
+import types
 import warnings
 import zipfile
 import xml.etree.ElementTree as ElementTree
@@ -33,8 +46,21 @@ INDEX_ENTRY = re.compile(r"^\* `([^`]+)` \| \d+ \| [^|]* \| (\S+) \|")
 # References the saved package cannot resolve, as neither links to other workbooks nor tables are
 # saved: "[1]Data!A1", "'[2]Rates'!B2", "Sales[Amount]". The engine writes them as #REF!.
 UNRESOLVABLE = re.compile(r"(^|[^\w.\]])'?\[[1-9][0-9]*\]|(^|[^\w.\\\]'!\"])[A-Za-z_\\][\w.\\?]*\[")
-BATCH_SIZE = 20
 RESAVE_TIMEOUT_SECONDS = 60
+CHANGE_OPTION = "--insert-row-and-delete-last"
+LOSSES_SCRIPT = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "scripts", "resave-losses")
+
+
+def load_losses():
+    """scripts/resave-losses as a module: it has no .py suffix, being a command."""
+    module = types.ModuleType("resave_losses")
+    module.__file__ = LOSSES_SCRIPT
+    with open(LOSSES_SCRIPT, encoding="utf-8") as source:
+        exec(compile(source.read(), LOSSES_SCRIPT, "exec"), module.__dict__)
+    return module
+
+
+losses = load_losses()
 
 
 def excel_made_workbooks(corpus, folder, every):
@@ -51,12 +77,12 @@ def excel_made_workbooks(corpus, folder, every):
     return [os.path.join(corpus, folder, name) for name in sorted(names)[::every]]
 
 
-def resave(program, source, target):
+def resave(program, source, target, changed=False):
     if os.path.exists(target):
         os.remove(target)
+    command = [program] + ([CHANGE_OPTION] if changed else []) + [source, target]
     try:
-        run = subprocess.run([program, source, target], capture_output=True, text=True,
-                             timeout=RESAVE_TIMEOUT_SECONDS)
+        run = subprocess.run(command, capture_output=True, text=True, timeout=RESAVE_TIMEOUT_SECONDS)
     except subprocess.TimeoutExpired:
         return f"resave did not finish in {RESAVE_TIMEOUT_SECONDS} s"
     if run.returncode != 0 or not os.path.exists(target):
@@ -64,45 +90,16 @@ def resave(program, source, target):
     return None
 
 
-def batches(items):
-    for start in range(0, len(items), BATCH_SIZE):
-        yield items[start:start + BATCH_SIZE]
-
-
 def schema_failures(tools, paths):
-    """validate-xlsx prints the parts that did not pass, then one SUMMARY line per package; a
-    package without its SUMMARY line was not validated, which counts as a failure too."""
-    failures = {path: ["schema: validate-xlsx did not report on this file"] for path in paths}
-    for batch in batches(paths):
-        run = subprocess.run(["bash", os.path.join(tools, "validate-xlsx"), "-q", *batch],
-                             capture_output=True, text=True)
-        pending = []
-        for line in (run.stdout + run.stderr).splitlines():
-            summary = re.match(r"^SUMMARY (.+\.xlsx): (\S+)", line)
-            if summary:
-                failures[summary.group(1)] = [] if summary.group(2) == "PASS" else pending or ["schema: FAIL"]
-                pending = []
-            elif line.startswith("FAIL") or (pending and line.startswith(" ")):
-                pending.append("schema: " + line.strip())
-    return failures
+    """validate-xlsx's findings per package, found as scripts/resave-losses finds them."""
+    return {path: ["schema: " + problem for problem in problems]
+            for path, problems in losses.schema_results(tools, paths).items()}
 
 
 def consistency_errors(tools, paths):
-    """check-xlsx prints its ERROR findings, then one OK or FAIL line per package."""
-    errors = {path: ["consistency: check-xlsx did not report on this file"] for path in paths}
-    for batch in batches(paths):
-        run = subprocess.run([sys.executable, os.path.join(tools, "check-xlsx"), "-q", *batch],
-                             capture_output=True, text=True)
-        findings = collections.defaultdict(list)
-        for line in (run.stdout + run.stderr).splitlines():
-            finding = re.match(r"^(.+\.xlsx): ERROR (.*)$", line)
-            summary = re.match(r"^(.+\.xlsx): (OK|FAIL) \(", line)
-            if finding:
-                findings[finding.group(1)].append("consistency: " + finding.group(2))
-            elif summary:
-                errors[summary.group(1)] = findings[summary.group(1)] or (
-                    ["consistency: FAIL"] if summary.group(2) == "FAIL" else [])
-    return errors
+    """check-xlsx's ERROR findings per package."""
+    return {path: ["consistency: " + problem for problem in problems]
+            for path, problems in losses.consistency_results(tools, paths).items()}
 
 
 STRING_LITERAL = re.compile(r'"(?:[^"]|"")*"')
@@ -151,7 +148,36 @@ def workbook_content(path):
     return [sheet.title for sheet in book.worksheets], sheets, names
 
 
-def content_differences(original_path, resaved_path):
+def changed_content(original_path, original):
+    """What the original should read like after resave_workbook --insert-row-and-delete-last: the
+    last sheet gone and the first worksheet's values one row down. Formulas, their results, print
+    areas and names are left out: the loss report checks where their references point."""
+    change = losses.Change(losses.workbook_sheets(losses.Package(original_path)))
+    titles, sheets, _ = original
+    kept = {}
+    for title, (cells, _results, *_printing) in sheets.items():
+        if change.is_deleted(title):
+            continue
+        moved = {}
+        for address, value in cells.items():
+            if isinstance(value, str) and value.startswith("="):
+                continue
+            row, column = losses.cell_position(address)
+            if change.is_first(title):
+                row += 1
+            moved[losses.column_letters(column) + str(row)] = value
+        kept[title] = (moved, {}, None, None, None)
+    return [title for title in titles if not change.is_deleted(title)], kept, None
+
+
+def without_formulas(content):
+    titles, sheets, _ = content
+    return titles, {title: ({address: value for address, value in cells.items()
+                             if not (isinstance(value, str) and value.startswith("="))}, {}, None, None, None)
+                    for title, (cells, *_rest) in sheets.items()}, None
+
+
+def content_differences(original_path, resaved_path, changed=False):
     try:
         original = workbook_content(original_path)
     except Exception:  # openpyxl cannot read some Excel files; then there is nothing to compare with
@@ -160,6 +186,8 @@ def content_differences(original_path, resaved_path):
         resaved = workbook_content(resaved_path)
     except Exception as error:
         return [f"openpyxl cannot read the resaved file: {error!r}"]
+    if changed:
+        original, resaved = changed_content(original_path, original), without_formulas(resaved)
     differences = []
     if original[0] != resaved[0]:
         return [f"worksheet names {original[0]} became {resaved[0]}"]
@@ -175,6 +203,8 @@ def content_differences(original_path, resaved_path):
                 differences.append(f"{title}!{address}: result {before!r} became {after!r}")
         if printing != resaved_printing:
             differences.append(f"{title}: print area/titles {printing} became {resaved_printing}")
+    if changed:
+        return differences
     for key in sorted(original[2].keys() | resaved[2].keys(), key=repr):
         before, after = original[2].get(key), resaved[2].get(key)
         unchanged = before == after or unresolvable_replaced(before, after)
@@ -222,13 +252,16 @@ def package_settings(path):
     return date1904, sheets
 
 
-def settings_differences(original_path, resaved_path):
+def settings_differences(original_path, resaved_path, changed=False):
     original_1904, original_sheets = package_settings(original_path)
     resaved_1904, resaved_sheets = package_settings(resaved_path)
     differences = []
     if original_1904 != resaved_1904:
         differences.append(f"date1904 {original_1904} became {resaved_1904}")
+    change = losses.Change(losses.workbook_sheets(losses.Package(original_path))) if changed else None
     for title, (default, widths) in original_sheets.items():
+        if change is not None and change.is_deleted(title):
+            continue  # a row inserted moves no column, the deleted sheet takes its widths along
         resaved_default, resaved_widths = resaved_sheets.get(title, (None, {}))
         if default != resaved_default:
             differences.append(f"{title}: defaultColWidth {default} became {resaved_default}")
@@ -269,6 +302,33 @@ def content_kinds(path):
     return kinds
 
 
+def nothing_lost_problems(source, target, changed, scope):
+    """The losses scripts/resave-losses counts against the round trip, one line per kind."""
+    findings = losses.analyse((source, target, changed))["losses"]
+    counted = [(kind, detail, count) for kind, detail, asserted, count in findings if asserted]
+    if scope == "parts":
+        counted = [entry for entry in counted if entry[0].startswith(("part ", "content type", "comparison"))]
+    by_kind = collections.defaultdict(list)
+    for kind, detail, count in counted:
+        by_kind[kind].append((detail, count))
+    ordered = sorted(by_kind.items(), key=lambda item: (losses.kind_rank(item[0]), item[0]))
+    return [f"lost: {kind} ({sum(count for _, count in entries)})" + (f": {entries[0][0]}" if entries[0][0] else "")
+            for kind, entries in ordered]
+
+
+def checker_regressions(tools, pairs):
+    """Checker findings of the outputs that their inputs do not have."""
+    paths = [path for pair in pairs for path in pair]
+    results = losses.run_checkers(tools, paths)
+    problems = {}
+    for source, target in pairs:
+        problems[source] = []
+        for checker in ("schema", "consistency"):
+            problems[source] += [f"{checker} (not so in the input): {problem}"
+                                 for problem in losses.new_checker_problems(results, source, target, checker)]
+    return problems
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__.strip().splitlines()[0])
     parser.add_argument("--resave", required=True)
@@ -277,6 +337,10 @@ def main():
     parser.add_argument("--every", type=int, default=1)
     parser.add_argument("--out", required=True)
     parser.add_argument("--tools", required=True)
+    parser.add_argument("--changed", action="store_true",
+                        help="insert a row at the top of the first worksheet and delete the last sheet before saving")
+    parser.add_argument("--nothing-lost", nargs="?", const="all", choices=("parts", "all"),
+                        help="fail on every loss scripts/resave-losses counts (parts only, or all)")
     arguments = parser.parse_args()
 
     sources = excel_made_workbooks(arguments.corpus, arguments.folder, arguments.every)
@@ -288,20 +352,27 @@ def main():
     resaved = {}
     for source in sources:
         target = os.path.join(os.path.abspath(arguments.out), os.path.basename(source))
-        failure = resave(arguments.resave, source, target)
+        failure = resave(arguments.resave, source, target, arguments.changed)
         if failure:
             problems[source].append(failure)
         else:
             resaved[source] = target
 
-    targets = list(resaved.values())
-    schema = schema_failures(arguments.tools, targets)
-    consistency = consistency_errors(arguments.tools, targets)
+    if arguments.nothing_lost:
+        # An output may have the checker findings of its input: keeping everything keeps them.
+        checked = checker_regressions(arguments.tools, list(resaved.items()))
+    else:
+        targets = list(resaved.values())
+        schema = schema_failures(arguments.tools, targets)
+        consistency = consistency_errors(arguments.tools, targets)
+        checked = {source: schema.get(target, []) + consistency.get(target, []) for source, target in resaved.items()}
     dropped = collections.Counter()
     for source, target in resaved.items():
-        problems[source] += schema.get(target, []) + consistency.get(target, [])
-        problems[source] += content_differences(source, target)
-        problems[source] += settings_differences(source, target)
+        problems[source] += checked[source]
+        problems[source] += content_differences(source, target, arguments.changed)
+        problems[source] += settings_differences(source, target, arguments.changed)
+        if arguments.nothing_lost:
+            problems[source] += nothing_lost_problems(source, target, arguments.changed, arguments.nothing_lost)
         for kind in content_kinds(source) - content_kinds(target):
             dropped[kind] += 1
         if any(refers_to_unresolvable(formula or "") for formula in defined_name_formulas(source)):
@@ -317,7 +388,9 @@ def main():
     print("dropped on resave (files):")
     for kind, count in sorted(dropped.items(), key=lambda item: (-item[1], item[0])):
         print(f"    {count:4d}  {kind}")
-    print(f"{arguments.folder}: {len(sources)} workbooks, {len(sources) - len(failed)} passed, {len(failed)} failed")
+    variant = " (row inserted, last sheet deleted)" if arguments.changed else ""
+    print(f"{arguments.folder}{variant}: {len(sources)} workbooks, {len(sources) - len(failed)} passed, "
+          f"{len(failed)} failed")
     return 1 if failed else 0
 
 

@@ -5,17 +5,56 @@
 
 #include <filesystem>
 #include <iostream>
+#include <string>
 
-// Opens a workbook with the embedded engine and saves it under another name, unchanged.
+namespace {
+
+constexpr const char* kChangeOption = "--insert-row-and-delete-last";
+
+// A small edit of the kind a user makes before saving, so that the round trip also covers content
+// that moves (every cell, formula, name and anchor below row 1 shifts down one row) and content
+// that goes with a deleted sheet (formulas and names that refer to it become #REF!).
+void InsertRowAndDeleteLastSheet(excel::Application& app, excel::Workbook& book) {
+    book.Worksheets(1)->Range("1:1")->EntireRow()->Insert(excel::xlShiftDown);
+
+    auto sheets = book.Sheets();
+    const int32_t count = sheets->Count();
+    if (count < 2)
+        return;
+    // Excel refuses to delete the only visible sheet; such a workbook keeps its last sheet.
+    bool anotherVisible = false;
+    for (int32_t index = 1; index < count; ++index) {
+        anotherVisible = anotherVisible || sheets->Item(index)->Visible() == excel::xlSheetVisible;
+    }
+    if (!anotherVisible) {
+        std::cerr << "note: the last sheet is the only visible one, so it was kept\n";
+        return;
+    }
+    // Deleting a sheet asks for confirmation unless alerts are off.
+    app.SetDisplayAlerts(false);
+    sheets->Item(count)->Delete();
+    app.SetDisplayAlerts(true);
+}
+
+}  // namespace
+
+// Opens a workbook with the embedded engine and saves it under another name, unchanged, or with
+// --insert-row-and-delete-last after inserting a row at the top of the first worksheet and
+// deleting the last sheet (when there is more than one).
 int main(int argc, char** argv) {
-    if (argc != 3) {
-        std::cerr << "usage: " << argv[0] << " SOURCE.xlsx TARGET.xlsx\n";
+    const bool change = argc == 4 && std::string(argv[1]) == kChangeOption;
+    if (argc != 3 && !change) {
+        std::cerr << "usage: " << argv[0] << " [" << kChangeOption << "] SOURCE.xlsx TARGET.xlsx\n";
         return 2;
     }
+    const std::string source = argv[argc - 2];
+    const std::string target = argv[argc - 1];
     return conformance::RunReportingFailure([&] {
         auto app = excel::embedded::CreateApplication();
-        auto book = app->Workbooks()->Open(std::filesystem::absolute(argv[1]).string());
-        book->SaveAs(std::filesystem::absolute(argv[2]).string());
+        auto book = app->Workbooks()->Open(std::filesystem::absolute(source).string());
+        if (change)
+            InsertRowAndDeleteLastSheet(*app, *book);
+        book->SaveAs(std::filesystem::absolute(target).string());
         book->Close(false);
     });
 }
