@@ -5,8 +5,8 @@ as the original; read from the XML, the same date system, default column widths 
 (and whether each was custom).
 
 The workbooks are the EXCEL-classified .xlsx files of one folder of the Excel corpus, as its
-INDEX.md lists them; --every N takes every N-th of them in name order. Content the engine does not
-model is dropped on saving; the run ends with a count of what was dropped, by kind.
+INDEX.md lists them; --every N takes every N-th of them in name order. The run ends with a count
+of the kinds of content a resaved workbook no longer has.
 
 --changed resaves with resave_workbook --insert-row-and-delete-last: a row is inserted at the top
 of the first worksheet and the last sheet deleted before saving. The openpyxl comparison then
@@ -43,9 +43,6 @@ MAIN_NS = "{http://schemas.openxmlformats.org/spreadsheetml/2006/main}"
 RELATIONSHIP_ID = "{http://schemas.openxmlformats.org/officeDocument/2006/relationships}id"
 INDEX_FOLDER = re.compile(r"^### (\S+)/")
 INDEX_ENTRY = re.compile(r"^\* `([^`]+)` \| \d+ \| [^|]* \| (\S+) \|")
-# References the saved package cannot resolve, as neither links to other workbooks nor tables are
-# saved: "[1]Data!A1", "'[2]Rates'!B2", "Sales[Amount]". The engine writes them as #REF!.
-UNRESOLVABLE = re.compile(r"(^|[^\w.\]])'?\[[1-9][0-9]*\]|(^|[^\w.\\\]'!\"])[A-Za-z_\\][\w.\\?]*\[")
 RESAVE_TIMEOUT_SECONDS = 60
 CHANGE_OPTION = "--insert-row-and-delete-last"
 LOSSES_SCRIPT = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "scripts", "resave-losses")
@@ -102,22 +99,7 @@ def consistency_errors(tools, paths):
             for path, problems in losses.consistency_results(tools, paths).items()}
 
 
-STRING_LITERAL = re.compile(r'"(?:[^"]|"")*"')
-
-
-def refers_to_unresolvable(formula):
-    return UNRESOLVABLE.search(STRING_LITERAL.sub('""', formula)) is not None
-
-
-def unresolvable_replaced(original, resaved):
-    """A formula or name that referred to another workbook or a table now refers to #REF! instead."""
-    return (isinstance(original, str) and isinstance(resaved, str) and refers_to_unresolvable(original)
-            and "#REF!" in resaved and not refers_to_unresolvable(resaved))
-
-
 def same_value(original, resaved):
-    if isinstance(original, str) and original.startswith("=") and refers_to_unresolvable(original):
-        return unresolvable_replaced(original, resaved)
     if isinstance(original, float) and isinstance(resaved, float) and math.isnan(original):
         return math.isnan(resaved)
     return original == resaved and type(original) is type(resaved)
@@ -207,8 +189,7 @@ def content_differences(original_path, resaved_path, changed=False):
         return differences
     for key in sorted(original[2].keys() | resaved[2].keys(), key=repr):
         before, after = original[2].get(key), resaved[2].get(key)
-        unchanged = before == after or unresolvable_replaced(before, after)
-        if key not in original[2] or key not in resaved[2] or not unchanged:
+        if key not in original[2] or key not in resaved[2] or before != after:
             differences.append(f"defined name {key}: {before!r} became {after!r}")
     return differences
 
@@ -275,12 +256,6 @@ def settings_differences(original_path, resaved_path, changed=False):
 def worksheet_element_kinds(package, part):
     root = ElementTree.fromstring(package.read(part))
     return {"worksheet <" + child.tag.split("}")[-1] + ">" for child in root}
-
-
-def defined_name_formulas(path):
-    with zipfile.ZipFile(path) as package:
-        workbook = ElementTree.fromstring(package.read("xl/workbook.xml"))
-    return [name.text for name in workbook.iter(MAIN_NS + "definedName")]
 
 
 def content_kinds(path):
@@ -375,8 +350,6 @@ def main():
             problems[source] += nothing_lost_problems(source, target, arguments.changed, arguments.nothing_lost)
         for kind in content_kinds(source) - content_kinds(target):
             dropped[kind] += 1
-        if any(refers_to_unresolvable(formula or "") for formula in defined_name_formulas(source)):
-            dropped["defined names referring to other workbooks or tables (now #REF!)"] += 1
 
     failed = [source for source in sources if problems[source]]
     for source in failed:

@@ -104,6 +104,11 @@ struct CarriedWorkbook {
     std::vector<CarriedSheet> sheets;
     std::vector<CarriedSheetName> sheetNames;
     CarriedMarkup styles;
+    // The document properties the engine does not set: of the core part all but the last author
+    // and modification time (so the creator, creation time, title, subject, keywords, ...), of the
+    // extended part the company, manager, hyperlink base and the like.
+    CarriedMarkup coreProperties;
+    CarriedMarkup appProperties;
 };
 
 }  // namespace ooxml

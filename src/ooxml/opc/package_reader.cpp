@@ -289,11 +289,14 @@ private:
     void ReadProperties(const std::vector<Relationship>& packageRelationships) {
         if (const Relationship* core = FindRelationshipOfType(packageRelationships, "core-properties")) {
             if (std::optional<std::string> xml = archive_.Read(core->target)) {
-                document_.properties = ReadDocumentProperties(*xml, core->target);
+                document_.properties = ReadDocumentProperties(*xml, core->target, carried_->coreProperties);
             }
             carriedParts_.Rewritten(core->target);
         }
         if (const Relationship* app = FindRelationshipOfType(packageRelationships, "extended-properties")) {
+            if (std::optional<std::string> xml = archive_.Read(app->target)) {
+                ReadAppProperties(*xml, app->target, carried_->appProperties);
+            }
             carriedParts_.Rewritten(app->target);
         }
         carried_->packageRelationships =

@@ -278,7 +278,12 @@ void PlanPackage(const WorkbookDocument& document, const std::string& path, Pack
         package.parts.push_back(std::move(part));
     }
     package.parts.push_back({"docProps/core.xml", kCorePropertiesContentType,
-                             [&document](XmlWriter& xml) { WriteCorePropertiesPart(xml, document.properties); }, {}});
+                             [&document](XmlWriter& xml) {
+                                 WriteCorePropertiesPart(xml, document.properties,
+                                                         document.carried && !document.carried->coreProperties.Empty()
+                                                             ? &document.carried->coreProperties
+                                                             : nullptr);
+                             }, {}});
     package.parts.push_back({"docProps/app.xml", kAppPropertiesContentType,
                              [&document](XmlWriter& xml) { WriteAppPropertiesPart(xml, document); }, {}});
 }

@@ -1,5 +1,6 @@
 #include "ooxml/properties/document_properties_part.hpp"
 
+#include "ooxml/carried/carried_attributes.hpp"
 #include <ctime>
 #include <string>
 
@@ -40,7 +41,9 @@ void TextElement(XmlWriter& xml, std::string_view element, std::string_view text
 
 }  // namespace
 
-void WriteCorePropertiesPart(XmlWriter& xml, const DocumentProperties& properties) {
+// An opened workbook keeps its creator, creation time and the rest: only the last author and
+// the modification time are the save's.
+void WriteCorePropertiesPart(XmlWriter& xml, const DocumentProperties& properties, const CarriedMarkup* carried) {
     xml.Declaration();
     xml.StartElement("cp:coreProperties");
     xml.Attribute("xmlns:cp", "http://schemas.openxmlformats.org/package/2006/metadata/core-properties");
@@ -48,9 +51,18 @@ void WriteCorePropertiesPart(XmlWriter& xml, const DocumentProperties& propertie
     xml.Attribute("xmlns:dcterms", "http://purl.org/dc/terms/");
     xml.Attribute("xmlns:dcmitype", "http://purl.org/dc/dcmitype/");
     xml.Attribute("xmlns:xsi", "http://www.w3.org/2001/XMLSchema-instance");
-    OptionalText(xml, "dc:creator", properties.creator);
+    if (carried != nullptr) {
+        WriteCarriedAttributes(xml, carried->rootAttributes);
+        for (const CarriedElement& element : carried->elements) {
+            xml.Raw(element.xml);
+        }
+    } else {
+        OptionalText(xml, "dc:creator", properties.creator);
+    }
     OptionalText(xml, "cp:lastModifiedBy", properties.lastModifiedBy);
-    OptionalTime(xml, "dcterms:created", properties.created);
+    if (carried == nullptr) {
+        OptionalTime(xml, "dcterms:created", properties.created);
+    }
     OptionalTime(xml, "dcterms:modified", properties.modified);
     xml.EndElement();
 }
@@ -60,6 +72,9 @@ void WriteAppPropertiesPart(XmlWriter& xml, const WorkbookDocument& document) {
     xml.StartElement("Properties");
     xml.Attribute("xmlns", "http://schemas.openxmlformats.org/officeDocument/2006/extended-properties");
     xml.Attribute("xmlns:vt", "http://schemas.openxmlformats.org/officeDocument/2006/docPropsVTypes");
+    if (document.carried) {
+        WriteCarriedAttributes(xml, document.carried->appProperties.rootAttributes);
+    }
     TextElement(xml, "Application", kApplicationName);
     TextElement(xml, "DocSecurity", "0");
     TextElement(xml, "ScaleCrop", "false");
@@ -90,6 +105,11 @@ void WriteAppPropertiesPart(XmlWriter& xml, const WorkbookDocument& document) {
     TextElement(xml, "LinksUpToDate", "false");
     TextElement(xml, "SharedDoc", "false");
     TextElement(xml, "HyperlinksChanged", "false");
+    if (document.carried) {
+        for (const CarriedElement& element : document.carried->appProperties.elements) {
+            xml.Raw(element.xml);
+        }
+    }
     xml.EndElement();
 }
 

@@ -18,8 +18,10 @@ inline constexpr std::string_view kAppPropertiesRelationshipType =
 // The name a package gives as the application that wrote it.
 inline constexpr std::string_view kApplicationName = "VosExcelReporting";
 
-// Writes docProps/core.xml: author, last editor, creation and modification times (UTC).
-void WriteCorePropertiesPart(XmlWriter& xml, const DocumentProperties& properties);
+// Writes docProps/core.xml: author, last editor, creation and modification times (UTC); for an
+// opened workbook its own properties (carried) instead of the author and creation time.
+void WriteCorePropertiesPart(XmlWriter& xml, const DocumentProperties& properties,
+                             const CarriedMarkup* carried = nullptr);
 
 // Writes docProps/app.xml: the writing application and the list of worksheets.
 void WriteAppPropertiesPart(XmlWriter& xml, const WorkbookDocument& document);

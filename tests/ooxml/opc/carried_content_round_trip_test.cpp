@@ -309,3 +309,38 @@ TEST(CarriedContentRoundTrip, DefinedNamesKeepWhatTheFileSaidOfThem) {
 }
 
 }  // namespace
+
+namespace {
+
+TEST(CarriedContentRoundTrip, DocumentPropertiesKeepWhatTheWriterDoesNotSet) {
+    PackageParts input = RichPackage();
+    input["docProps/core.xml"] =
+        std::string(Declaration) +
+        R"(<cp:coreProperties xmlns:cp="http://schemas.openxmlformats.org/package/2006/metadata/core-properties" )"
+        R"(xmlns:dc="http://purl.org/dc/elements/1.1/" xmlns:dcterms="http://purl.org/dc/terms/" )"
+        R"(xmlns:xsi="http://www.w3.org/2001/XMLSchema-instance"><dc:title>Budget</dc:title><dc:creator>Ann</dc:creator>)"
+        R"(<cp:lastModifiedBy>Bob</cp:lastModifiedBy><dcterms:created xsi:type="dcterms:W3CDTF">2020-01-02T03:04:05Z</dcterms:created>)"
+        R"(<dcterms:modified xsi:type="dcterms:W3CDTF">2021-01-02T03:04:05Z</dcterms:modified></cp:coreProperties>)";
+    input["docProps/app.xml"] =
+        std::string(Declaration) +
+        R"(<Properties xmlns="http://schemas.openxmlformats.org/officeDocument/2006/extended-properties" )"
+        R"(xmlns:vt="http://schemas.openxmlformats.org/officeDocument/2006/docPropsVTypes"><Application>Microsoft Excel</Application>)"
+        R"(<Company>Acme</Company><Manager>Carol</Manager><AppVersion>16.0300</AppVersion></Properties>)";
+    std::string& relationships = input["_rels/.rels"];
+    relationships.insert(relationships.find("</Relationships>"),
+                         R"(<Relationship Id="rId2" Type="http://schemas.openxmlformats.org/package/2006/relationships/metadata/core-properties" Target="docProps/core.xml"/>)"
+                         R"(<Relationship Id="rId3" Type="http://schemas.openxmlformats.org/officeDocument/2006/relationships/extended-properties" Target="docProps/app.xml"/>)");
+    const PackageParts output = Resaved(input);
+    const std::string& core = output.at("docProps/core.xml");
+    for (const char* kept : {"<dc:title>Budget</dc:title>", "<dc:creator>Ann</dc:creator>",
+                             ">2020-01-02T03:04:05Z</dcterms:created>", "<cp:lastModifiedBy>Bob</cp:lastModifiedBy>"}) {
+        EXPECT_NE(core.find(kept), std::string::npos) << kept;
+    }
+    EXPECT_EQ(core.find("<dc:creator>", core.find("<dc:creator>") + 1), std::string::npos);
+    const std::string& app = output.at("docProps/app.xml");
+    EXPECT_NE(app.find("<Company>Acme</Company><Manager>Carol</Manager>"), std::string::npos);
+    EXPECT_EQ(app.find("Microsoft Excel"), std::string::npos);
+    EXPECT_EQ(app.find("AppVersion"), std::string::npos);
+}
+
+}  // namespace
