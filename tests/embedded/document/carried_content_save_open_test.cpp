@@ -224,3 +224,22 @@ TEST_F(CarriedContentSaveOpenTest, NamesKeepWhatTheFileSaidOfThem) {
 }
 
 }  // namespace
+
+namespace {
+
+// What moving cells does not move yet: the charts a workbook carries keep their series ranges as
+// they were (Excel would move them with the cells), and the file stays valid.
+TEST_F(CarriedContentSaveOpenTest, CarriedChartsKeepTheirRangesWhenCellsMove) {
+    const std::string name = "realworld-excel/poi__WithThreeCharts.xlsx";
+    const ooxml_test::PackageParts input = ooxml_test::ReadPackageParts(Corpus(name));
+    auto workbook = OpenCorpus(name);
+    workbook->Worksheets("Sheet1")->Range("A1")->EntireRow()->Insert();
+    const ooxml_test::PackageParts output = Saved(workbook, "moved.xlsx");
+    ASSERT_EQ(output.count("xl/charts/chart1.xml"), 1u);
+    EXPECT_TRUE(output.at("xl/charts/chart1.xml") == input.at("xl/charts/chart1.xml"));
+    EXPECT_NE(output.at("xl/charts/chart1.xml").find("<c:f>Sheet1!$A$1:$A$6</c:f>"), std::string::npos);
+    EXPECT_EQ(RunTool("validate-xlsx", PathOf("moved.xlsx")), 0);
+    EXPECT_EQ(RunTool("check-xlsx", PathOf("moved.xlsx")), 0);
+}
+
+}  // namespace
