@@ -51,19 +51,34 @@ void WriteCorePropertiesPart(XmlWriter& xml, const DocumentProperties& propertie
     xml.Attribute("xmlns:dcterms", "http://purl.org/dc/terms/");
     xml.Attribute("xmlns:dcmitype", "http://purl.org/dc/dcmitype/");
     xml.Attribute("xmlns:xsi", "http://www.w3.org/2001/XMLSchema-instance");
-    if (carried != nullptr) {
-        WriteCarriedAttributes(xml, carried->rootAttributes);
-        for (const CarriedElement& element : carried->elements) {
-            xml.Raw(element.xml);
-        }
-    } else {
-        OptionalText(xml, "dc:creator", properties.creator);
-    }
-    OptionalText(xml, "cp:lastModifiedBy", properties.lastModifiedBy);
     if (carried == nullptr) {
+        OptionalText(xml, "dc:creator", properties.creator);
+        OptionalText(xml, "cp:lastModifiedBy", properties.lastModifiedBy);
         OptionalTime(xml, "dcterms:created", properties.created);
+        OptionalTime(xml, "dcterms:modified", properties.modified);
+        xml.EndElement();
+        return;
     }
-    OptionalTime(xml, "dcterms:modified", properties.modified);
+    WriteCarriedAttributes(xml, carried->rootAttributes);
+    bool lastModifiedByWritten = false;
+    bool modifiedWritten = false;
+    for (const CarriedElement& element : carried->elements) {
+        if (!element.xml.empty()) {
+            xml.Raw(element.xml);
+        } else if (element.name == "lastModifiedBy" && !lastModifiedByWritten) {
+            OptionalText(xml, "cp:lastModifiedBy", properties.lastModifiedBy);
+            lastModifiedByWritten = true;
+        } else if (element.name == "modified" && !modifiedWritten) {
+            OptionalTime(xml, "dcterms:modified", properties.modified);
+            modifiedWritten = true;
+        }
+    }
+    if (!lastModifiedByWritten) {
+        OptionalText(xml, "cp:lastModifiedBy", properties.lastModifiedBy);
+    }
+    if (!modifiedWritten) {
+        OptionalTime(xml, "dcterms:modified", properties.modified);
+    }
     xml.EndElement();
 }
 
@@ -106,6 +121,7 @@ void WriteAppPropertiesPart(XmlWriter& xml, const WorkbookDocument& document) {
     TextElement(xml, "SharedDoc", "false");
     TextElement(xml, "HyperlinksChanged", "false");
     if (document.carried) {
+        // The elements written above keep only their places in the opened part.
         for (const CarriedElement& element : document.carried->appProperties.elements) {
             xml.Raw(element.xml);
         }

@@ -11,15 +11,18 @@ namespace ooxml {
 
 namespace {
 
-// The root's children but those named, with the root's other namespace declarations.
+// The root's children with the root's other namespace declarations; those the writer writes itself
+// keep only their place (a carried element without markup), so that the part keeps its order.
 void CarryElementsExcept(pugi::xml_node root, std::initializer_list<std::string_view> written,
                          std::initializer_list<std::string_view> writtenAttributes, CarriedMarkup& carried) {
     carried.rootAttributes = AttributesExcept(root, writtenAttributes);
     for (pugi::xml_node child = root.first_child(); child; child = child.next_sibling()) {
-        const std::string_view name = LocalName(child);
-        if (child.type() == pugi::node_element && std::find(written.begin(), written.end(), name) == written.end()) {
-            carried.elements.push_back({0, std::string(name), ElementMarkup(child)});
+        if (child.type() != pugi::node_element) {
+            continue;
         }
+        const std::string_view name = LocalName(child);
+        const bool rewritten = std::find(written.begin(), written.end(), name) != written.end();
+        carried.elements.push_back({0, std::string(name), rewritten ? std::string() : ElementMarkup(child)});
     }
 }
 
