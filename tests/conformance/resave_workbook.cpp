@@ -21,10 +21,17 @@ void InsertRowAndDeleteLastSheet(excel::Application& app, excel::Workbook& book)
     const int32_t count = sheets->Count();
     if (count < 2)
         return;
+    // A chart sheet is no Worksheet, and the object model has no chart objects yet to delete it by.
+    auto worksheets = book.Worksheets();
+    const int32_t worksheetCount = worksheets->Count();
+    if (worksheets->Item(worksheetCount)->Index() != count) {
+        std::cerr << "note: the last sheet is a chart sheet, which cannot be deleted yet, so it was kept\n";
+        return;
+    }
     // Excel refuses to delete the only visible sheet; such a workbook keeps its last sheet.
     bool anotherVisible = false;
-    for (int32_t index = 1; index < count; ++index) {
-        anotherVisible = anotherVisible || sheets->Item(index)->Visible() == excel::xlSheetVisible;
+    for (int32_t index = 1; index < worksheetCount; ++index) {
+        anotherVisible = anotherVisible || worksheets->Item(index)->Visible() == excel::xlSheetVisible;
     }
     if (!anotherVisible) {
         std::cerr << "note: the last sheet is the only visible one, so it was kept\n";
@@ -32,7 +39,7 @@ void InsertRowAndDeleteLastSheet(excel::Application& app, excel::Workbook& book)
     }
     // Deleting a sheet asks for confirmation unless alerts are off.
     app.SetDisplayAlerts(false);
-    sheets->Item(count)->Delete();
+    worksheets->Item(worksheetCount)->Delete();
     app.SetDisplayAlerts(true);
 }
 
