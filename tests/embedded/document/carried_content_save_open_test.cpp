@@ -11,9 +11,6 @@ using namespace excel;
 
 namespace {
 
-std::string Corpus(const std::string& name) {
-    return std::string(VOS_SHARED_DIR) + "/excel-corpus/" + name;
-}
 
 // Parts the engine writes anew from its model; every other part is the file's own.
 bool Rewritten(const std::string& name) {
@@ -27,25 +24,14 @@ bool Rewritten(const std::string& name) {
     return false;
 }
 
-class CarriedContentSaveOpenTest : public SaveOpenTest {
-protected:
-    // Opens the corpus workbook and saves it under target in the test's folder.
-    std::shared_ptr<Workbook> OpenCorpus(const std::string& name) {
-        book->Close(false);
-        return app->Workbooks()->Open(Corpus(name));
-    }
-    ooxml_test::PackageParts Saved(const std::shared_ptr<Workbook>& workbook, const std::string& target) {
-        workbook->SaveAs(PathOf(target));
-        return ooxml_test::ReadPackageParts(PathOf(target));
-    }
-};
+class CarriedContentSaveOpenTest : public SaveOpenTest {};
 
 TEST_F(CarriedContentSaveOpenTest, EveryPartTheEngineDoesNotRewriteIsKeptByteForByte) {
     for (const char* name : {"realworld-excel/poi__WithChartSheet.xlsx", "realworld-excel/poi__DataTableCities.xlsx",
                              "realworld-excel/cxml__TTL__LO__xlsx__activex_checkbox.xlsx",
                              "realworld-excel/calamine__pivots.xlsx"}) {
         SCOPED_TRACE(name);
-        const ooxml_test::PackageParts input = ooxml_test::ReadPackageParts(Corpus(name));
+        const ooxml_test::PackageParts input = ooxml_test::ReadPackageParts(CorpusPath(name));
         auto workbook = OpenCorpus(name);
         const ooxml_test::PackageParts output = Saved(workbook, "copy.xlsx");
         workbook->Close(false);
@@ -89,7 +75,7 @@ TEST_F(CarriedContentSaveOpenTest, ADeletedSheetTakesItsTablesWithIt) {
 
 TEST_F(CarriedContentSaveOpenTest, AMacroWorkbookKeepsItsProjectOnlyWhereItsExtensionAllowsMacros) {
     const std::string name = "cells-drawings-xlsxwriter/xw__macro01.xlsm";
-    const ooxml_test::PackageParts input = ooxml_test::ReadPackageParts(Corpus(name));
+    const ooxml_test::PackageParts input = ooxml_test::ReadPackageParts(CorpusPath(name));
     auto workbook = OpenCorpus(name);
     const ooxml_test::PackageParts asMacroWorkbook = Saved(workbook, "copy.xlsm");
     ASSERT_EQ(asMacroWorkbook.count("xl/vbaProject.bin"), 1u);
@@ -231,7 +217,7 @@ namespace {
 // they were (Excel would move them with the cells), and the file stays valid.
 TEST_F(CarriedContentSaveOpenTest, CarriedChartsKeepTheirRangesWhenCellsMove) {
     const std::string name = "realworld-excel/poi__WithThreeCharts.xlsx";
-    const ooxml_test::PackageParts input = ooxml_test::ReadPackageParts(Corpus(name));
+    const ooxml_test::PackageParts input = ooxml_test::ReadPackageParts(CorpusPath(name));
     auto workbook = OpenCorpus(name);
     workbook->Worksheets("Sheet1")->Range("A1")->EntireRow()->Insert();
     const ooxml_test::PackageParts output = Saved(workbook, "moved.xlsx");

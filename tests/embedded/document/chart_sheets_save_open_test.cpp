@@ -12,9 +12,6 @@ using namespace excel;
 
 namespace {
 
-std::string Corpus(const std::string& name) {
-    return std::string(VOS_SHARED_DIR) + "/excel-corpus/" + name;
-}
 
 // Sheet1, Sheet6, Sheet5, Sheet4, Sheet3, Sheet2, Chart2.
 constexpr const char* chartSheetLast = "realworld-excel/poi__WithChartSheet.xlsx";
@@ -25,10 +22,6 @@ constexpr const char* chartSheetFirst = "realworld-excel/exceljs__chart-sheet.xl
 
 class ChartSheetsSaveOpenTest : public SaveOpenTest {
 protected:
-    std::shared_ptr<Workbook> OpenCorpus(const std::string& name) {
-        book->Close(false);
-        return app->Workbooks()->Open(Corpus(name));
-    }
     // Saves the workbook as target in the test's folder and answers its workbook part.
     std::string SavedWorkbookXml(const std::shared_ptr<Workbook>& workbook, const std::string& target) {
         workbook->SaveAs(PathOf(target));
@@ -91,7 +84,7 @@ TEST_F(ChartSheetsSaveOpenTest, AnUnchangedOrderIsSavedAsOpened) {
 }
 
 TEST_F(ChartSheetsSaveOpenTest, ANameLocalToAChartSheetFollowsIt) {
-    ooxml_test::PackageParts parts = ooxml_test::ReadPackageParts(Corpus(twoChartSheets));
+    ooxml_test::PackageParts parts = ooxml_test::ReadPackageParts(CorpusPath(twoChartSheets));
     std::string& workbookXml = parts.at("xl/workbook.xml");
     workbookXml.insert(workbookXml.find("<calcPr"),
                        "<definedNames><definedName name=\"OnChart\" localSheetId=\"4\">Sheet1!$A$1</definedName>"

@@ -18,9 +18,6 @@ namespace {
 
 constexpr const char* Attachments = "realworld-excel/poi__ExcelWithAttachments.xlsm";
 
-std::string Corpus(const std::string& name) {
-    return std::string(VOS_SHARED_DIR) + "/excel-corpus/" + name;
-}
 
 bool IsNote(pugi::xml_node shape) {
     return std::string_view(shape.child("x:ClientData").attribute("ObjectType").value()) == "Note";
@@ -68,20 +65,10 @@ std::vector<std::string> VmlParts(const ooxml_test::PackageParts& parts) {
     return names;
 }
 
-class LegacyDrawingSaveOpenTest : public SaveOpenTest {
-protected:
-    std::shared_ptr<Workbook> OpenCorpus(const std::string& name) {
-        book->Close(false);
-        return app->Workbooks()->Open(Corpus(name));
-    }
-    ooxml_test::PackageParts Saved(const std::shared_ptr<Workbook>& workbook, const std::string& target) {
-        workbook->SaveAs(PathOf(target));
-        return ooxml_test::ReadPackageParts(PathOf(target));
-    }
-};
+class LegacyDrawingSaveOpenTest : public SaveOpenTest {};
 
 TEST_F(LegacyDrawingSaveOpenTest, EmbeddedDocumentsKeepTheirIconsBesideTheNotes) {
-    const ooxml_test::PackageParts input = ooxml_test::ReadPackageParts(Corpus(Attachments));
+    const ooxml_test::PackageParts input = ooxml_test::ReadPackageParts(CorpusPath(Attachments));
     auto workbook = OpenCorpus(Attachments);
     const ooxml_test::PackageParts output = Saved(workbook, "copy.xlsm");
     for (const auto& [part, bytes] : input) {
@@ -110,7 +97,7 @@ TEST_F(LegacyDrawingSaveOpenTest, EmbeddedDocumentsKeepTheirIconsBesideTheNotes)
 }
 
 TEST_F(LegacyDrawingSaveOpenTest, TheIconsStayWhenTheNotesAreCleared) {
-    const ooxml_test::PackageParts input = ooxml_test::ReadPackageParts(Corpus(Attachments));
+    const ooxml_test::PackageParts input = ooxml_test::ReadPackageParts(CorpusPath(Attachments));
     auto workbook = OpenCorpus(Attachments);
     workbook->Worksheets(1)->Cells()->ClearComments();
     const ooxml_test::PackageParts output = Saved(workbook, "cleared.xlsm");
@@ -128,7 +115,7 @@ TEST_F(LegacyDrawingSaveOpenTest, TheIconsStayWhenTheNotesAreCleared) {
 // in block 1, the other with its button in block 4: every shape of the workbook keeps an id of its own.
 TEST_F(LegacyDrawingSaveOpenTest, ButtonsKeepTheirIdsAndNotesTakeOthers) {
     const std::string name = "cells-drawings-xlsxwriter/rxw__vml04.xlsx";
-    const ooxml_test::PackageParts input = ooxml_test::ReadPackageParts(Corpus(name));
+    const ooxml_test::PackageParts input = ooxml_test::ReadPackageParts(CorpusPath(name));
     auto workbook = OpenCorpus(name);
     const ooxml_test::PackageParts output = Saved(workbook, "copy.xlsx");
     std::set<std::string> ids;

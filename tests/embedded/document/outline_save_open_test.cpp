@@ -10,9 +10,6 @@ using namespace excel;
 
 namespace {
 
-std::string Corpus(const std::string& name) {
-    return std::string(VOS_SHARED_DIR) + "/excel-corpus/" + name;
-}
 
 // The row element of the saved sheet whose number is row, up to its first cell.
 std::string RowElement(const std::string& sheetXml, int row) {
@@ -21,8 +18,7 @@ std::string RowElement(const std::string& sheetXml, int row) {
 }
 
 TEST_F(SaveOpenTest, GroupedRowsKeepTheirOutlineLevelsAndFollowTheirCells) {
-    book->Close(false);
-    auto workbook = app->Workbooks()->Open(Corpus("realworld-excel/poi__GroupTest.xlsx"));
+    auto workbook = OpenCorpus("realworld-excel/poi__GroupTest.xlsx");
     workbook->SaveAs(PathOf("copy.xlsx"));
     std::string sheetXml = ooxml_test::ReadPackageParts(PathOf("copy.xlsx")).at("xl/worksheets/sheet1.xml");
     EXPECT_NE(RowElement(sheetXml, 1).find(R"(outlineLevel="3")"), std::string::npos) << RowElement(sheetXml, 1);
@@ -40,10 +36,9 @@ TEST_F(SaveOpenTest, GroupedRowsKeepTheirOutlineLevelsAndFollowTheirCells) {
 }
 
 TEST_F(SaveOpenTest, GroupedColumnsKeepTheirOutlineLevels) {
-    book->Close(false);
-    auto workbook = app->Workbooks()->Open(Corpus("realworld-excel/poi__61495-test.xlsm"));
+    auto workbook = OpenCorpus("realworld-excel/poi__61495-test.xlsm");
     workbook->SaveAs(PathOf("copy.xlsm"));
-    const ooxml_test::PackageParts input = ooxml_test::ReadPackageParts(Corpus("realworld-excel/poi__61495-test.xlsm"));
+    const ooxml_test::PackageParts input = ooxml_test::ReadPackageParts(CorpusPath("realworld-excel/poi__61495-test.xlsm"));
     const ooxml_test::PackageParts output = ooxml_test::ReadPackageParts(PathOf("copy.xlsm"));
     const auto grouped = [](const std::string& xml) {
         int count = 0;

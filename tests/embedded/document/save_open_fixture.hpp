@@ -1,6 +1,7 @@
 #pragma once
 
 #include "embedded/engine_fixture.hpp"
+#include "ooxml/reader_test_package.hpp"
 
 #include <unistd.h>
 
@@ -8,6 +9,11 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+
+// A workbook of ../shared/excel-corpus, by its path there ("realworld-excel/x.xlsx").
+inline std::string CorpusPath(const std::string& name) {
+    return std::string(VOS_SHARED_DIR) + "/excel-corpus/" + name;
+}
 
 // A fresh folder per test, removed afterwards.
 class SaveOpenTest : public EngineTest {
@@ -23,6 +29,18 @@ protected:
     void TearDown() override { std::filesystem::remove_all(folder); }
 
     std::string PathOf(const std::string& name) const { return (folder / name).string(); }
+
+    // A workbook of ../shared/excel-corpus opened in place of the test's new one.
+    std::shared_ptr<excel::Workbook> OpenCorpus(const std::string& name) {
+        book->Close(false);
+        return app->Workbooks()->Open(CorpusPath(name));
+    }
+
+    // The workbook saved as target in the test's folder, as its parts.
+    ooxml_test::PackageParts Saved(const std::shared_ptr<excel::Workbook>& workbook, const std::string& target) {
+        workbook->SaveAs(PathOf(target));
+        return ooxml_test::ReadPackageParts(PathOf(target));
+    }
 
     std::shared_ptr<excel::Workbook> SaveAndReopen(const std::string& name) {
         book->SaveAs(PathOf(name));
