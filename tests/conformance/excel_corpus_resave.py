@@ -52,6 +52,7 @@ def load_losses():
     """scripts/resave-losses as a module: it has no .py suffix, being a command."""
     module = types.ModuleType("resave_losses")
     module.__file__ = LOSSES_SCRIPT
+    sys.path.insert(0, os.path.dirname(LOSSES_SCRIPT))  # for the modules it imports
     with open(LOSSES_SCRIPT, encoding="utf-8") as source:
         exec(compile(source.read(), LOSSES_SCRIPT, "exec"), module.__dict__)
     return module

@@ -53,6 +53,17 @@ PackageParts MinimalPackage(const std::string& sheetContent) {
     };
 }
 
+PackageParts MinimalPackageWithStyles(const std::string& sheetContent, const std::string& styles) {
+    PackageParts parts = MinimalPackage(sheetContent);
+    parts["xl/styles.xml"] = styles;
+    parts["xl/_rels/workbook.xml.rels"] =
+        R"(<Relationships xmlns="http://schemas.openxmlformats.org/package/2006/relationships">)"
+        R"(<Relationship Id="rId1" Type="http://schemas.openxmlformats.org/officeDocument/2006/relationships/worksheet" Target="worksheets/sheet1.xml"/>)"
+        R"(<Relationship Id="rId2" Type="http://schemas.openxmlformats.org/officeDocument/2006/relationships/styles" Target="styles.xml"/>)"
+        R"(</Relationships>)";
+    return parts;
+}
+
 TemporaryPackage::TemporaryPackage(const PackageParts& parts) : path_(FreshPath()) {
     int error = 0;
     zip_t* archive = zip_open(path_.c_str(), ZIP_CREATE | ZIP_TRUNCATE, &error);

@@ -10,6 +10,8 @@ using PackageParts = std::map<std::string, std::string>;
 
 // A one-sheet workbook package in Excel's layout; sheetContent is what goes inside <worksheet>.
 PackageParts MinimalPackage(const std::string& sheetContent);
+// The same with a styles part.
+PackageParts MinimalPackageWithStyles(const std::string& sheetContent, const std::string& styles);
 
 // A zip written to a file of its own in the test's temporary folder, removed again with the object.
 class TemporaryPackage {

@@ -38,7 +38,7 @@ WorkbookDocument FullDocument() {
     CellFormat boldRed;
     boldRed.numberFormat = "0.00";
     boldRed.font.bold = true;
-    boldRed.fill = Fill{"solid", Rgb(0xFFFF0000), Indexed(64)};
+    boldRed.fill = Fill{"solid", Rgb(0xFFFF0000), Indexed(64), {}, false};
     for (BorderLine* line : {&boldRed.border.left, &boldRed.border.right, &boldRed.border.top, &boldRed.border.bottom}) {
         *line = BorderLine{"thin", Indexed(10)};
     }
@@ -54,7 +54,7 @@ WorkbookDocument FullDocument() {
     fancy.font.underline = "double";
     fancy.font.strike = true;
     fancy.font.color = Theme(4, 0.39997558519241921);
-    fancy.fill = Fill{"darkGrid", Theme(5, -0.249977111117893), Indexed(9)};
+    fancy.fill = Fill{"darkGrid", Theme(5, -0.249977111117893), Indexed(9), {}, false};
     fancy.border.left = BorderLine{"medium", Auto()};
     fancy.border.right = BorderLine{"thick", Rgb(0xFF00B050)};
     fancy.border.top = BorderLine{"dashed", Theme(1, 0.5)};

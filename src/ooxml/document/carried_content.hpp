@@ -4,6 +4,7 @@
 // again loses nothing. Parts the engine does not rewrite keep their names, bytes and relationship
 // parts; the parts it rewrites keep the elements it does not read, in their place.
 
+#include "ooxml/document/cell_format.hpp"
 #include "ooxml/document/defined_name.hpp"
 #include "ooxml/document/relationship.hpp"
 
@@ -51,8 +52,8 @@ struct CarriedPart {
 // entry in the workbook's sheet list and the relationship to its part.
 struct CarriedSheet {
     std::string name;
-    std::string state;      // "visible", "hidden", "veryHidden"
-    uint32_t position = 0;  // among all the workbook's sheets when opened
+    std::string state;          // "visible", "hidden", "veryHidden"
+    uint32_t position = 0;      // among all the workbook's sheets when opened
     Relationship relationship;  // none (an empty id) for a module or dialog kept in the macro project
 };
 
@@ -89,11 +90,30 @@ struct CarriedWorksheet {
     std::vector<uint32_t> legacyDrawingIdBlocks;  // ascending
 };
 
+// The format of a named style (an entry of cellStyleXfs) as the file wrote it. The engine does not
+// model named styles, but its cell formats keep the index of the style they are based on. The
+// number format, font, fill and border are shared with the cell formats' and renumbered with them;
+// the other attributes (which parts the style includes) and the children are written as they were.
+struct CarriedStyleFormat {
+    CellFormat format;
+    std::vector<CarriedAttribute> attributes;  // all but the four ids
+    std::string children;                      // alignment, protection, extLst
+};
+
+// What the styles part keeps: its named styles' formats (the named styles themselves, the
+// cellStyles that refer to them by index, are among the carried elements), the number formats the
+// file declared under their ids, used or not, and the elements the engine does not read.
+struct CarriedStyles {
+    CarriedMarkup markup;
+    std::vector<CarriedStyleFormat> styleFormats;
+    std::map<uint32_t, std::string> numberFormats;  // by numFmtId
+};
+
 // The workbook's carried content: the parts, the package's own relationships, and what the
 // workbook and styles parts hold beyond the model.
 struct CarriedWorkbook {
-    std::string workbookContentType;  // the file's: a template or macro workbook stays one
-    std::map<std::string, CarriedPart> parts;  // by part name
+    std::string workbookContentType;                         // the file's: a template or macro workbook stays one
+    std::map<std::string, CarriedPart> parts;                // by part name
     std::map<std::string, std::string> defaultContentTypes;  // by lower-case extension, as the file declared them
     std::vector<Relationship> packageRelationships;
     CarriedMarkup workbook;
@@ -103,7 +123,7 @@ struct CarriedWorkbook {
     std::vector<CarriedAttribute> calcAttributes;
     std::vector<CarriedSheet> sheets;
     std::vector<CarriedSheetName> sheetNames;
-    CarriedMarkup styles;
+    CarriedStyles styles;
     // The document properties the engine does not set: of the core part all but the last author
     // and modification time (so the creator, creation time, title, subject, keywords, ...), of the
     // extended part the company, manager, hyperlink base and the like.

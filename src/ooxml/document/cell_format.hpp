@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace ooxml {
@@ -9,9 +10,9 @@ namespace ooxml {
 struct Color {
     enum class Kind : uint8_t { None, Auto, Rgb, Indexed, Theme };
     Kind kind = Kind::None;
-    uint32_t argb = 0;   // Rgb: 0xAARRGGBB
-    int32_t index = 0;   // Indexed: palette index (0..63, 64 = system foreground); Theme: 0..11
-    double tint = 0.0;   // -1..1, Rgb/Indexed/Theme
+    uint32_t argb = 0;  // Rgb: 0xAARRGGBB
+    int32_t index = 0;  // Indexed: palette index (0..63, 64 = system foreground); Theme: 0..11
+    double tint = 0.0;  // -1..1, Rgb/Indexed/Theme
 
     friend bool operator==(const Color&, const Color&) = default;
 };
@@ -22,11 +23,12 @@ struct Font {
     bool bold = false;
     bool italic = false;
     bool strike = false;
-    std::string underline;   // "" (none), "single", "double", "singleAccounting", "doubleAccounting"
-    std::string vertAlign;   // "" (baseline), "superscript", "subscript"
+    std::string underline;  // "" (none), "single", "double", "singleAccounting", "doubleAccounting"
+    std::string vertAlign;  // "" (baseline), "superscript", "subscript"
     Color color{Color::Kind::Theme, 0, 1, 0.0};  // Text 1
-    int32_t family = 2;      // 0 = not written
-    std::string scheme = "minor";  // "", "minor", "major"
+    int32_t family = 2;                          // 0 = not written
+    std::string scheme = "minor";                // "", "minor", "major"
+    std::optional<int32_t> charset;              // the character set a legacy font name stands for; none: not written
 
     friend bool operator==(const Font&, const Font&) = default;
 };
@@ -35,6 +37,10 @@ struct Fill {
     std::string patternType = "none";  // the ST_PatternType value: "none", "solid", "gray125", ...
     Color foreground;
     Color background;
+    // A gradient instead of a pattern: its <gradientFill> as the file wrote it, and whether it runs
+    // from a rectangle out (type "path") rather than along a line.
+    std::string gradient;
+    bool pathGradient = false;
 
     friend bool operator==(const Fill&, const Fill&) = default;
 };
@@ -76,6 +82,10 @@ struct CellFormat {
     bool quotePrefix = false;
     bool locked = true;
     bool hidden = false;
+    bool pivotButton = false;  // the cell shows a pivot table field's drop-down button
+    // The named style the format is based on: its index among the workbook's style formats
+    // (cellStyleXfs). 0 is the Normal style.
+    uint32_t style = 0;
 
     friend bool operator==(const CellFormat&, const CellFormat&) = default;
 };

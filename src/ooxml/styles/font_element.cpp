@@ -47,6 +47,14 @@ void WriteFamily(XmlWriter& xml, const Font& font) {
     }
 }
 
+void WriteCharset(XmlWriter& xml, const Font& font) {
+    if (font.charset) {
+        xml.StartElement("charset");
+        xml.Attribute("val", *font.charset);
+        xml.EndElement();
+    }
+}
+
 void WriteScheme(XmlWriter& xml, const Font& font) {
     if (!font.scheme.empty() && font.scheme != "none") {
         ValueElement(xml, "scheme", font.scheme);
@@ -66,6 +74,7 @@ void WriteFont(XmlWriter& xml, std::string_view element, std::string_view nameEl
     WriteColor(xml, "color", font.color);
     ValueElement(xml, nameElement, font.name);
     WriteFamily(xml, font);
+    WriteCharset(xml, font);
     WriteScheme(xml, font);
     xml.EndElement();
 }

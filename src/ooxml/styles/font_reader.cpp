@@ -11,6 +11,7 @@ namespace ooxml {
 namespace {
 
 constexpr uint32_t MaxFontFamily = 14;
+constexpr uint32_t MaxCharset = 255;
 
 // <b/>, <b val="1"/> and <b val="true"/> are on; <b val="0"/> is off.
 bool FlagValue(pugi::xml_node element) {
@@ -54,6 +55,9 @@ Font ReadFont(pugi::xml_node node) {
         } else if (name == "family") {
             font.family =
                 static_cast<int32_t>(std::min<uint32_t>(AttributeUnsigned(child, "val").value_or(0), MaxFontFamily));
+        } else if (name == "charset") {
+            font.charset =
+                static_cast<int32_t>(std::min<uint32_t>(AttributeUnsigned(child, "val").value_or(0), MaxCharset));
         } else if (name == "scheme") {
             const std::string_view value = AttributeText(child, "val");
             font.scheme = value == "none" ? std::string_view() : value;

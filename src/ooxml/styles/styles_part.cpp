@@ -4,12 +4,13 @@
 #include "ooxml/carried/carried_element_writer.hpp"
 #include "ooxml/styles/styles_element_order.hpp"
 
-#include "ooxml/styles/builtin_number_formats.hpp"
 #include "ooxml/styles/color_element.hpp"
 #include "ooxml/styles/font_element.hpp"
+#include "ooxml/styles/number_format_table.hpp"
 
 #include <array>
 #include <cstdint>
+#include <map>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -53,6 +54,11 @@ private:
 
 void WriteFill(XmlWriter& xml, const Fill& fill) {
     xml.StartElement("fill");
+    if (!fill.gradient.empty()) {
+        xml.Raw(fill.gradient);
+        xml.EndElement();
+        return;
+    }
     xml.StartElement("patternFill");
     xml.Attribute("patternType", fill.patternType.empty() ? std::string_view("none") : fill.patternType);
     WriteColor(xml, "fgColor", fill.foreground);
@@ -86,45 +92,56 @@ void WriteBorder(XmlWriter& xml, const Border& border) {
     xml.EndElement();
 }
 
-class NumberFormatTable {
-public:
-    uint32_t Intern(const std::string& code) {
-        if (const auto builtin = BuiltinNumberFormatId(code)) {
-            return *builtin;
-        }
-        auto [position, added] = ids_.try_emplace(code, kFirstCustomNumberFormatId + static_cast<uint32_t>(custom_.size()));
-        if (added) {
-            custom_.push_back(code);
-        }
-        return position->second;
-    }
-
-    void Write(XmlWriter& xml) const {
-        if (custom_.empty()) {
-            return;
-        }
-        xml.StartElement("numFmts");
-        xml.Attribute("count", custom_.size());
-        for (std::size_t i = 0; i < custom_.size(); ++i) {
-            xml.StartElement("numFmt");
-            xml.Attribute("numFmtId", kFirstCustomNumberFormatId + i);
-            xml.Attribute("formatCode", custom_[i]);
-            xml.EndElement();
-        }
-        xml.EndElement();
-    }
-
-private:
-    std::unordered_map<std::string, uint32_t> ids_;
-    std::vector<std::string> custom_;
-};
-
 struct CellXf {
     uint32_t numberFormatId = 0;
     uint32_t fontId = 0;
     uint32_t fillId = 0;
     uint32_t borderId = 0;
 };
+
+// The number formats, fonts, fills and borders the formats of a styles part use, each kept once.
+class StylePieces {
+public:
+    explicit StylePieces(const std::map<uint32_t, std::string>& declaredNumberFormats)
+        : numberFormats_(declaredNumberFormats) {
+        // Excel reserves the first two fills, whatever the formats use.
+        for (const std::string_view reserved : {"none", "gray125"}) {
+            Fill fill;
+            fill.patternType = reserved;
+            fills_.Intern([&fill](XmlWriter& piece) { WriteFill(piece, fill); });
+        }
+        borders_.Intern([](XmlWriter& piece) { WriteBorder(piece, Border{}); });
+    }
+
+    CellXf Intern(const CellFormat& format) {
+        CellXf xf;
+        xf.numberFormatId = numberFormats_.Intern(format.numberFormat);
+        xf.fontId = fonts_.Intern([&format](XmlWriter& piece) { WriteFont(piece, "font", "name", format.font); });
+        xf.fillId = fills_.Intern([&format](XmlWriter& piece) { WriteFill(piece, format.fill); });
+        xf.borderId = borders_.Intern([&format](XmlWriter& piece) { WriteBorder(piece, format.border); });
+        return xf;
+    }
+
+    void Write(XmlWriter& xml) const {
+        numberFormats_.Write(xml);
+        fonts_.Write(xml, "fonts");
+        fills_.Write(xml, "fills");
+        borders_.Write(xml, "borders");
+    }
+
+private:
+    NumberFormatTable numberFormats_;
+    PieceTable fonts_;
+    PieceTable fills_;
+    PieceTable borders_;
+};
+
+void WriteXfIds(XmlWriter& xml, const CellXf& xf) {
+    xml.Attribute("numFmtId", xf.numberFormatId);
+    xml.Attribute("fontId", xf.fontId);
+    xml.Attribute("fillId", xf.fillId);
+    xml.Attribute("borderId", xf.borderId);
+}
 
 void WriteAlignment(XmlWriter& xml, const Alignment& alignment) {
     xml.StartElement("alignment");
@@ -149,23 +166,38 @@ void WriteAlignment(XmlWriter& xml, const Alignment& alignment) {
     xml.EndElement();
 }
 
-void WriteCellXf(XmlWriter& xml, const CellXf& xf, const CellFormat& format) {
+bool HasProtection(const CellFormat& format) {
+    return !format.locked || format.hidden;
+}
+
+// A named style's format, with its ids, under which a cell format is written.
+struct StyleXf {
+    CellXf xf;
+    const CellFormat* format = nullptr;
+};
+
+void WriteCellXf(XmlWriter& xml, const CellXf& xf, const CellFormat& format, uint32_t styleIndex,
+                 const StyleXf& style) {
     const bool hasAlignment = format.alignment != Alignment{};
-    const bool hasProtection = !format.locked || format.hidden;
+    const bool hasProtection = HasProtection(format);
     xml.StartElement("xf");
-    xml.Attribute("numFmtId", xf.numberFormatId);
-    xml.Attribute("fontId", xf.fontId);
-    xml.Attribute("fillId", xf.fillId);
-    xml.Attribute("borderId", xf.borderId);
-    xml.Attribute("xfId", 0);
+    WriteXfIds(xml, xf);
+    xml.Attribute("xfId", styleIndex);
     if (format.quotePrefix) {
         xml.Attribute("quotePrefix", "1");
     }
-    // Each apply flag says the cell overrides that part of the Normal style.
+    if (format.pivotButton) {
+        xml.Attribute("pivotButton", "1");
+    }
+    // Each apply flag says the cell overrides that part of its named style.
+    const CellFormat& base = *style.format;
     const std::pair<std::string_view, bool> applies[] = {
-        {"applyNumberFormat", xf.numberFormatId != 0}, {"applyFont", xf.fontId != 0},
-        {"applyFill", xf.fillId != 0},                 {"applyBorder", xf.borderId != 0},
-        {"applyAlignment", hasAlignment},              {"applyProtection", hasProtection},
+        {"applyNumberFormat", xf.numberFormatId != style.xf.numberFormatId},
+        {"applyFont", xf.fontId != style.xf.fontId},
+        {"applyFill", xf.fillId != style.xf.fillId},
+        {"applyBorder", xf.borderId != style.xf.borderId},
+        {"applyAlignment", format.alignment != base.alignment},
+        {"applyProtection", format.locked != base.locked || format.hidden != base.hidden},
     };
     for (const auto& [attribute, set] : applies) {
         if (set) {
@@ -184,6 +216,16 @@ void WriteCellXf(XmlWriter& xml, const CellXf& xf, const CellFormat& format) {
             xml.Attribute("hidden", "1");
         }
         xml.EndElement();
+    }
+    xml.EndElement();
+}
+
+void WriteStyleXf(XmlWriter& xml, const CellXf& xf, const CarriedStyleFormat& style) {
+    xml.StartElement("xf");
+    WriteXfIds(xml, xf);
+    WriteCarriedAttributes(xml, style.attributes);
+    if (!style.children.empty()) {
+        xml.Raw(style.children);
     }
     xml.EndElement();
 }
@@ -208,26 +250,18 @@ void WriteEmptyList(XmlWriter& xml, std::string_view element) {
     xml.EndElement();
 }
 
-// The Normal style (the default format's font with no fill, border or number format), and the
-// cell formats, all based on it.
-void WriteNormalStyle(XmlWriter& xml, const std::vector<CellXf>& cellXfs, const std::vector<CellFormat>& formats) {
-    xml.StartElement("cellStyleXfs");
-    xml.Attribute("count", 1);
-    xml.StartElement("xf");
-    xml.Attribute("numFmtId", 0);
-    xml.Attribute("fontId", 0);
-    xml.Attribute("fillId", 0);
-    xml.Attribute("borderId", 0);
-    xml.EndElement();
-    xml.EndElement();
-
-    xml.StartElement("cellXfs");
-    xml.Attribute("count", cellXfs.size());
-    for (std::size_t i = 0; i < cellXfs.size(); ++i) {
-        WriteCellXf(xml, cellXfs[i], formats[i]);
+// The named styles' formats of the opened file, or for a new workbook the Normal style's: the
+// default format's font, with no fill, border or number format.
+std::vector<CarriedStyleFormat> StyleFormats(const WorkbookDocument& document) {
+    if (document.carried && !document.carried->styles.styleFormats.empty()) {
+        return document.carried->styles.styleFormats;
     }
-    xml.EndElement();
+    CarriedStyleFormat normal;
+    normal.format.font = document.formats.front().font;
+    return {normal};
+}
 
+void WriteNormalStyle(XmlWriter& xml) {
     xml.StartElement("cellStyles");
     xml.Attribute("count", 1);
     xml.StartElement("cellStyle");
@@ -241,42 +275,53 @@ void WriteNormalStyle(XmlWriter& xml, const std::vector<CellXf>& cellXfs, const 
 }  // namespace
 
 void WriteStylesPart(XmlWriter& xml, const WorkbookDocument& document) {
-    NumberFormatTable numberFormats;
-    PieceTable fonts;
-    PieceTable fills;
-    PieceTable borders;
-    // Excel reserves the first two fills, whatever the formats use.
-    fills.Intern([](XmlWriter& piece) { WriteFill(piece, Fill{"none", {}, {}}); });
-    fills.Intern([](XmlWriter& piece) { WriteFill(piece, Fill{"gray125", {}, {}}); });
-    borders.Intern([](XmlWriter& piece) { WriteBorder(piece, Border{}); });
-
+    const CarriedStyles* carried = document.carried ? &document.carried->styles : nullptr;
+    StylePieces pieces(carried != nullptr ? carried->numberFormats : std::map<uint32_t, std::string>{});
+    // The named styles' pieces first, so that the Normal style's font is font 0 as Excel expects.
+    const std::vector<CarriedStyleFormat> styleFormats = StyleFormats(document);
+    std::vector<StyleXf> styleXfs;
+    styleXfs.reserve(styleFormats.size());
+    for (const CarriedStyleFormat& style : styleFormats) {
+        styleXfs.push_back(StyleXf{pieces.Intern(style.format), &style.format});
+    }
     std::vector<CellXf> cellXfs;
     cellXfs.reserve(document.formats.size());
     for (const CellFormat& format : document.formats) {
-        CellXf xf;
-        xf.numberFormatId = numberFormats.Intern(format.numberFormat);
-        xf.fontId = fonts.Intern([&format](XmlWriter& piece) { WriteFont(piece, "font", "name", format.font); });
-        xf.fillId = fills.Intern([&format](XmlWriter& piece) { WriteFill(piece, format.fill); });
-        xf.borderId = borders.Intern([&format](XmlWriter& piece) { WriteBorder(piece, format.border); });
-        cellXfs.push_back(xf);
+        cellXfs.push_back(pieces.Intern(format));
     }
 
     xml.Declaration();
     xml.StartElement("styleSheet");
     xml.Attribute("xmlns", kMainNamespace);
-    const CarriedMarkup* carried = document.carried ? &document.carried->styles : nullptr;
     if (carried != nullptr) {
-        WriteCarriedAttributes(xml, carried->rootAttributes);
+        WriteCarriedAttributes(xml, carried->markup.rootAttributes);
     }
-    CarriedElementWriter carriedElements(xml, carried != nullptr ? &carried->elements : nullptr);
+    CarriedElementWriter carriedElements(xml, carried != nullptr ? &carried->markup.elements : nullptr);
     if (!document.palette.empty()) {
         carriedElements.Drop("colors");
     }
-    numberFormats.Write(xml);
-    fonts.Write(xml, "fonts");
-    fills.Write(xml, "fills");
-    borders.Write(xml, "borders");
-    WriteNormalStyle(xml, cellXfs, document.formats);
+    pieces.Write(xml);
+
+    xml.StartElement("cellStyleXfs");
+    xml.Attribute("count", styleXfs.size());
+    for (std::size_t i = 0; i < styleXfs.size(); ++i) {
+        WriteStyleXf(xml, styleXfs[i].xf, styleFormats[i]);
+    }
+    xml.EndElement();
+
+    xml.StartElement("cellXfs");
+    xml.Attribute("count", cellXfs.size());
+    for (std::size_t i = 0; i < cellXfs.size(); ++i) {
+        // A format based on a style this workbook lacks (one copied from another) falls back to Normal.
+        const uint32_t style = document.formats[i].style < styleXfs.size() ? document.formats[i].style : 0;
+        WriteCellXf(xml, cellXfs[i], document.formats[i], style, styleXfs[style]);
+    }
+    xml.EndElement();
+
+    carriedElements.Before(StylesElementOrder.Slot("cellStyles"));
+    if (!carriedElements.Carries("cellStyles")) {
+        WriteNormalStyle(xml);
+    }
     carriedElements.Through(StylesElementOrder.Slot("cellStyles"));
     if (!carriedElements.Carries("dxfs")) {
         WriteEmptyList(xml, "dxfs");

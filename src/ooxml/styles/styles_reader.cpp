@@ -2,10 +2,10 @@
 
 #include "ooxml/carried/carried_attributes.hpp"
 #include "ooxml/carried/carried_element_collector.hpp"
-#include "ooxml/styles/styles_element_order.hpp"
 #include "ooxml/styles/builtin_number_formats.hpp"
 #include "ooxml/styles/color_reader.hpp"
 #include "ooxml/styles/font_reader.hpp"
+#include "ooxml/styles/styles_element_order.hpp"
 #include "ooxml/xml/xml_node_access.hpp"
 #include "ooxml/xml/xml_part_parser.hpp"
 
@@ -30,8 +30,10 @@ std::vector<Item> ReadList(pugi::xml_node list, std::string_view itemName, Read 
 
 Fill ReadFill(pugi::xml_node node) {
     Fill fill;
-    // A gradient has no pattern to keep; it reads as no fill.
-    if (const pugi::xml_node pattern = FirstChild(node, "patternFill")) {
+    if (const pugi::xml_node gradient = FirstChild(node, "gradientFill")) {
+        fill.gradient = ElementMarkup(gradient);
+        fill.pathGradient = AttributeText(gradient, "type") == "path";
+    } else if (const pugi::xml_node pattern = FirstChild(node, "patternFill")) {
         const std::string_view type = AttributeText(pattern, "patternType");
         fill.patternType = type.empty() ? std::string_view("none") : type;
         fill.foreground = ReadColor(FirstChild(pattern, "fgColor"));
@@ -114,8 +116,9 @@ std::vector<std::optional<uint32_t>> ReadPalette(pugi::xml_node colors) {
     return palette;
 }
 
-// The cell formats, and the named styles they come from, are rewritten from the model; the rest
-// of the part is kept.
+// The cell formats and the named styles' formats are rewritten from the model (with the fonts,
+// fills, borders and number formats they use); the rest of the part is kept, the named styles
+// themselves included.
 void CarryStyles(pugi::xml_node styleSheet, CarriedMarkup& carried) {
     carried.rootAttributes = AttributesExcept(styleSheet, {"xmlns"});
     CarriedElementCollector elements(StylesElementOrder, carried.elements);
@@ -125,12 +128,56 @@ void CarryStyles(pugi::xml_node styleSheet, CarriedMarkup& carried) {
         }
         const std::string_view name = LocalName(child);
         const std::optional<uint16_t> slot = StylesElementOrder.SlotOf(name);
-        if (slot && *slot <= StylesElementOrder.Slot("cellStyles")) {
+        if (slot && *slot <= StylesElementOrder.Slot("cellXfs")) {
             elements.Pass(name);
         } else {
             elements.Carry(name, ElementMarkup(child));
         }
     }
+}
+
+// Resolves the xf entries of cellXfs and cellStyleXfs into complete formats.
+class XfReader {
+public:
+    explicit XfReader(pugi::xml_node styleSheet)
+        : numberFormats_(ReadNumberFormatCodes(FirstChild(styleSheet, "numFmts"))),
+          fonts_(ReadList<Font>(FirstChild(styleSheet, "fonts"), "font", ReadFont)),
+          fills_(ReadList<Fill>(FirstChild(styleSheet, "fills"), "fill", ReadFill)),
+          borders_(ReadList<Border>(FirstChild(styleSheet, "borders"), "border", ReadBorder)) {}
+
+    CellFormat Read(pugi::xml_node xf) const {
+        CellFormat format;
+        format.numberFormat = NumberFormatCode(numberFormats_, AttributeUnsigned(xf, "numFmtId").value_or(0));
+        format.font = ItemAt(fonts_, AttributeUnsigned(xf, "fontId"), defaults_.font);
+        format.fill = ItemAt(fills_, AttributeUnsigned(xf, "fillId"), defaults_.fill);
+        format.border = ItemAt(borders_, AttributeUnsigned(xf, "borderId"), defaults_.border);
+        format.alignment = ReadAlignment(FirstChild(xf, "alignment"));
+        format.quotePrefix = AttributeBool(xf, "quotePrefix", false);
+        format.pivotButton = AttributeBool(xf, "pivotButton", false);
+        const pugi::xml_node protection = FirstChild(xf, "protection");
+        format.locked = AttributeBool(protection, "locked", true);
+        format.hidden = AttributeBool(protection, "hidden", false);
+        return format;
+    }
+
+    const std::map<uint32_t, std::string>& NumberFormats() const { return numberFormats_; }
+
+private:
+    const CellFormat defaults_;
+    std::map<uint32_t, std::string> numberFormats_;
+    std::vector<Font> fonts_;
+    std::vector<Fill> fills_;
+    std::vector<Border> borders_;
+};
+
+CarriedStyleFormat ReadStyleFormat(const XfReader& xfs, pugi::xml_node xf) {
+    CarriedStyleFormat style{xfs.Read(xf), AttributesExcept(xf, {"numFmtId", "fontId", "fillId", "borderId"}), {}};
+    for (pugi::xml_node child = xf.first_child(); child; child = child.next_sibling()) {
+        if (child.type() == pugi::node_element) {
+            style.children += ElementMarkup(child);
+        }
+    }
+    return style;
 }
 
 }  // namespace
@@ -140,31 +187,21 @@ StylesPart ReadStyles(std::string& xml, std::string_view partName) {
     ParseXmlPart(document, xml, partName);
     const pugi::xml_node styleSheet = document.document_element();
 
-    const std::map<uint32_t, std::string> customCodes = ReadNumberFormatCodes(FirstChild(styleSheet, "numFmts"));
-    const std::vector<Font> fonts = ReadList<Font>(FirstChild(styleSheet, "fonts"), "font", ReadFont);
-    const std::vector<Fill> fills = ReadList<Fill>(FirstChild(styleSheet, "fills"), "fill", ReadFill);
-    const std::vector<Border> borders = ReadList<Border>(FirstChild(styleSheet, "borders"), "border", ReadBorder);
-    const CellFormat defaults;
-
+    const XfReader xfs(styleSheet);
     StylesPart styles;
     ForEachChild(FirstChild(styleSheet, "cellXfs"), "xf", [&](pugi::xml_node xf) {
-        CellFormat format;
-        format.numberFormat = NumberFormatCode(customCodes, AttributeUnsigned(xf, "numFmtId").value_or(0));
-        format.font = ItemAt(fonts, AttributeUnsigned(xf, "fontId"), defaults.font);
-        format.fill = ItemAt(fills, AttributeUnsigned(xf, "fillId"), defaults.fill);
-        format.border = ItemAt(borders, AttributeUnsigned(xf, "borderId"), defaults.border);
-        format.alignment = ReadAlignment(FirstChild(xf, "alignment"));
-        format.quotePrefix = AttributeBool(xf, "quotePrefix", false);
-        const pugi::xml_node protection = FirstChild(xf, "protection");
-        format.locked = AttributeBool(protection, "locked", true);
-        format.hidden = AttributeBool(protection, "hidden", false);
+        CellFormat format = xfs.Read(xf);
+        format.style = AttributeUnsigned(xf, "xfId").value_or(0);
         styles.formats.push_back(std::move(format));
     });
     if (styles.formats.empty()) {
-        styles.formats.push_back(defaults);
+        styles.formats.emplace_back();
     }
+    ForEachChild(FirstChild(styleSheet, "cellStyleXfs"), "xf",
+                 [&](pugi::xml_node xf) { styles.carried.styleFormats.push_back(ReadStyleFormat(xfs, xf)); });
+    styles.carried.numberFormats = xfs.NumberFormats();
     styles.palette = ReadPalette(FirstChild(styleSheet, "colors"));
-    CarryStyles(styleSheet, styles.carried);
+    CarryStyles(styleSheet, styles.carried.markup);
     return styles;
 }
 

@@ -12,12 +12,13 @@ namespace ooxml {
 struct StylesPart {
     std::vector<CellFormat> formats;               // one per cellXfs entry, at least one
     std::vector<std::optional<uint32_t>> palette;  // the indexed colours the package lists
-    // The differential formats (of conditional formats and tables), table styles, colours and
-    // extensions, as the file wrote them.
-    CarriedMarkup carried;
+    // The named styles and their formats, the number formats declared, the differential formats
+    // (of conditional formats and tables), table styles, colours and extensions, as the file
+    // wrote them.
+    CarriedStyles carried;
 };
 
-// Resolves every cellXfs entry of the styles part into a complete CellFormat. Throws
+// Resolves every cellXfs entry of the styles part into a complete CellFormat, and keeps the rest. Throws
 // PackageError(Corrupt).
 StylesPart ReadStyles(std::string& xml, std::string_view partName);
 

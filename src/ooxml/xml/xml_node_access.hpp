@@ -19,12 +19,20 @@ inline std::string_view LocalName(pugi::xml_node node) {
 pugi::xml_node FirstChild(pugi::xml_node parent, std::string_view localName);
 pugi::xml_attribute Attribute(pugi::xml_node node, std::string_view localName);
 
-// Calls visit(child) for each child element of parent with that local name.
+// Calls visit(child) for each child element of parent with that local name. An element wrapped in
+// markup compatibility's <AlternateContent> counts in its place as its <Fallback> gives it: the
+// reader understands none of the extensions its choices require, and list entries keep their index.
 template <typename Visit>
 void ForEachChild(pugi::xml_node parent, std::string_view localName, Visit&& visit) {
     for (pugi::xml_node child = parent.first_child(); child; child = child.next_sibling()) {
-        if (child.type() == pugi::node_element && LocalName(child) == localName) {
+        if (child.type() != pugi::node_element) {
+            continue;
+        }
+        const std::string_view name = LocalName(child);
+        if (name == localName) {
             visit(child);
+        } else if (name == "AlternateContent") {
+            ForEachChild(FirstChild(child, "Fallback"), localName, visit);
         }
     }
 }

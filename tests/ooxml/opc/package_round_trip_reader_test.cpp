@@ -29,7 +29,7 @@ ooxml::CellFormat FullFormat() {
     format.font.family = 0;
     format.font.scheme = "";
     format.fill = ooxml::Fill{"solid", Color{Color::Kind::Theme, 0, 4, 0.3999755851924192},
-                              Color{Color::Kind::Indexed, 0, 64, 0.0}};
+                              Color{Color::Kind::Indexed, 0, 64, 0.0}, {}, false};
     format.border.left = {"thin", Color{Color::Kind::Auto, 0, 0, 0.0}};
     format.border.right = {"medium", Color{Color::Kind::Indexed, 0, 10, 0.0}};
     format.border.top = {"dashed", Color{Color::Kind::Theme, 0, 1, -0.25}};
@@ -53,7 +53,7 @@ ooxml::WorkbookDocument RichDocument() {
     percent.alignment.shrinkToFit = true;
     percent.font.color = Color{Color::Kind::Theme, 0, 0, 0.5};
     ooxml::CellFormat gridFill;
-    gridFill.fill = ooxml::Fill{"gray125", Color{}, Color{}};
+    gridFill.fill = ooxml::Fill{"gray125", Color{}, Color{}, {}, false};
     gridFill.font.scheme = "major";
     gridFill.font.name = "Cambria";
     document.formats = {ooxml::CellFormat{}, FullFormat(), date, percent, gridFill};

@@ -1,9 +1,10 @@
-#include "ooxml/styles/builtin_number_formats.hpp"
 #include "ooxml/styles/styles_part.hpp"
+#include "ooxml/styles/builtin_number_formats.hpp"
 #include "ooxml/writer_test_support.hpp"
 
 #include <gtest/gtest.h>
 
+#include <iterator>
 #include <string>
 
 namespace {
@@ -28,7 +29,7 @@ TEST(StylesPart, SharesEqualFontsFillsAndBordersBetweenFormats) {
     WorkbookDocument document;
     CellFormat bold;
     bold.font.bold = true;
-    bold.fill = Fill{"solid", Color{Color::Kind::Rgb, 0xFFFFFF00, 0, 0.0}, {}};
+    bold.fill = Fill{"solid", Color{Color::Kind::Rgb, 0xFFFFFF00, 0, 0.0}, {}, {}, false};
     CellFormat boldBordered = bold;
     boldBordered.border.bottom = BorderLine{"thin", {}};
     boldBordered.numberFormat = "0.0";
@@ -79,6 +80,26 @@ TEST(StylesPart, ReusesBuiltInNumberFormatsAndNumbersCustomOnesFrom164) {
     EXPECT_EQ(numFmts.attribute("count").as_int(), 2);
     EXPECT_STREQ(numFmts.find_child_by_attribute("numFmt", "numFmtId", "165").attribute("formatCode").value(),
                  "[Blue]0;[Red]-0");
+}
+
+TEST(StylesPart, WritesAGradientFillAsTheFileGaveIt) {
+    WorkbookDocument document;
+    CellFormat gradient;
+    gradient.fill.gradient = R"(<gradientFill type="path" left="0.5" right="0.5"><stop position="0"><color theme="0"/>)"
+                             R"(</stop><stop position="1"><color theme="4"/></stop></gradientFill>)";
+    gradient.fill.pathGradient = true;
+    CellFormat sameGradient = gradient;
+    sameGradient.font.bold = true;
+    document.formats = {CellFormat{}, gradient, sameGradient};
+    auto styles = Styles(document);
+    const pugi::xml_node fills = styles->child("styleSheet").child("fills");
+    EXPECT_EQ(fills.attribute("count").as_int(), 3);
+    const pugi::xml_node written = fills.last_child().child("gradientFill");
+    EXPECT_STREQ(written.attribute("type").value(), "path");
+    EXPECT_EQ(std::distance(written.children("stop").begin(), written.children("stop").end()), 2);
+    EXPECT_FALSE(fills.last_child().child("patternFill"));
+    EXPECT_EQ(Xf(*styles, 1).attribute("fillId").as_int(), 2);
+    EXPECT_EQ(Xf(*styles, 2).attribute("fillId").as_int(), 2);
 }
 
 TEST(StylesPart, OmitsOptionalListsWhenUnused) {

@@ -41,14 +41,7 @@ constexpr const char* Styles =
     R"(</indexedColors></colors></styleSheet>)";
 
 ooxml::WorkbookDocument ReadStyled() {
-    PackageParts parts = MinimalPackage(StyledSheet);
-    parts["xl/styles.xml"] = Styles;
-    parts["xl/_rels/workbook.xml.rels"] =
-        R"(<Relationships xmlns="http://schemas.openxmlformats.org/package/2006/relationships">)"
-        R"(<Relationship Id="rId1" Type="http://schemas.openxmlformats.org/officeDocument/2006/relationships/worksheet" Target="worksheets/sheet1.xml"/>)"
-        R"(<Relationship Id="rId3" Type="http://schemas.openxmlformats.org/officeDocument/2006/relationships/styles" Target="styles.xml"/>)"
-        R"(</Relationships>)";
-    const TemporaryPackage package(parts);
+    const TemporaryPackage package(ooxml_test::MinimalPackageWithStyles(StyledSheet, Styles));
     return ooxml::ReadPackage(package.Path());
 }
 
@@ -93,8 +86,12 @@ TEST(StylesReaderTest, BuiltinNumberFormatsAndMissingPiecesFallBackToDefaults) {
     const auto document = ReadStyled();
     const ooxml::CellFormat& accounting = document.formats.at(2);
     EXPECT_EQ(accounting.numberFormat, R"(_("$"* #,##0.00_);_("$"* \(#,##0.00\);_("$"* "-"??_);_(@_))");
-    EXPECT_EQ(accounting.font, ooxml::Font{});       // font 7 does not exist
-    EXPECT_EQ(accounting.fill.patternType, "none");  // a gradient is not kept
+    EXPECT_EQ(accounting.font, ooxml::Font{});  // font 7 does not exist
+    // A gradient is kept as the file wrote it.
+    EXPECT_EQ(accounting.fill.patternType, "none");
+    EXPECT_EQ(accounting.fill.gradient,
+              R"(<gradientFill degree="90"><stop position="0"><color rgb="FFFFFFFF"/></stop></gradientFill>)");
+    EXPECT_FALSE(accounting.fill.pathGradient);
     const ooxml::CellFormat& date = document.formats.at(3);
     EXPECT_EQ(date.numberFormat, "m/d/yyyy");
     EXPECT_EQ(date.fill.patternType, "gray125");
@@ -143,6 +140,24 @@ TEST(StylesReaderTest, RichTextRunsCarryTheirFonts) {
     EXPECT_EQ(inlined.runs[1].font->name, "Arial");
     EXPECT_EQ(inlined.runs[1].font->size, 9.0);
     EXPECT_EQ(inlined.runs[1].font->color, Color{});
+}
+
+TEST(StylesReaderTest, AnEntryWrappedInAlternateContentCountsAsItsFallback) {
+    const std::string styles =
+        R"(<x:styleSheet xmlns:x="http://schemas.openxmlformats.org/spreadsheetml/2006/main">)"
+        R"(<x:fonts count="3"><x:font><x:sz val="11"/><x:name val="Arial"/></x:font>)"
+        R"(<mc:AlternateContent xmlns:mc="http://schemas.openxmlformats.org/markup-compatibility/2006">)"
+        R"(<mc:Choice xmlns:hs="urn:example:extension" Requires="hs"><x:font><x:sz val="9"/><x:name val="Arial"/>)"
+        R"(<hs:ratio val="100"/></x:font></mc:Choice>)"
+        R"(<mc:Fallback><x:font><x:sz val="9"/><x:name val="Arial"/></x:font></mc:Fallback></mc:AlternateContent>)"
+        R"(<x:font><x:b/><x:sz val="12"/><x:name val="Arial"/></x:font></x:fonts>)"
+        R"(<x:cellXfs count="3"><x:xf fontId="0"/><x:xf fontId="1"/><x:xf fontId="2"/></x:cellXfs></x:styleSheet>)";
+    const TemporaryPackage package(ooxml_test::MinimalPackageWithStyles(StyledSheet, styles));
+    const auto document = ooxml::ReadPackage(package.Path());
+    ASSERT_EQ(document.formats.size(), 3u);
+    EXPECT_EQ(document.formats[1].font.size, 9.0);
+    EXPECT_EQ(document.formats[2].font.size, 12.0);
+    EXPECT_TRUE(document.formats[2].font.bold);
 }
 
 }  // namespace

@@ -37,6 +37,7 @@ void CopyPlainFontFields(const From& from, To& to) {
     to.bold = from.bold;
     to.italic = from.italic;
     to.family = from.family;
+    to.charset = from.charset;
 }
 
 template <class From, class To>
@@ -49,6 +50,8 @@ void CopyPlainCellFields(const From& from, To& to) {
     to.quotePrefix = from.quotePrefix;
     to.locked = from.locked;
     to.hidden = from.hidden;
+    to.pivotButton = from.pivotButton;
+    to.style = from.style;
 }
 
 template <class Enum, std::size_t N>
@@ -102,7 +105,7 @@ ooxml::CellFormat DocumentCellFormat(const CellFormat& format) {
     CopyPlainCellFields(format, out);
     out.font = DocumentFont(format.font);
     out.fill = ooxml::Fill{std::string(patterns[format.fill.pattern]), DocumentColor(format.fill.foreground),
-                           DocumentColor(format.fill.background)};
+                           DocumentColor(format.fill.background), format.fill.gradient, format.fill.pathGradient};
     const CellBorder& border = format.border;
     out.border = ooxml::Border{DocumentLine(border.left),   DocumentLine(border.right),    DocumentLine(border.top),
                                DocumentLine(border.bottom), DocumentLine(border.diagonal), border.diagonalUp,
@@ -117,7 +120,8 @@ CellFormat CellFormatFromDocument(const ooxml::CellFormat& format) {
     CopyPlainCellFields(format, out);
     out.font = FontFromDocument(format.font);
     out.fill = CellFill{FromWord(patterns, format.fill.patternType, FillPattern::None),
-                        ColorFromDocument(format.fill.foreground), ColorFromDocument(format.fill.background)};
+                        ColorFromDocument(format.fill.foreground), ColorFromDocument(format.fill.background),
+                        format.fill.gradient, format.fill.pathGradient};
     const ooxml::Border& border = format.border;
     out.border = CellBorder{LineFromDocument(border.left),
                             LineFromDocument(border.right),

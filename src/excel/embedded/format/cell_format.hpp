@@ -36,6 +36,9 @@ struct CellFill {
     FillPattern pattern = FillPattern::None;
     FormatColor foreground;
     FormatColor background;
+    // An opened file's gradient, kept as the file wrote it until a pattern or colour replaces it.
+    std::string gradient;
+    bool pathGradient = false;  // from a rectangle out, else along a line
 
     friend bool operator==(const CellFill&, const CellFill&) = default;
 };
@@ -98,6 +101,10 @@ struct CellFormat {
     bool quotePrefix = false;
     bool locked = true;
     bool hidden = false;
+    bool pivotButton = false;  // kept for the pivot tables the opened file holds
+    // The named style the format is based on, by its index in the opened file (0 is Normal). The
+    // engine keeps it through changes of the format's parts, as Excel does.
+    uint32_t style = 0;
 
     friend bool operator==(const CellFormat&, const CellFormat&) = default;
 };

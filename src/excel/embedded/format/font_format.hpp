@@ -3,6 +3,7 @@
 #include "excel/embedded/format/format_color.hpp"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace excel::embedded {
@@ -24,6 +25,8 @@ struct FontFormat {
     FormatColor color{FormatColor::Kind::Theme, 0, 1, 0.0};
     int32_t family = 2;  // 1 Roman, 2 Swiss, 3 Modern, 4 Script, 5 Decorative; 0 none
     FontScheme scheme = FontScheme::Minor;
+    // The character set a legacy font name stands for, as the opened file gave it.
+    std::optional<int32_t> charset;
 
     friend bool operator==(const FontFormat&, const FontFormat&) = default;
 };

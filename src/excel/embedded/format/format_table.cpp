@@ -31,14 +31,15 @@ size_t CellFormatHash::operator()(const CellFormat& format) const {
     const FontFormat& font = format.font;
     hash.Add(format.numberFormat).Add(font.name).Add(font.size).Add(font.bold).Add(font.italic);
     hash.Add(font.strikethrough).Add(font.underline).Add(font.script).Add(font.color).Add(font.family).Add(font.scheme);
-    hash.Add(format.fill.pattern).Add(format.fill.foreground).Add(format.fill.background);
+    hash.Add(font.charset);
+    hash.Add(format.fill.pattern).Add(format.fill.foreground).Add(format.fill.background).Add(format.fill.gradient);
     const CellBorder& border = format.border;
     hash.Add(border.left).Add(border.right).Add(border.top).Add(border.bottom).Add(border.diagonal);
     hash.Add(border.diagonalUp).Add(border.diagonalDown);
     const CellAlignment& alignment = format.alignment;
     hash.Add(alignment.horizontal).Add(alignment.vertical).Add(alignment.wrapText).Add(alignment.shrinkToFit);
     hash.Add(alignment.indent).Add(alignment.textRotation);
-    hash.Add(format.quotePrefix).Add(format.locked).Add(format.hidden);
+    hash.Add(format.quotePrefix).Add(format.locked).Add(format.hidden).Add(format.pivotButton).Add(format.style);
     return hash.Value();
 }
 

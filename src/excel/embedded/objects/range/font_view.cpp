@@ -41,8 +41,9 @@ void FontView::SetName(const std::string& name) {
     }
     target_->EditFonts([&](FontFormat& font) {
         font.name = name;
-        // Only the theme's body font keeps the theme scheme.
+        // Only the theme's body font keeps the theme scheme; the character set was the old name's.
         font.scheme = name == "Calibri" ? FontScheme::Minor : FontScheme::None;
+        font.charset.reset();
     });
 }
 
@@ -158,8 +159,8 @@ Variant FontView::ColorIndex() {
 
 void FontView::SetColorIndex(int32_t index) {
     const FormatColor color = index == xlColorIndexAutomatic || index == xlColorIndexNone
-                                   ? FormatColor{FormatColor::Kind::Automatic, 0, 0, 0.0}
-                                   : ColorFromIndex(index);
+                                  ? FormatColor{FormatColor::Kind::Automatic, 0, 0, 0.0}
+                                  : ColorFromIndex(index);
     target_->EditFonts([&](FontFormat& font) { font.color = color; });
 }
 

@@ -18,29 +18,21 @@ constexpr uint32_t white = 0xFFFFFF;
 
 // Excel's XlPattern values, in the order of the fill patterns.
 constexpr EnumTable<FillPattern, int32_t, 19> patterns{{
-    xlPatternNone,
-    xlPatternSolid,
-    xlPatternGray50,
-    xlPatternGray75,
-    xlPatternGray25,
-    xlPatternHorizontal,
-    xlPatternVertical,
-    xlPatternDown,
-    xlPatternUp,
-    xlPatternChecker,
-    xlPatternSemiGray75,
-    xlPatternLightHorizontal,
-    xlPatternLightVertical,
-    xlPatternLightDown,
-    xlPatternLightUp,
-    xlPatternGrid,
-    xlPatternCrissCross,
-    xlPatternGray16,
-    xlPatternGray8,
+    xlPatternNone,       xlPatternSolid,           xlPatternGray50,        xlPatternGray75,    xlPatternGray25,
+    xlPatternHorizontal, xlPatternVertical,        xlPatternDown,          xlPatternUp,        xlPatternChecker,
+    xlPatternSemiGray75, xlPatternLightHorizontal, xlPatternLightVertical, xlPatternLightDown, xlPatternLightUp,
+    xlPatternGrid,       xlPatternCrissCross,      xlPatternGray16,        xlPatternGray8,
 }};
 
 bool HasFill(const CellFill& fill) {
     return fill.pattern != FillPattern::None;
+}
+
+// A colour or pattern given to a cell replaces the gradient it had.
+void ReplaceGradient(CellFill& fill) {
+    if (!fill.gradient.empty()) {
+        fill = CellFill{};
+    }
 }
 
 // A solid fill shows its foreground; a patterned one draws the foreground's lines over the
@@ -76,6 +68,7 @@ Variant InteriorView::read(Project&& project) {
 
 void InteriorView::setCellColor(const FormatColor& color) {
     cells_.EditFormats([&](CellFormat& format) {
+        ReplaceGradient(format.fill);
         if (!HasFill(format.fill)) {
             format.fill.pattern = FillPattern::Solid;
             format.fill.background = automaticLines;
@@ -86,6 +79,7 @@ void InteriorView::setCellColor(const FormatColor& color) {
 
 void InteriorView::setLineColor(const FormatColor& color) {
     cells_.EditFormats([&](CellFormat& format) {
+        ReplaceGradient(format.fill);
         if (!HasFill(format.fill)) {
             format.fill.pattern = FillPattern::Solid;
             CellColor(format.fill) = windowBackground;
@@ -148,7 +142,12 @@ void InteriorView::SetTintAndShade(double tint) {
 }
 
 Variant InteriorView::Pattern() {
-    return read([](const CellFill& fill, const WorkbookColors&) { return Variant(patterns[fill.pattern]); });
+    return read([](const CellFill& fill, const WorkbookColors&) {
+        if (!fill.gradient.empty()) {
+            return Variant(fill.pathGradient ? xlPatternRectangularGradient : xlPatternLinearGradient);
+        }
+        return Variant(patterns[fill.pattern]);
+    });
 }
 
 void InteriorView::SetPattern(int32_t pattern) {
@@ -157,6 +156,7 @@ void InteriorView::SetPattern(int32_t pattern) {
         ThrowRefused("Unable to set the Pattern property of the Interior class");
     }
     cells_.EditFormats([&](CellFormat& format) {
+        ReplaceGradient(format.fill);
         if (*type == FillPattern::None) {
             format.fill = CellFill{};
             return;
