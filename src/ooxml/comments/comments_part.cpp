@@ -2,8 +2,8 @@
 
 #include "ooxml/package_error.hpp"
 #include "ooxml/shared_strings/shared_strings_part.hpp"
-#include "ooxml/worksheet/cell_reference_reader.hpp"
-#include "ooxml/worksheet/column_name.hpp"
+#include "ooxml/reference/cell_reference_reader.hpp"
+#include "ooxml/reference/column_name.hpp"
 
 #include <algorithm>
 #include <string>

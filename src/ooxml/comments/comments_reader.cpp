@@ -1,7 +1,7 @@
 #include "ooxml/comments/comments_reader.hpp"
 
 #include "ooxml/shared_strings/shared_strings_reader.hpp"
-#include "ooxml/worksheet/cell_reference_reader.hpp"
+#include "ooxml/reference/cell_reference_reader.hpp"
 #include "ooxml/xml/xml_node_access.hpp"
 #include "ooxml/xml/xml_part_parser.hpp"
 

@@ -58,6 +58,10 @@ struct ColumnRange {
     friend bool operator==(const ColumnRange&, const ColumnRange&) = default;
 };
 
+// The sheet's bounds: its last row and column.
+inline constexpr uint32_t MaxRowIndex = 1048576;
+inline constexpr uint32_t MaxColumnIndex = 16384;
+
 struct CellBlock {
     uint32_t firstRow = 1, firstColumn = 1, lastRow = 1, lastColumn = 1;
 

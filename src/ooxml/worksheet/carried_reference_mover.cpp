@@ -1,8 +1,8 @@
 #include "ooxml/worksheet/carried_reference_mover.hpp"
 
 #include "ooxml/carried/carried_attributes.hpp"
-#include "ooxml/worksheet/cell_reference_reader.hpp"
-#include "ooxml/worksheet/column_name.hpp"
+#include "ooxml/reference/cell_reference_reader.hpp"
+#include "ooxml/reference/column_name.hpp"
 #include "ooxml/xml/xml_node_access.hpp"
 #include "ooxml/xml/xml_part_parser.hpp"
 

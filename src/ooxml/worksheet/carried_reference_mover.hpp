@@ -2,6 +2,7 @@
 
 #include "ooxml/document/carried_content.hpp"
 #include "ooxml/document/sheet_document.hpp"
+#include "ooxml/reference/formula_reference_mover.hpp"
 
 #include <functional>
 #include <optional>
@@ -9,10 +10,6 @@
 #include <string_view>
 
 namespace ooxml {
-
-// Where a block of a sheet's cells went when cells were inserted or deleted: moved, grown,
-// shrunk, or nothing when all of it was deleted.
-using CellBlockMove = std::function<std::optional<CellBlock>(const CellBlock&)>;
 
 // The sheet's carried content with its cell references moved as the sheet's cells moved: the
 // ranges of conditional formats (also those of the extensions), data validation, hyperlinks, the

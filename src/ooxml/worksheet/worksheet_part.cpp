@@ -4,7 +4,7 @@
 #include "ooxml/carried/carried_element_writer.hpp"
 #include "ooxml/document/sheet_rows.hpp"
 #include "ooxml/package_error.hpp"
-#include "ooxml/worksheet/column_name.hpp"
+#include "ooxml/reference/column_name.hpp"
 #include "ooxml/worksheet/unresolvable_references.hpp"
 #include "ooxml/worksheet/worksheet_element_order.hpp"
 

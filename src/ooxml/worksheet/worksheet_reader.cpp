@@ -2,7 +2,7 @@
 
 #include "ooxml/carried/carried_attributes.hpp"
 #include "ooxml/carried/carried_element_collector.hpp"
-#include "ooxml/worksheet/cell_reference_reader.hpp"
+#include "ooxml/reference/cell_reference_reader.hpp"
 #include "ooxml/worksheet/outline_level.hpp"
 #include "ooxml/worksheet/sheet_data_reader.hpp"
 #include "ooxml/worksheet/worksheet_element_order.hpp"

@@ -250,20 +250,7 @@ void MoveCarriedCells(const WorksheetModel& sheet, ooxml::WorkbookDocument& docu
     if (!sheet.Carried() || shifts.empty()) {
         return;
     }
-    const auto move = [&shifts](const ooxml::CellBlock& block) -> std::optional<ooxml::CellBlock> {
-        std::optional<CellBlock> moved =
-            CellBlock{static_cast<int32_t>(block.firstRow), static_cast<int32_t>(block.firstColumn),
-                      static_cast<int32_t>(block.lastRow), static_cast<int32_t>(block.lastColumn)};
-        for (const BlockShift& shift : shifts) {
-            moved = ShiftBlock(*moved, shift);
-            if (!moved) {
-                return std::nullopt;
-            }
-        }
-        return ooxml::CellBlock{static_cast<uint32_t>(moved->top), static_cast<uint32_t>(moved->left),
-                                static_cast<uint32_t>(moved->bottom), static_cast<uint32_t>(moved->right)};
-    };
-    ooxml::MoveCarriedCells(document, document.sheets.back(), move);
+    ooxml::MoveCarriedCells(document, document.sheets.back(), FileBlockMove(shifts));
 }
 
 // The document's strings as the workbook's StringPool ids, and its texts for error values.
@@ -447,9 +434,8 @@ void LoadDocument(WorkbookModel& book, const ooxml::WorkbookDocument& document) 
         if (std::any_of(names.begin(), names.end(), sameNameAndScope)) {
             continue;
         }
-        names.push_back(
-            std::make_shared<DefinedNameModel>(
-                DefinedNameModel{name.name, name.formula, local, !name.hidden, false, name.otherAttributes}));
+        names.push_back(std::make_shared<DefinedNameModel>(
+            DefinedNameModel{name.name, name.formula, local, !name.hidden, false, name.otherAttributes}));
     }
     book.AddOpenedNames(std::move(names));
     // The colours a file lists from index 8 on replace the palette's; the rest keep Excel's standard ones.

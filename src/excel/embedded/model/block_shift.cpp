@@ -66,6 +66,22 @@ std::optional<CellBlock> ShiftBlock(const CellBlock& block, const BlockShift& sh
     return result;
 }
 
+ooxml::CellBlockMove FileBlockMove(std::vector<BlockShift> shifts) {
+    return [shifts = std::move(shifts)](const ooxml::CellBlock& block) -> std::optional<ooxml::CellBlock> {
+        std::optional<CellBlock> moved =
+            CellBlock{static_cast<int32_t>(block.firstRow), static_cast<int32_t>(block.firstColumn),
+                      static_cast<int32_t>(block.lastRow), static_cast<int32_t>(block.lastColumn)};
+        for (const BlockShift& shift : shifts) {
+            moved = ShiftBlock(*moved, shift);
+            if (!moved) {
+                return std::nullopt;
+            }
+        }
+        return ooxml::CellBlock{static_cast<uint32_t>(moved->top), static_cast<uint32_t>(moved->left),
+                                static_cast<uint32_t>(moved->bottom), static_cast<uint32_t>(moved->right)};
+    };
+}
+
 bool ShiftCutsBlock(const CellBlock& block, const BlockShift& shift) {
     const Span across = AcrossAxis(block, shift.vertical);
     const Span along = AlongAxis(block, shift.vertical);

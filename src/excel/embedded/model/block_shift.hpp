@@ -1,9 +1,11 @@
 #pragma once
 
 #include "excel/embedded/model/cell_address.hpp"
+#include "ooxml/reference/formula_reference_mover.hpp"
 
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 namespace excel::embedded {
 
@@ -24,6 +26,9 @@ struct BlockShift {
 // Where a block ends up: moved, grown, shrunk, or nullopt when all of it was deleted. A block not
 // within the band, or spanning the whole sheet along the shift, is unchanged.
 std::optional<CellBlock> ShiftBlock(const CellBlock& block, const BlockShift& shift);
+
+// Where the shifts, applied in turn, take a block of cells as formulas and the file count them.
+ooxml::CellBlockMove FileBlockMove(std::vector<BlockShift> shifts);
 
 // Whether a block lies partly inside the band and partly outside it where cells move, so shifting
 // would cut it (Excel refuses to shift part of a merged block).

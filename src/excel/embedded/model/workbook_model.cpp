@@ -2,12 +2,13 @@
 
 #include "excel/embedded/engine_errors.hpp"
 #include "excel/embedded/model/names/defined_name_rules.hpp"
-#include "excel/embedded/model/names/name_reference.hpp"
 #include "excel/embedded/model/names/sheet_name_rules.hpp"
+#include "ooxml/reference/formula_reference_mover.hpp"
 
 #include <algorithm>
 #include <cctype>
 #include <filesystem>
+#include <unordered_map>
 
 namespace excel::embedded {
 
@@ -168,12 +169,10 @@ void WorkbookModel::DeleteSheet(WorksheetModel& sheet) {
         }
         return false;
     });
-    for (auto& name : names_) {
-        if (auto reference = ReadSheetReference(name->formula);
-            reference && SameSheetName(reference->sheet, sheetName)) {
-            name->formula = "#REF!" + name->formula.substr(name->formula.find('!') + 1);
-        }
-    }
+    const auto isDeleted = [&](std::string_view name) { return SameSheetName(name, sheetName); };
+    rewriteFormulas([&](std::string_view formula, const WorksheetModel*) {
+        return ooxml::WithoutSheetReferences(formula, isDeleted);
+    });
     const auto keep = sheets_[static_cast<size_t>(position)];
     allSheets_.erase(allSheets_.begin() + PlaceOf(sheet));
     sheets_.erase(sheets_.begin() + position);
@@ -209,12 +208,11 @@ void WorkbookModel::RenameSheet(WorksheetModel& sheet, const std::string& name) 
     }
     RefuseWhenStructureProtected();
     const std::string oldName = sheet.Name();
-    for (auto& definedName : names_) {
-        if (auto reference = ReadSheetReference(definedName->formula);
-            reference && SameSheetName(reference->sheet, oldName)) {
-            definedName->formula = WriteSheetReference(name, reference->areas);
-        }
-    }
+    const auto isRenamed = [&](std::string_view sheetName) { return SameSheetName(sheetName, oldName); };
+    const std::string prefix = QualifiedSheetName(name);
+    rewriteFormulas([&](std::string_view formula, const WorksheetModel*) {
+        return ooxml::RenameSheetReferences(formula, isRenamed, prefix);
+    });
     sheet.Settings().name = name;
     saved_ = false;
 }
@@ -341,24 +339,54 @@ void WorkbookModel::sortNames() {
 
 void WorkbookModel::ShiftCells(WorksheetModel& sheet, const BlockShift& shift) {
     sheet.ShiftCells(shift);
-    for (auto& name : names_) {
-        auto reference = ReadSheetReference(name->formula);
-        if (!reference || !SameSheetName(reference->sheet, sheet.Name())) {
-            continue;
-        }
-        std::vector<CellBlock> areas;
-        for (const CellBlock& area : reference->areas) {
-            auto moved = ShiftBlock(area, shift);
-            if (!moved) {
-                areas.clear();
-                break;
-            }
-            areas.push_back(*moved);
-        }
-        name->formula =
-            areas.empty() ? QualifiedSheetName(sheet.Name()) + "!#REF!" : WriteSheetReference(sheet.Name(), areas);
-    }
+    ooxml::SheetCellMove move;
+    move.isMovedSheet = [&](std::string_view name) { return SameSheetName(name, sheet.Name()); };
+    move.move = FileBlockMove({shift});
+    rewriteFormulas([&](std::string_view formula, const WorksheetModel* owner) {
+        move.onMovedSheet = owner == &sheet;
+        return ooxml::MoveFormulaReferences(formula, move);
+    });
     saved_ = false;
+}
+
+void WorkbookModel::rewriteFormulas(
+    const std::function<std::string(std::string_view formula, const WorksheetModel* sheet)>& rewrite) {
+    for (const auto& sheet : sheets_) {
+        // Cells may share a formula's text or an opened formula; each is rewritten once per sheet,
+        // as a formula's references without a sheet name are to the sheet it is on.
+        std::unordered_map<uint32_t, uint32_t> texts;
+        std::unordered_map<uint32_t, uint32_t> openedFormulas;
+        const auto rewritten = [&](uint32_t text) {
+            auto [entry, added] = texts.try_emplace(text, text);
+            if (added) {
+                const std::string& formula = strings_.Get(text).text;
+                if (std::string changed = rewrite(formula, sheet.get()); changed != formula) {
+                    entry->second = strings_.Intern(changed);
+                }
+            }
+            return entry->second;
+        };
+        for (RowData& row : sheet->Cells().Rows()) {
+            for (Cell& cell : row.cells) {
+                if (cell.kind == CellKind::Formula) {
+                    cell.text = rewritten(cell.text);
+                } else if (cell.kind == CellKind::OpenedFormula) {
+                    auto [entry, added] = openedFormulas.try_emplace(cell.text, cell.text);
+                    if (added) {
+                        OpenedFormula formula = openedFormulas_.Get(cell.text);
+                        if (const uint32_t text = rewritten(formula.text); text != formula.text) {
+                            formula.text = text;
+                            entry->second = openedFormulas_.Add(formula);
+                        }
+                    }
+                    cell.text = entry->second;
+                }
+            }
+        }
+    }
+    for (auto& name : names_) {
+        name->formula = rewrite(name->formula, nullptr);
+    }
 }
 
 void WorkbookModel::Protect(const std::string& password, bool structure, bool windows) {

@@ -11,8 +11,10 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace ooxml {
@@ -130,8 +132,13 @@ public:
     void SetSaved(bool saved) { saved_ = saved; }
 
 private:
-    static bool NameListedBefore(const std::shared_ptr<DefinedNameModel>& a, const std::shared_ptr<DefinedNameModel>& b);
+    static bool NameListedBefore(const std::shared_ptr<DefinedNameModel>& a,
+                                 const std::shared_ptr<DefinedNameModel>& b);
     void sortNames();
+    // Rewrites every formula of the workbook (cells and names) whose text rewrite changes; a cell
+    // formula is given with the sheet it is on, a name's with none.
+    void rewriteFormulas(
+        const std::function<std::string(std::string_view formula, const WorksheetModel* sheet)>& rewrite);
     // Lists the worksheets of allSheets_ again in sheets_, after a sheet came or went.
     void listWorksheets();
 

@@ -1,4 +1,4 @@
-#include "ooxml/worksheet/cell_reference_reader.hpp"
+#include "ooxml/reference/cell_reference_reader.hpp"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "ooxml/worksheet/column_name.hpp"
+#include "ooxml/reference/column_name.hpp"
 
 namespace ooxml {
 

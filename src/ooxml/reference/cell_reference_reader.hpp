@@ -8,9 +8,6 @@
 
 namespace ooxml {
 
-inline constexpr uint32_t MaxRowIndex = 1048576;
-inline constexpr uint32_t MaxColumnIndex = 16384;
-
 struct CellPosition {
     uint32_t row = 1;     // 1-based
     uint32_t column = 1;  // 1-based
