@@ -342,16 +342,22 @@ void WorkbookModel::ShiftCells(WorksheetModel& sheet, const BlockShift& shift) {
     ooxml::SheetCellMove move;
     move.isMovedSheet = [&](std::string_view name) { return SameSheetName(name, sheet.Name()); };
     move.move = FileBlockMove({shift});
-    rewriteFormulas([&](std::string_view formula, const WorksheetModel* owner) {
-        move.onMovedSheet = owner == &sheet;
-        return ooxml::MoveFormulaReferences(formula, move);
-    });
+    rewriteFormulas(
+        [&](std::string_view formula, const WorksheetModel* owner) {
+            move.onMovedSheet = owner == &sheet;
+            return ooxml::MoveFormulaReferences(formula, move);
+        },
+        &sheet);
     saved_ = false;
 }
 
 void WorkbookModel::rewriteFormulas(
-    const std::function<std::string(std::string_view formula, const WorksheetModel* sheet)>& rewrite) {
+    const std::function<std::string(std::string_view formula, const WorksheetModel* sheet)>& rewrite,
+    const WorksheetModel* ownReferences) {
+    // Only a formula that names a sheet can refer to another one.
+    const auto mayRefer = [](std::string_view formula) { return formula.find('!') != std::string_view::npos; };
     for (const auto& sheet : sheets_) {
+        const bool every = sheet.get() == ownReferences;
         // Cells may share a formula's text or an opened formula; each is rewritten once per sheet,
         // as a formula's references without a sheet name are to the sheet it is on.
         std::unordered_map<uint32_t, uint32_t> texts;
@@ -360,6 +366,9 @@ void WorkbookModel::rewriteFormulas(
             auto [entry, added] = texts.try_emplace(text, text);
             if (added) {
                 const std::string& formula = strings_.Get(text).text;
+                if (!every && !mayRefer(formula)) {
+                    return text;
+                }
                 if (std::string changed = rewrite(formula, sheet.get()); changed != formula) {
                     entry->second = strings_.Intern(changed);
                 }
@@ -385,7 +394,9 @@ void WorkbookModel::rewriteFormulas(
         }
     }
     for (auto& name : names_) {
-        name->formula = rewrite(name->formula, nullptr);
+        if (mayRefer(name->formula)) {
+            name->formula = rewrite(name->formula, nullptr);
+        }
     }
 }
 

@@ -135,10 +135,12 @@ private:
     static bool NameListedBefore(const std::shared_ptr<DefinedNameModel>& a,
                                  const std::shared_ptr<DefinedNameModel>& b);
     void sortNames();
-    // Rewrites every formula of the workbook (cells and names) whose text rewrite changes; a cell
-    // formula is given with the sheet it is on, a name's with none.
+    // Rewrites the workbook's formulas (of cells and names) that may refer to a sheet: those that
+    // name a sheet, and every formula on ownReferences, whose references without a sheet name are
+    // to it. A cell formula is given with the sheet it is on, a name's with none.
     void rewriteFormulas(
-        const std::function<std::string(std::string_view formula, const WorksheetModel* sheet)>& rewrite);
+        const std::function<std::string(std::string_view formula, const WorksheetModel* sheet)>& rewrite,
+        const WorksheetModel* ownReferences = nullptr);
     // Lists the worksheets of allSheets_ again in sheets_, after a sheet came or went.
     void listWorksheets();
 
