@@ -8,58 +8,48 @@ namespace ooxml {
 
 namespace {
 
-bool NamesSheet(const FormulaReference& reference, const std::function<bool(std::string_view)>& isSheet) {
-    const std::optional<std::string> sheet = reference.LocalSheet();
-    return sheet && isSheet(*sheet);
-}
-
 CellBlock Ordered(const CellBlock& block) {
     return CellBlock{std::min(block.firstRow, block.lastRow), std::min(block.firstColumn, block.lastColumn),
                      std::max(block.firstRow, block.lastRow), std::max(block.firstColumn, block.lastColumn)};
 }
 
-std::string Prefix(const FormulaReference& reference) {
-    return reference.sheets.empty() ? std::string() : std::string(reference.sheets) + "!";
+// The change of the sheet a reference names, if it names a changed one.
+const SheetChange* ChangeOf(const FormulaReference& reference, std::span<const SheetChange> changes,
+                            const SheetChange* ownSheet) {
+    if (reference.sheets.empty()) {
+        return ownSheet;
+    }
+    const std::optional<std::string> sheet = reference.LocalSheet();
+    if (!sheet) {
+        return nullptr;
+    }
+    const auto found = std::find_if(changes.begin(), changes.end(),
+                                    [&sheet](const SheetChange& change) { return change.isSheet(*sheet); });
+    return found == changes.end() ? nullptr : &*found;
 }
 
 }  // namespace
 
-std::string MoveFormulaReferences(std::string_view formula, const SheetCellMove& move) {
+std::string ChangeSheetReferences(std::string_view formula, std::span<const SheetChange> changes,
+                                  const SheetChange* ownSheet) {
     return RewriteFormulaReferences(formula, [&](const FormulaReference& reference) -> std::optional<std::string> {
-        const bool onMovedSheet =
-            reference.sheets.empty() ? move.onMovedSheet : NamesSheet(reference, move.isMovedSheet);
-        if (!onMovedSheet) {
+        const SheetChange* change = ChangeOf(reference, changes, ownSheet);
+        if (change == nullptr) {
             return std::nullopt;
         }
         const CellBlock block = Ordered(reference.Block());
-        const std::optional<CellBlock> moved = move.move(block);
-        if (!moved) {
-            return Prefix(reference) + "#REF!";
+        if (change->deleted) {
+            return reference.sheets.empty() ? std::nullopt : std::optional("#REF!" + ReferenceText(reference, block));
         }
-        if (*moved == block) {
+        const std::optional<CellBlock> moved = change->move ? change->move(block) : block;
+        if (moved == block && (change->prefix.empty() || reference.sheets.empty())) {
             return std::nullopt;
         }
-        return Prefix(reference) + ReferenceText(reference, *moved);
-    });
-}
-
-std::string RenameSheetReferences(std::string_view formula, const std::function<bool(std::string_view)>& isRenamedSheet,
-                                  std::string_view newPrefix) {
-    return RewriteFormulaReferences(formula, [&](const FormulaReference& reference) -> std::optional<std::string> {
-        if (reference.sheets.empty() || !NamesSheet(reference, isRenamedSheet)) {
-            return std::nullopt;
+        std::string text;
+        if (!reference.sheets.empty()) {
+            text = (change->prefix.empty() ? std::string(reference.sheets) : change->prefix) + "!";
         }
-        return std::string(newPrefix) + "!" + ReferenceText(reference, reference.Block());
-    });
-}
-
-std::string WithoutSheetReferences(std::string_view formula,
-                                   const std::function<bool(std::string_view)>& isDeletedSheet) {
-    return RewriteFormulaReferences(formula, [&](const FormulaReference& reference) -> std::optional<std::string> {
-        if (reference.sheets.empty() || !NamesSheet(reference, isDeletedSheet)) {
-            return std::nullopt;
-        }
-        return "#REF!" + ReferenceText(reference, reference.Block());
+        return text + (moved ? ReferenceText(reference, *moved) : std::string("#REF!"));
     });
 }
 

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -13,29 +14,22 @@ namespace ooxml {
 // shrunk, or nothing when all of it was deleted.
 using CellBlockMove = std::function<std::optional<CellBlock>(const CellBlock&)>;
 
-// Cells that moved on one sheet, as the references of a formula see them.
-struct SheetCellMove {
-    // Whether the formula's references that name no sheet are to that sheet (the formula is on it).
-    bool onMovedSheet = false;
-    // Whether a sheet name (unquoted) is that sheet's: Excel compares them without regard to case.
-    std::function<bool(std::string_view sheetName)> isMovedSheet;
-    CellBlockMove move;
+// What became of a sheet that formulas name: its cells moved, it was renamed, or it was deleted.
+struct SheetChange {
+    // Whether a sheet name (unquoted) is this sheet's: Excel compares them without regard to case.
+    std::function<bool(std::string_view sheetName)> isSheet;
+    CellBlockMove move;  // none when its cells stayed where they were
+    std::string prefix;  // how a formula names it now ("'Q1 2024'"); empty when as before
+    bool deleted = false;
 };
 
-// The formula with its references to the moved cells following them, as Excel rewrites formulas
-// when cells are inserted or deleted: "SUM(B2:B9)" with a row inserted above row 5 is
-// "SUM(B2:B10)"; a reference whose cells were all deleted becomes #REF! ("Data!#REF!"). References
-// to other sheets, to ranges of sheets and to other workbooks stay.
-std::string MoveFormulaReferences(std::string_view formula, const SheetCellMove& move);
-
-// The formula with its references to a renamed sheet under the new name, given as a sheet prefix
-// writes it ("'Q1 2024'", quoted where it must be).
-std::string RenameSheetReferences(std::string_view formula, const std::function<bool(std::string_view)>& isRenamedSheet,
-                                  std::string_view newPrefix);
-
-// The formula with its references to the sheet of that name made #REF! ("Data!B2" becomes
-// "#REF!B2"), as Excel leaves them when the sheet is deleted.
-std::string WithoutSheetReferences(std::string_view formula,
-                                   const std::function<bool(std::string_view)>& isDeletedSheet);
+// The formula with its references to the changed sheets rewritten as Excel rewrites them:
+// references to moved cells follow them ("SUM(B2:B9)" with a row inserted above row 5 is
+// "SUM(B2:B10)", and "Data!#REF!" where all were deleted), a renamed sheet is named anew, and a
+// deleted one leaves #REF! in its place ("#REF!B2"). References without a sheet name are to
+// ownSheet (none: to a sheet that did not change); references to ranges of sheets and to other
+// workbooks stay.
+std::string ChangeSheetReferences(std::string_view formula, std::span<const SheetChange> changes,
+                                  const SheetChange* ownSheet);
 
 }  // namespace ooxml

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cctype>
 #include <filesystem>
+#include <span>
 #include <unordered_map>
 
 namespace excel::embedded {
@@ -169,9 +170,11 @@ void WorkbookModel::DeleteSheet(WorksheetModel& sheet) {
         }
         return false;
     });
-    const auto isDeleted = [&](std::string_view name) { return SameSheetName(name, sheetName); };
+    ooxml::SheetChange deleted;
+    deleted.isSheet = [&](std::string_view name) { return SameSheetName(name, sheetName); };
+    deleted.deleted = true;
     rewriteFormulas([&](std::string_view formula, const WorksheetModel*) {
-        return ooxml::WithoutSheetReferences(formula, isDeleted);
+        return ooxml::ChangeSheetReferences(formula, std::span(&deleted, 1), nullptr);
     });
     const auto keep = sheets_[static_cast<size_t>(position)];
     allSheets_.erase(allSheets_.begin() + PlaceOf(sheet));
@@ -208,10 +211,11 @@ void WorkbookModel::RenameSheet(WorksheetModel& sheet, const std::string& name) 
     }
     RefuseWhenStructureProtected();
     const std::string oldName = sheet.Name();
-    const auto isRenamed = [&](std::string_view sheetName) { return SameSheetName(sheetName, oldName); };
-    const std::string prefix = QualifiedSheetName(name);
+    ooxml::SheetChange renamed;
+    renamed.isSheet = [&](std::string_view sheetName) { return SameSheetName(sheetName, oldName); };
+    renamed.prefix = QualifiedSheetName(name);
     rewriteFormulas([&](std::string_view formula, const WorksheetModel*) {
-        return ooxml::RenameSheetReferences(formula, isRenamed, prefix);
+        return ooxml::ChangeSheetReferences(formula, std::span(&renamed, 1), nullptr);
     });
     sheet.Settings().name = name;
     saved_ = false;
@@ -339,13 +343,12 @@ void WorkbookModel::sortNames() {
 
 void WorkbookModel::ShiftCells(WorksheetModel& sheet, const BlockShift& shift) {
     sheet.ShiftCells(shift);
-    ooxml::SheetCellMove move;
-    move.isMovedSheet = [&](std::string_view name) { return SameSheetName(name, sheet.Name()); };
-    move.move = FileBlockMove({shift});
+    ooxml::SheetChange moved;
+    moved.isSheet = [&](std::string_view name) { return SameSheetName(name, sheet.Name()); };
+    moved.move = FileBlockMove({shift});
     rewriteFormulas(
         [&](std::string_view formula, const WorksheetModel* owner) {
-            move.onMovedSheet = owner == &sheet;
-            return ooxml::MoveFormulaReferences(formula, move);
+            return ooxml::ChangeSheetReferences(formula, std::span(&moved, 1), owner == &sheet ? &moved : nullptr);
         },
         &sheet);
     saved_ = false;
