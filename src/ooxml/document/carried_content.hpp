@@ -65,6 +65,8 @@ struct CarriedSheetName {
 
 // A worksheet's carried content.
 struct CarriedWorksheet {
+    // The sheet's name in the file: what the carried formulas call it.
+    std::string name;
     CarriedMarkup worksheet;
     // Of the first sheet view: what the engine does not set, its pane when split or frozen, and
     // its children after the pane (selections, pivot selections, extLst) as the file wrote them.
@@ -122,6 +124,7 @@ struct CarriedWorkbook {
     std::vector<CarriedAttribute> bookViewAttributes;
     std::vector<CarriedAttribute> calcAttributes;
     std::vector<CarriedSheet> sheets;
+    std::vector<std::string> worksheetNames;  // the file's worksheets, in order
     std::vector<CarriedSheetName> sheetNames;
     CarriedStyles styles;
     // The document properties the engine does not set: of the core part all but the last author

@@ -208,6 +208,8 @@ private:
         sheet.name = entry.name;
         sheet.state = entry.state;
         auto carried = std::make_shared<CarriedWorksheet>();
+        carried->name = entry.name;
+        carried_->worksheetNames.push_back(entry.name);
         const SheetDrawingReferences drawings = ReadWorksheet(
             [&](char* buffer, std::size_t size) { return part->Read(buffer, size); }, partName, context, sheet, *carried);
         carriedParts_.Rewritten(partName);

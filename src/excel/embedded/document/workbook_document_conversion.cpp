@@ -1,5 +1,6 @@
 #include "excel/embedded/document/workbook_document_conversion.hpp"
 
+#include "excel/embedded/document/carried_formula_changes.hpp"
 #include "excel/embedded/document/format_document_conversion.hpp"
 #include "excel/embedded/document/rich_text_document_conversion.hpp"
 #include "excel/embedded/document/shape_document_conversion.hpp"
@@ -374,6 +375,7 @@ ooxml::WorkbookDocument ToDocument(const WorkbookModel& book, const std::string&
             document.activeSheet = static_cast<uint32_t>(document.sheets.size() - 1);
         }
     }
+    ChangeCarriedFormulas(book, document);
     for (const auto& name : book.Names()) {
         ooxml::DefinedName out{name->name, name->formula, std::nullopt, !name->visible, name->fileAttributes};
         if (name->localSheet) {
