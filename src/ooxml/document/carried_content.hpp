@@ -109,6 +109,7 @@ struct CarriedStyles {
     CarriedMarkup markup;
     std::vector<CarriedStyleFormat> styleFormats;
     std::map<uint32_t, std::string> numberFormats;  // by numFmtId
+    bool listsIndexedColors = false;                // the file listed its palette, even unchanged from Excel's
 };
 
 // The workbook's carried content: the parts, the package's own relationships, and what the

@@ -46,4 +46,16 @@ Color ReadColor(pugi::xml_node node) {
     return color;
 }
 
+std::vector<std::optional<uint32_t>> ReadIndexedColors(pugi::xml_node colors) {
+    constexpr std::size_t indexedColorCount = 64;
+    std::vector<std::optional<uint32_t>> palette;
+    ForEachChild(FirstChild(colors, "indexedColors"), "rgbColor", [&](pugi::xml_node node) {
+        if (palette.size() < indexedColorCount) {
+            const Color color = ReadColor(node);
+            palette.push_back(color.kind == Color::Kind::Rgb ? std::optional(color.argb & 0x00FFFFFFu) : std::nullopt);
+        }
+    });
+    return palette;
+}
+
 }  // namespace ooxml

@@ -3,14 +3,18 @@
 #include "ooxml/carried/carried_attributes.hpp"
 #include "ooxml/carried/carried_element_writer.hpp"
 #include "ooxml/styles/styles_element_order.hpp"
+#include "ooxml/xml/xml_node_access.hpp"
+#include "ooxml/xml/xml_part_parser.hpp"
 
 #include "ooxml/styles/color_element.hpp"
+#include "ooxml/styles/color_reader.hpp"
 #include "ooxml/styles/font_element.hpp"
 #include "ooxml/styles/number_format_table.hpp"
 
 #include <array>
 #include <cstdint>
 #include <map>
+#include <memory>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -230,17 +234,37 @@ void WriteStyleXf(XmlWriter& xml, const CellXf& xf, const CarriedStyleFormat& st
     xml.EndElement();
 }
 
-// An entry without a colour keeps its place, as black: the table is indexed by position.
-void WritePalette(XmlWriter& xml, const std::vector<std::optional<uint32_t>>& palette) {
-    if (palette.empty()) {
+// The file's <colors>, parsed; an empty document when it had none.
+std::unique_ptr<pugi::xml_document> FileColors(const CarriedStyles* carried) {
+    auto colors = std::make_unique<pugi::xml_document>();
+    if (carried != nullptr) {
+        for (const CarriedElement& element : carried->markup.elements) {
+            if (element.name == "colors") {
+                colors->load_string(element.xml.c_str(), XmlPartParseOptions);
+            }
+        }
+    }
+    return colors;
+}
+
+// The palette, with the file's most recently used colours after it. An entry without a colour
+// keeps its place, as black: the table is indexed by position.
+void WritePalette(XmlWriter& xml, const std::vector<std::optional<uint32_t>>& palette, pugi::xml_node fileColors) {
+    const pugi::xml_node recent = FirstChild(fileColors, "mruColors");
+    if (palette.empty() && !recent) {
         return;
     }
     xml.StartElement("colors");
-    xml.StartElement("indexedColors");
-    for (const std::optional<uint32_t>& rgb : palette) {
-        WriteColor(xml, "rgbColor", Color{Color::Kind::Rgb, 0xFF000000u | rgb.value_or(0), 0, 0.0});
+    if (!palette.empty()) {
+        xml.StartElement("indexedColors");
+        for (const std::optional<uint32_t>& rgb : palette) {
+            WriteColor(xml, "rgbColor", Color{Color::Kind::Rgb, 0xFF000000u | rgb.value_or(0), 0, 0.0});
+        }
+        xml.EndElement();
     }
-    xml.EndElement();
+    if (recent) {
+        xml.Raw(ElementMarkup(recent));
+    }
     xml.EndElement();
 }
 
@@ -297,7 +321,11 @@ void WriteStylesPart(XmlWriter& xml, const WorkbookDocument& document) {
         WriteCarriedAttributes(xml, carried->markup.rootAttributes);
     }
     CarriedElementWriter carriedElements(xml, carried != nullptr ? &carried->markup.elements : nullptr);
-    if (!document.palette.empty()) {
+    // The file's colours stay as it wrote them (Excel writes the alpha of the indexed ones either
+    // way) while they are the workbook's; else the palette is written anew.
+    const std::unique_ptr<pugi::xml_document> fileColors = FileColors(carried);
+    const bool ownColors = ReadIndexedColors(fileColors->document_element()) != document.palette;
+    if (ownColors) {
         carriedElements.Drop("colors");
     }
     pieces.Write(xml);
@@ -335,7 +363,9 @@ void WriteStylesPart(XmlWriter& xml, const WorkbookDocument& document) {
         xml.EndElement();
     }
     carriedElements.Through(StylesElementOrder.Slot("tableStyles"));
-    WritePalette(xml, document.palette);
+    if (ownColors) {
+        WritePalette(xml, document.palette, fileColors->document_element());
+    }
     carriedElements.Rest();
     xml.EndElement();
 }

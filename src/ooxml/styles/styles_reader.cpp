@@ -16,8 +16,6 @@ namespace ooxml {
 
 namespace {
 
-// The indexed colour table: 8 fixed colours, then the 56 a workbook may change.
-constexpr std::size_t IndexedColorCount = 64;
 constexpr int32_t MaxIndent = 250;
 constexpr int32_t VerticalTextRotation = 255;
 
@@ -105,17 +103,6 @@ const Item& ItemAt(const std::vector<Item>& items, std::optional<uint32_t> index
     return index && *index < items.size() ? items[*index] : fallback;
 }
 
-std::vector<std::optional<uint32_t>> ReadPalette(pugi::xml_node colors) {
-    std::vector<std::optional<uint32_t>> palette;
-    ForEachChild(FirstChild(colors, "indexedColors"), "rgbColor", [&](pugi::xml_node node) {
-        if (palette.size() < IndexedColorCount) {
-            const Color color = ReadColor(node);
-            palette.push_back(color.kind == Color::Kind::Rgb ? std::optional(color.argb & 0x00FFFFFFu) : std::nullopt);
-        }
-    });
-    return palette;
-}
-
 // The cell formats and the named styles' formats are rewritten from the model (with the fonts,
 // fills, borders and number formats they use); the rest of the part is kept, the named styles
 // themselves included.
@@ -200,7 +187,8 @@ StylesPart ReadStyles(std::string& xml, std::string_view partName) {
     ForEachChild(FirstChild(styleSheet, "cellStyleXfs"), "xf",
                  [&](pugi::xml_node xf) { styles.carried.styleFormats.push_back(ReadStyleFormat(xfs, xf)); });
     styles.carried.numberFormats = xfs.NumberFormats();
-    styles.palette = ReadPalette(FirstChild(styleSheet, "colors"));
+    styles.palette = ReadIndexedColors(FirstChild(styleSheet, "colors"));
+    styles.carried.listsIndexedColors = !styles.palette.empty();
     CarryStyles(styleSheet, styles.carried.markup);
     return styles;
 }

@@ -383,7 +383,8 @@ ooxml::WorkbookDocument ToDocument(const WorkbookModel& book, const std::string&
         }
         document.names.push_back(out);
     }
-    if (book.Palette() != DefaultPalette()) {
+    // A file that listed its palette gets it listed again, even unchanged from Excel's.
+    if (book.Palette() != DefaultPalette() || (document.carried && document.carried->styles.listsIndexedColors)) {
         for (size_t i = 0; i < fixedIndexedColors; ++i) {
             document.palette.push_back(FileRgb(DefaultPalette()[i]));
         }
