@@ -123,6 +123,7 @@ struct CarriedWorkbook {
     std::vector<CarriedAttribute> workbookPrAttributes;
     std::vector<CarriedAttribute> protectionAttributes;  // password hashes and the like
     std::vector<CarriedAttribute> bookViewAttributes;
+    std::string firstSheet;  // the sheet the tab bar shows first, when not the first one
     std::vector<CarriedAttribute> calcAttributes;
     std::vector<CarriedSheet> sheets;
     std::vector<std::string> worksheetNames;  // the file's worksheets, in order

@@ -99,12 +99,32 @@ private:
         xml_.StartElement("bookViews");
         xml_.StartElement("workbookView");
         WriteCarriedAttributes(xml_, Carried(&CarriedWorkbook::bookViewAttributes));
-        const uint32_t activeTab = order_.worksheetPositions.empty() ? 0 : order_.worksheetPositions[document_.activeSheet];
+        if (const std::optional<uint32_t> firstSheet = FirstSheetPosition(); firstSheet && *firstSheet != 0) {
+            xml_.Attribute("firstSheet", *firstSheet);
+        }
+        const uint32_t activeTab =
+            order_.worksheetPositions.empty() ? 0 : order_.worksheetPositions[document_.activeSheet];
         if (activeTab != 0) {
             xml_.Attribute("activeTab", activeTab);
         }
         xml_.EndElement();
         xml_.EndElement();
+    }
+
+    // Where the sheet the tab bar showed first now is, if it is still there.
+    std::optional<uint32_t> FirstSheetPosition() const {
+        if (document_.carried == nullptr || document_.carried->firstSheet.empty()) {
+            return std::nullopt;
+        }
+        for (uint32_t position = 0; position < order_.entries.size(); ++position) {
+            const SheetOrder::Entry& entry = order_.entries[position];
+            const std::string& name =
+                entry.carried ? document_.carried->sheets[entry.index].name : document_.sheets[entry.index].name;
+            if (name == document_.carried->firstSheet) {
+                return position;
+            }
+        }
+        return std::nullopt;
     }
 
     void WriteSheet(const std::string& name, std::size_t position, const std::string& state, const std::string& id) {
@@ -144,7 +164,7 @@ private:
         }
         WriteCarriedAttributes(xml_, name.otherAttributes);
         xml_.Text(name.formula.find('[') == std::string::npos ? name.formula
-                                                             : WithoutUnresolvableReferences(name.formula, targets_));
+                                                              : WithoutUnresolvableReferences(name.formula, targets_));
         xml_.EndElement();
     }
 
@@ -155,8 +175,8 @@ private:
         }
         xml_.StartElement("definedNames");
         for (const DefinedName& name : document_.names) {
-            WriteDefinedName(name, name.localSheet ? std::optional(order_.worksheetPositions[*name.localSheet])
-                                                   : std::nullopt);
+            WriteDefinedName(
+                name, name.localSheet ? std::optional(order_.worksheetPositions[*name.localSheet]) : std::nullopt);
         }
         if (carriedNames) {
             for (const CarriedSheetName& name : carried_->sheetNames) {

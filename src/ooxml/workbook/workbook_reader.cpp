@@ -56,8 +56,13 @@ WorkbookPart ReadWorkbook(std::string& xml, std::string_view partName, CarriedWo
     carried.workbook.rootAttributes = AttributesExcept(workbook, {"xmlns", "xmlns:r"});
     carried.workbookPrAttributes = AttributesExcept(FirstChild(workbook, "workbookPr"), {"date1904"});
     carried.protectionAttributes = AttributesExcept(protection, {"lockStructure", "lockWindows"});
-    // The first visible tab is left out: once sheets are deleted it may no longer exist.
+    // The first tab the tab bar shows is kept by its sheet's name: sheets may come and go before
+    // the workbook is saved again.
     carried.bookViewAttributes = AttributesExcept(view, {"activeTab", "firstSheet"});
+    if (const std::optional<uint32_t> firstSheet = AttributeUnsigned(view, "firstSheet");
+        firstSheet && *firstSheet < part.sheets.size()) {
+        carried.firstSheet = part.sheets[*firstSheet].name;
+    }
     carried.calcAttributes = AttributesExcept(FirstChild(workbook, "calcPr"), {"calcId", "fullCalcOnLoad"});
     CarriedElementCollector elements(WorkbookElementOrder, carried.workbook.elements);
     for (pugi::xml_node child = workbook.first_child(); child; child = child.next_sibling()) {

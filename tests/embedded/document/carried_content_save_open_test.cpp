@@ -230,3 +230,19 @@ TEST_F(CarriedContentSaveOpenTest, CarriedChartsFollowTheirCellsAndSheets) {
 }
 
 }  // namespace
+
+namespace {
+
+// The first tab the tab bar shows stays the same sheet while it is there.
+TEST_F(CarriedContentSaveOpenTest, TheTabBarStartsAtTheSameSheet) {
+    auto workbook = OpenCorpus("realworld-excel/poi__50299.xlsx");  // firstSheet="9": "Sheet10"
+    EXPECT_NE(Saved(workbook, "copy.xlsx").at("xl/workbook.xml").find(R"(firstSheet="9")"), std::string::npos);
+    app->SetDisplayAlerts(false);
+    workbook->Worksheets("Sheet1")->Delete();
+    EXPECT_NE(Saved(workbook, "fewer.xlsx").at("xl/workbook.xml").find(R"(firstSheet="8")"), std::string::npos);
+    workbook->Worksheets("Sheet10")->Delete();
+    EXPECT_EQ(Saved(workbook, "gone.xlsx").at("xl/workbook.xml").find("firstSheet"), std::string::npos);
+    EXPECT_EQ(RunTool("check-xlsx", PathOf("gone.xlsx")), 0);
+}
+
+}  // namespace
