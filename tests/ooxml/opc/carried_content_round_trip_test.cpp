@@ -118,7 +118,7 @@ PackageParts RichPackage() {
         R"(<xdr:spPr><a:xfrm><a:off x="0" y="0"/><a:ext cx="1000" cy="1000"/></a:xfrm></xdr:spPr>)"
         R"(<xdr:txBody><a:bodyPr/><a:lstStyle/><a:p><a:r><a:t>Note</a:t></a:r></a:p></xdr:txBody></xdr:sp><xdr:clientData/></xdr:twoCellAnchor></xdr:wsDr>)";
     parts["xl/drawings/_rels/drawing1.xml.rels"] = Relationships({Relationship("rId1", "image", "../media/image1.png")});
-    parts["xl/media/image1.png"] = std::string("\x89PNG\r\n\x1a\n\0\0fake", 16);
+    parts["xl/media/image1.png"] = std::string("\x89PNG\r\n\x1a\n\0\0fake", 14);
     parts["xl/chartsheets/sheet1.xml"] =
         std::string(Declaration) +
         R"(<chartsheet xmlns="http://schemas.openxmlformats.org/spreadsheetml/2006/main"><sheetViews><sheetView workbookViewId="0"/></sheetViews></chartsheet>)";
