@@ -42,6 +42,9 @@ struct WorkbookDocument {
     // The protection is the opened file's, locked with a password whose hash it keeps (carried
     // with the protection's other attributes); false once the protection changed.
     bool passwordFromFile = false;
+    // The legacy hash of the protection's password (workbookPassword, four hex digits): of the
+    // password the engine protected the workbook with, or the opened file's. Empty for none.
+    std::string passwordVerifier;
     DocumentProperties properties;
     // What the opened file held beyond the rest of the document; none for a new workbook.
     std::shared_ptr<const CarriedWorkbook> carried;

@@ -86,7 +86,10 @@ std::vector<Relationship> RelationshipsExcept(const std::vector<Relationship>& r
 class PackageReader {
 public:
     PackageReader(const std::string& path)
-        : path_(path), archive_(path), contentTypes_(archive_), carriedParts_(archive_, contentTypes_, carried_->parts) {}
+        : path_(path),
+          archive_(path),
+          contentTypes_(archive_),
+          carriedParts_(archive_, contentTypes_, carried_->parts) {}
 
     WorkbookDocument Read() {
         const std::vector<Relationship> packageRelationships = ReadRelationships(archive_, "");
@@ -110,11 +113,12 @@ public:
         document_.date1904 = workbook.date1904;
         document_.lockStructure = workbook.lockStructure;
         document_.lockWindows = workbook.lockWindows;
-        document_.passwordFromFile =
-            std::any_of(carried_->protectionAttributes.begin(), carried_->protectionAttributes.end(),
-                        [](const CarriedAttribute& attribute) {
-                            return attribute.first == "workbookPassword" || attribute.first == "workbookHashValue";
-                        });
+        for (const auto& [name, value] : carried_->protectionAttributes) {
+            document_.passwordFromFile |= name == "workbookPassword" || name == "workbookHashValue";
+            if (name == "workbookPassword") {
+                document_.passwordVerifier = value;
+            }
+        }
 
         std::set<std::string> sheetRelationshipIds;
         for (const SheetEntry& entry : workbook.sheets) {
@@ -210,8 +214,9 @@ private:
         auto carried = std::make_shared<CarriedWorksheet>();
         carried->name = entry.name;
         carried_->worksheetNames.push_back(entry.name);
-        const SheetDrawingReferences drawings = ReadWorksheet(
-            [&](char* buffer, std::size_t size) { return part->Read(buffer, size); }, partName, context, sheet, *carried);
+        const SheetDrawingReferences drawings =
+            ReadWorksheet([&](char* buffer, std::size_t size) { return part->Read(buffer, size); }, partName, context,
+                          sheet, *carried);
         carriedParts_.Rewritten(partName);
         ReadSheetDrawings(partName, drawings, sheet, *carried);
         sheet.carried = carried;
@@ -220,8 +225,8 @@ private:
 
     // The text boxes of the sheet's drawing with the anchors it carries, and its comments with the
     // shapes of their notes. The other relationships of the sheet are kept.
-    void ReadSheetDrawings(std::string_view sheetPartName, const SheetDrawingReferences& drawings,
-                           SheetDocument& sheet, CarriedWorksheet& carried) {
+    void ReadSheetDrawings(std::string_view sheetPartName, const SheetDrawingReferences& drawings, SheetDocument& sheet,
+                           CarriedWorksheet& carried) {
         const std::vector<Relationship> relationships = ReadRelationships(archive_, sheetPartName);
         const auto related = [&relationships](const std::string& id, std::string_view typeName) -> const Relationship* {
             const Relationship* relationship = FindRelationship(relationships, id);

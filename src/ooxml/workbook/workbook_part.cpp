@@ -77,7 +77,7 @@ private:
     }
 
     // The password hash and the other settings of an opened workbook's protection stay with it
-    // while the protection is the file's.
+    // while the protection is the file's; a password the engine set is written as its legacy hash.
     void WriteProtection() {
         const std::vector<CarriedAttribute>& attributes =
             document_.passwordFromFile ? Carried(&CarriedWorkbook::protectionAttributes) : NoAttributes;
@@ -86,6 +86,9 @@ private:
         }
         xml_.StartElement("workbookProtection");
         WriteCarriedAttributes(xml_, attributes);
+        if (!document_.passwordFromFile && !document_.passwordVerifier.empty()) {
+            xml_.Attribute("workbookPassword", document_.passwordVerifier);
+        }
         if (document_.lockStructure) {
             xml_.Attribute("lockStructure", "1");
         }

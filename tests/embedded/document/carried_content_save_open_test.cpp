@@ -192,6 +192,24 @@ TEST_F(CarriedContentSaveOpenTest, AFilePasswordStaysUntilTheProtectionChanges) 
     EXPECT_FALSE(workbook->ProtectStructure());
 }
 
+// A password the engine protects a workbook with is saved as Excel's legacy hash of it, which
+// unprotects the workbook when it is opened again.
+TEST_F(CarriedContentSaveOpenTest, AnEnginePasswordIsSavedAsItsHashAndUnprotectsTheReopenedWorkbook) {
+    book->Protect(std::string("test"), true, false);
+    EXPECT_NE(Saved(book, "protected.xlsx").at("xl/workbook.xml").find(R"(workbookPassword="CBEB")"),
+              std::string::npos);
+    EXPECT_EQ(RunTool("validate-xlsx", PathOf("protected.xlsx")), 0);
+    EXPECT_EQ(RunTool("check-xlsx", PathOf("protected.xlsx")), 0);
+    book->Close(false);
+    auto reopened = app->Workbooks()->Open(PathOf("protected.xlsx"));
+    EXPECT_TRUE(reopened->ProtectStructure());
+    EXPECT_EQ(ErrorCodeOf([&] { reopened->Unprotect(std::string("guess")); }), kRefused);
+    EXPECT_TRUE(reopened->ProtectStructure());
+    reopened->Unprotect(std::string("test"));
+    EXPECT_FALSE(reopened->ProtectStructure());
+    EXPECT_EQ(Saved(reopened, "open.xlsx").at("xl/workbook.xml").find("workbookProtection"), std::string::npos);
+}
+
 }  // namespace
 
 namespace {

@@ -10,6 +10,7 @@
 #include "excel/embedded/format/workbook_colors.hpp"
 #include "excel/embedded/model/geometry/geometry.hpp"
 #include "excel/embedded/model/names/defined_name_rules.hpp"
+#include "excel/embedded/model/password_verifier.hpp"
 #include "excel/embedded/text/text_entry.hpp"
 
 #include "ooxml/opc/carried_cell_moves.hpp"
@@ -396,6 +397,9 @@ ooxml::WorkbookDocument ToDocument(const WorkbookModel& book, const std::string&
     document.date1904 = book.Date1904();
     document.lockStructure = book.ProtectStructure();
     document.passwordFromFile = book.PasswordFromFile();
+    if (!book.PasswordFromFile() && !book.Password().empty()) {
+        document.passwordVerifier = LegacyPasswordVerifier(book.Password());
+    }
     document.lockWindows = book.ProtectWindows();
     document.properties.creator = author;
     document.properties.lastModifiedBy = author;
@@ -455,7 +459,7 @@ void LoadDocument(WorkbookModel& book, const ooxml::WorkbookDocument& document) 
         book.SetThemeColors(theme);
     }
     if (document.passwordFromFile) {
-        book.ProtectWithFilePassword(document.lockStructure, document.lockWindows);
+        book.ProtectWithFilePassword(document.lockStructure, document.lockWindows, document.passwordVerifier);
     } else {
         book.Protect("", document.lockStructure, document.lockWindows);
     }

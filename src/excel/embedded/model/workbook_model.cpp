@@ -3,6 +3,8 @@
 #include "excel/embedded/engine_errors.hpp"
 #include "excel/embedded/model/names/defined_name_rules.hpp"
 #include "excel/embedded/model/names/sheet_name_rules.hpp"
+#include "excel/embedded/model/password_verifier.hpp"
+#include "excel/embedded/text/utf8_text.hpp"
 #include "ooxml/reference/formula_reference_mover.hpp"
 
 #include <algorithm>
@@ -408,15 +410,20 @@ void WorkbookModel::Protect(const std::string& password, bool structure, bool wi
     protectWindows_ = windows;
     password_ = password;
     passwordFromFile_ = false;
+    fileVerifier_.clear();
 }
 
-void WorkbookModel::ProtectWithFilePassword(bool structure, bool windows) {
+void WorkbookModel::ProtectWithFilePassword(bool structure, bool windows, const std::string& verifier) {
     Protect("", structure, windows);
     passwordFromFile_ = true;
+    fileVerifier_ = verifier;
 }
 
 void WorkbookModel::Unprotect(const std::string& password) {
-    if ((protectStructure_ || protectWindows_) && (passwordFromFile_ || password != password_)) {
+    const bool accepted = passwordFromFile_ ? !fileVerifier_.empty() &&
+                                                  EqualsIgnoringCase(LegacyPasswordVerifier(password), fileVerifier_)
+                                            : password == password_;
+    if ((protectStructure_ || protectWindows_) && !accepted) {
         ThrowRefused(
             "The password you supplied is not correct. Verify that the CAPS LOCK key is off and be sure to "
             "use the correct capitalization.");
@@ -424,6 +431,8 @@ void WorkbookModel::Unprotect(const std::string& password) {
     protectStructure_ = false;
     protectWindows_ = false;
     password_.clear();
+    passwordFromFile_ = false;
+    fileVerifier_.clear();
 }
 
 void WorkbookModel::RefuseWhenStructureProtected() const {

@@ -110,10 +110,12 @@ public:
     bool ProtectStructure() const { return protectStructure_; }
     bool ProtectWindows() const { return protectWindows_; }
     void Protect(const std::string& password, bool structure, bool windows);
-    // Protection an opened file locked with a password the engine cannot check (it keeps only its
-    // hash): unprotecting is refused, and the file's password stays until the protection changes.
-    void ProtectWithFilePassword(bool structure, bool windows);
+    // Protection an opened file locked with a password it keeps only the hash of: the password
+    // stays until the protection changes, and unprotecting takes the password whose legacy hash
+    // (verifier) the file gave; with none (a SHA-512 hash alone) unprotecting is refused.
+    void ProtectWithFilePassword(bool structure, bool windows, const std::string& verifier);
     bool PasswordFromFile() const { return passwordFromFile_; }
+    const std::string& Password() const { return password_; }
     void Unprotect(const std::string& password);
     void RefuseWhenStructureProtected() const;
 
@@ -159,6 +161,7 @@ private:
     bool protectWindows_ = false;
     std::string password_;
     bool passwordFromFile_ = false;
+    std::string fileVerifier_;
     bool date1904_ = false;
     bool saved_ = true;
     std::shared_ptr<const ooxml::CarriedWorkbook> carried_;
