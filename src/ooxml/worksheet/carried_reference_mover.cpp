@@ -109,11 +109,14 @@ private:
     const CellBlockMove& move_;
 };
 
-// The cell corners of a drawing anchor moved with the cells under them; an anchor whose cells were
-// all deleted keeps its place.
+// The cell corners of a drawing anchor moved with the cells under them, as its object is set to
+// follow them (editAs): both corners ("twoCell", the default), the top left one with the object's
+// size kept ("oneCell"), or neither ("absolute"). An anchor whose cells were all deleted keeps its
+// place.
 void MoveAnchor(pugi::xml_node anchor, const CellBlockMove& move) {
     const pugi::xml_node from = FirstChild(anchor, "from");
-    if (!from) {
+    const std::string_view editAs = AttributeText(anchor, "editAs");
+    if (!from || editAs == "absolute") {
         return;
     }
     const pugi::xml_node to = FirstChild(anchor, "to");
@@ -132,7 +135,10 @@ void MoveAnchor(pugi::xml_node anchor, const CellBlockMove& move) {
     };
     set(from, "row", moved->firstRow);
     set(from, "col", moved->firstColumn);
-    if (to) {
+    if (to && editAs == "oneCell") {
+        set(to, "row", block.lastRow + moved->firstRow - block.firstRow);
+        set(to, "col", block.lastColumn + moved->firstColumn - block.firstColumn);
+    } else if (to) {
         set(to, "row", moved->lastRow);
         set(to, "col", moved->lastColumn);
     }
