@@ -20,9 +20,9 @@ namespace {
 constexpr std::array<std::string_view, 4> RangeOwners{"hyperlink", "autoFilter", "sortState", "sortCondition"};
 // Elements that are nothing without their ranges, and the lists that are nothing without them.
 constexpr std::array<std::string_view, 6> RangedItems{"conditionalFormatting", "dataValidation", "hyperlink",
-                                                      "ignoredError", "protectedRange", "sortCondition"};
-constexpr std::array<std::string_view, 5> ItemLists{"dataValidations", "hyperlinks", "ignoredErrors",
-                                                    "protectedRanges", "conditionalFormattings"};
+                                                      "ignoredError",          "protectedRange", "sortCondition"};
+constexpr std::array<std::string_view, 5> ItemLists{"dataValidations", "hyperlinks", "ignoredErrors", "protectedRanges",
+                                                    "conditionalFormattings"};
 
 template <std::size_t N>
 bool OneOf(const std::array<std::string_view, N>& names, std::string_view name) {
@@ -170,7 +170,8 @@ CarriedWorksheet MoveCarriedReferences(const CarriedWorksheet& carried, const Ce
             continue;
         }
         if (mover.Move(document.document_element())) {
-            moved.worksheet.elements.push_back({element.slot, element.name, ElementMarkup(document.document_element())});
+            moved.worksheet.elements.push_back(
+                {element.slot, element.name, ElementMarkup(document.document_element())});
         }
     }
     for (CarriedElement& anchor : moved.drawing.elements) {

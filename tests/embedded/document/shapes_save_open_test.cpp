@@ -77,4 +77,26 @@ TEST_F(ShapesSaveOpenTest, SavedTwiceKeepsEveryShape) {
     EXPECT_EQ(again->Range("C3")->Comment()->Text(), "B");
 }
 
+// An opened text box stays on the cells its anchor names, whatever its transform says (its
+// writer measured rows and columns otherwise), and moves with them.
+TEST_F(ShapesSaveOpenTest, AnOpenedTextBoxKeepsTheCellsOfItsAnchor) {
+    const std::string name = "realworld-excel/poi__45540_form_Footer.xlsx";
+    const auto anchorOf = [](const std::string& drawing, const std::string& shapeName) {
+        const std::size_t shape = drawing.find("name=\"" + shapeName + "\"");
+        const std::size_t anchor = drawing.rfind("<xdr:twoCellAnchor", shape);
+        return drawing.substr(anchor, drawing.find("<xdr:sp", anchor) - anchor);
+    };
+    const std::string input =
+        anchorOf(ooxml_test::ReadPackageParts(CorpusPath(name)).at("xl/drawings/drawing1.xml"), "Text Box 35");
+    auto workbook = OpenCorpus(name);
+    const std::string saved = anchorOf(Saved(workbook, "copy.xlsx").at("xl/drawings/drawing1.xml"), "Text Box 35");
+    EXPECT_EQ(saved, input);
+
+    workbook->Worksheets(1)->Range("A1")->EntireRow()->Insert();
+    const std::string moved = anchorOf(Saved(workbook, "moved.xlsx").at("xl/drawings/drawing1.xml"), "Text Box 35");
+    EXPECT_NE(input.find("<xdr:row>26</xdr:row>"), std::string::npos) << input;
+    EXPECT_EQ(moved.find("<xdr:row>26</xdr:row>"), std::string::npos) << moved;
+    EXPECT_NE(moved.find("<xdr:row>27</xdr:row>"), std::string::npos) << moved;
+}
+
 }  // namespace

@@ -32,14 +32,18 @@ uint32_t Pixels(double points) {
     return static_cast<uint32_t>(std::lround(points / PointsPerPixel));
 }
 
-constexpr std::array<std::pair<int32_t, std::string_view>, 5> HorizontalAlignments{{
-    {xlHAlignLeft, "l"}, {xlHAlignCenter, "ctr"}, {xlHAlignRight, "r"}, {xlHAlignJustify, "just"},
-    {xlHAlignDistributed, "dist"}}};
-constexpr std::array<std::pair<int32_t, std::string_view>, 5> VerticalAnchors{{
-    {xlVAlignTop, "t"}, {xlVAlignCenter, "ctr"}, {xlVAlignBottom, "b"}, {xlVAlignJustify, "just"},
-    {xlVAlignDistributed, "dist"}}};
-constexpr std::array<std::pair<int32_t, std::string_view>, 3> AnchorKinds{{
-    {xlMoveAndSize, "twoCell"}, {xlMove, "oneCell"}, {xlFreeFloating, "absolute"}}};
+constexpr std::array<std::pair<int32_t, std::string_view>, 5> HorizontalAlignments{{{xlHAlignLeft, "l"},
+                                                                                    {xlHAlignCenter, "ctr"},
+                                                                                    {xlHAlignRight, "r"},
+                                                                                    {xlHAlignJustify, "just"},
+                                                                                    {xlHAlignDistributed, "dist"}}};
+constexpr std::array<std::pair<int32_t, std::string_view>, 5> VerticalAnchors{{{xlVAlignTop, "t"},
+                                                                               {xlVAlignCenter, "ctr"},
+                                                                               {xlVAlignBottom, "b"},
+                                                                               {xlVAlignJustify, "just"},
+                                                                               {xlVAlignDistributed, "dist"}}};
+constexpr std::array<std::pair<int32_t, std::string_view>, 3> AnchorKinds{
+    {{xlMoveAndSize, "twoCell"}, {xlMove, "oneCell"}, {xlFreeFloating, "absolute"}}};
 
 template <size_t N>
 std::string_view NameOf(const std::array<std::pair<int32_t, std::string_view>, N>& table, int32_t value) {
@@ -59,6 +63,11 @@ int32_t ValueOf(const std::array<std::pair<int32_t, std::string_view>, N>& table
         }
     }
     return table.front().first;
+}
+
+CellPoint CellPointOf(const ooxml::CellAnchor& anchor) {
+    return CellPoint{static_cast<int32_t>(anchor.column + 1), PointsFromEmu(anchor.columnOffset),
+                     static_cast<int32_t>(anchor.row + 1), PointsFromEmu(anchor.rowOffset)};
 }
 
 ooxml::CellAnchor AnchorOf(const CellPoint& point) {
@@ -130,10 +139,19 @@ struct Corners {
     CellPoint to;
 };
 
+// The corners a shape that follows cells is held by are its own, as its file or its last move
+// gave them; those of a free one are the cells under it.
 Corners CornersOf(const WorksheetModel& sheet, const ShapeModel& shape) {
     const ShapeBounds bounds = BoundsOf(sheet, shape);
-    return Corners{bounds, CellPointAt(sheet, bounds.left, bounds.top),
-                   CellPointAt(sheet, bounds.left + bounds.width, bounds.top + bounds.height)};
+    Corners corners{bounds, CellPointAt(sheet, bounds.left, bounds.top),
+                    CellPointAt(sheet, bounds.left + bounds.width, bounds.top + bounds.height)};
+    if (shape.placement != xlFreeFloating) {
+        corners.from = shape.from;
+    }
+    if (shape.placement == xlMoveAndSize) {
+        corners.to = shape.to;
+    }
+    return corners;
 }
 
 ooxml::TextBoxShape TextBoxOf(const WorksheetModel& sheet, const ShapeModel& shape) {
@@ -185,14 +203,10 @@ ooxml::CellComment CommentOf(const WorksheetModel& sheet, const ShapeModel& shap
     out.top = corners.bounds.top;
     out.width = corners.bounds.width;
     out.height = corners.bounds.height;
-    out.anchor = ooxml::LegacyAnchor{static_cast<uint32_t>(corners.from.column - 1),
-                                     Pixels(corners.from.columnOffset),
-                                     static_cast<uint32_t>(corners.from.row - 1),
-                                     Pixels(corners.from.rowOffset),
-                                     static_cast<uint32_t>(corners.to.column - 1),
-                                     Pixels(corners.to.columnOffset),
-                                     static_cast<uint32_t>(corners.to.row - 1),
-                                     Pixels(corners.to.rowOffset)};
+    out.anchor = ooxml::LegacyAnchor{static_cast<uint32_t>(corners.from.column - 1), Pixels(corners.from.columnOffset),
+                                     static_cast<uint32_t>(corners.from.row - 1),    Pixels(corners.from.rowOffset),
+                                     static_cast<uint32_t>(corners.to.column - 1),   Pixels(corners.to.columnOffset),
+                                     static_cast<uint32_t>(corners.to.row - 1),      Pixels(corners.to.rowOffset)};
     out.moveWithCells = shape.placement != xlFreeFloating;
     out.sizeWithCells = shape.placement == xlMoveAndSize;
     out.fillRgb = RrggbbOf(RgbOf(shape.fill.color, colors));
@@ -230,6 +244,15 @@ void LoadTextBox(WorksheetModel& sheet, const ooxml::TextBoxShape& in) {
     LoadText(text, in.text);
     Place(sheet, *shape,
           ShapeBounds{PointsFromEmu(in.x), PointsFromEmu(in.y), PointsFromEmu(in.width), PointsFromEmu(in.height)});
+    // Excel places a shape that follows cells by the cells of its anchor; the transform is where
+    // its writer worked out that they were, with row heights and column widths of its own.
+    const bool ordered = in.to.row > in.from.row || (in.to.row == in.from.row && in.to.rowOffset >= in.from.rowOffset);
+    if (shape->placement == xlMove || (shape->placement == xlMoveAndSize && ordered)) {
+        shape->from = CellPointOf(in.from);
+        if (shape->placement == xlMoveAndSize) {
+            shape->to = CellPointOf(in.to);
+        }
+    }
     sheet.Shapes().AddOpened(std::move(shape));
 }
 
@@ -261,9 +284,8 @@ void ConvertShapes(const WorksheetModel& sheet, ooxml::SheetDocument& out) {
             out.textBoxes.push_back(TextBoxOf(sheet, *shape));
         }
     }
-    std::sort(out.comments.begin(), out.comments.end(), [](const auto& a, const auto& b) {
-        return std::pair(a.row, a.column) < std::pair(b.row, b.column);
-    });
+    std::sort(out.comments.begin(), out.comments.end(),
+              [](const auto& a, const auto& b) { return std::pair(a.row, a.column) < std::pair(b.row, b.column); });
 }
 
 void LoadShapes(WorksheetModel& sheet, const ooxml::SheetDocument& in) {
