@@ -2,6 +2,7 @@
 
 #include "ooxml/carried/carried_attributes.hpp"
 #include "ooxml/opc/relationships_reader.hpp"
+#include "ooxml/worksheet/anchor_mover.hpp"
 #include "ooxml/xml/xml_part_parser.hpp"
 
 #include <pugixml.hpp>
@@ -58,8 +59,16 @@ void MoveCarriedCells(WorkbookDocument& document, SheetDocument& sheet, const Ce
     if (document.carried) {
         for (const Relationship& relationship : moved->worksheet.relationships) {
             const auto part = document.carried->parts.find(relationship.target);
-            if (relationship.external || !HasRelationshipType(relationship, "table") ||
-                part == document.carried->parts.end()) {
+            if (relationship.external || part == document.carried->parts.end()) {
+                continue;
+            }
+            if (HasRelationshipType(relationship, "vmlDrawing")) {
+                if (std::optional<std::string> vml = MoveAnchorsInPart(part->second.bytes, move)) {
+                    document.movedParts[relationship.target] = std::move(*vml);
+                }
+                continue;
+            }
+            if (!HasRelationshipType(relationship, "table")) {
                 continue;
             }
             if (std::optional<std::string> table = MoveTableReferences(part->second.bytes, move)) {

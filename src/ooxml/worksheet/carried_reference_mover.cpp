@@ -3,6 +3,7 @@
 #include "ooxml/carried/carried_attributes.hpp"
 #include "ooxml/reference/cell_reference_reader.hpp"
 #include "ooxml/reference/column_name.hpp"
+#include "ooxml/worksheet/anchor_mover.hpp"
 #include "ooxml/xml/xml_node_access.hpp"
 #include "ooxml/xml/xml_part_parser.hpp"
 
@@ -109,54 +110,6 @@ private:
     const CellBlockMove& move_;
 };
 
-// The cell corners of a drawing anchor moved with the cells under them, as its object is set to
-// follow them (editAs): both corners ("twoCell", the default), the top left one with the object's
-// size kept ("oneCell"), or neither ("absolute"). An anchor whose cells were all deleted keeps its
-// place.
-void MoveAnchor(pugi::xml_node anchor, const CellBlockMove& move) {
-    const pugi::xml_node from = FirstChild(anchor, "from");
-    const std::string_view editAs = AttributeText(anchor, "editAs");
-    if (!from || editAs == "absolute") {
-        return;
-    }
-    const pugi::xml_node to = FirstChild(anchor, "to");
-    const auto number = [](pugi::xml_node corner, std::string_view element) {
-        return ParseUnsigned(FirstChild(corner, element).child_value()).value_or(0);
-    };
-    const CellBlock block{number(from, "row") + 1, number(from, "col") + 1,
-                          (to ? number(to, "row") : number(from, "row")) + 1,
-                          (to ? number(to, "col") : number(from, "col")) + 1};
-    const std::optional<CellBlock> moved = move(block);
-    if (!moved) {
-        return;
-    }
-    const auto set = [](pugi::xml_node corner, std::string_view element, uint32_t value) {
-        FirstChild(corner, element).text().set(value - 1);
-    };
-    set(from, "row", moved->firstRow);
-    set(from, "col", moved->firstColumn);
-    if (to && editAs == "oneCell") {
-        set(to, "row", block.lastRow + moved->firstRow - block.firstRow);
-        set(to, "col", block.lastColumn + moved->firstColumn - block.firstColumn);
-    } else if (to) {
-        set(to, "row", moved->lastRow);
-        set(to, "col", moved->lastColumn);
-    }
-}
-
-void MoveAnchors(pugi::xml_node node, const CellBlockMove& move) {
-    const std::string_view name = LocalName(node);
-    if (name == "twoCellAnchor" || name == "oneCellAnchor") {
-        MoveAnchor(node, move);
-        return;
-    }
-    for (pugi::xml_node child : node.children()) {
-        if (child.type() == pugi::node_element) {
-            MoveAnchors(child, move);
-        }
-    }
-}
-
 }  // namespace
 
 CarriedWorksheet MoveCarriedReferences(const CarriedWorksheet& carried, const CellBlockMove& move) {
@@ -170,15 +123,18 @@ CarriedWorksheet MoveCarriedReferences(const CarriedWorksheet& carried, const Ce
             continue;
         }
         if (mover.Move(document.document_element())) {
+            MoveAnchorsIn(document.document_element(), move);  // of form controls and embedded objects
             moved.worksheet.elements.push_back(
                 {element.slot, element.name, ElementMarkup(document.document_element())});
         }
     }
-    for (CarriedElement& anchor : moved.drawing.elements) {
-        pugi::xml_document document;
-        if (document.load_string(anchor.xml.c_str(), XmlPartParseOptions)) {
-            MoveAnchors(document.document_element(), move);
-            anchor.xml = ElementMarkup(document.document_element());
+    for (std::vector<CarriedElement>* shapes : {&moved.drawing.elements, &moved.legacyDrawing.elements}) {
+        for (CarriedElement& shape : *shapes) {
+            pugi::xml_document document;
+            if (document.load_string(shape.xml.c_str(), XmlPartParseOptions) &&
+                MoveAnchorsIn(document.document_element(), move)) {
+                shape.xml = ElementMarkup(document.document_element());
+            }
         }
     }
     return moved;

@@ -14,9 +14,9 @@ namespace ooxml {
 // The sheet's carried content with its cell references moved as the sheet's cells moved: the
 // ranges of conditional formats (also those of the extensions), data validation, hyperlinks, the
 // sheet's filter and sort, ignored errors and protected ranges, and the cells the carried drawing
-// objects are anchored to. A range whose cells were all deleted goes, and so does an element left
-// without ranges. The formulas inside the rules move with the workbook's other carried formulas
-// (RewriteCarriedFormulas).
+// objects, form controls, embedded objects and legacy shapes are anchored to (MoveAnchorsIn). A range whose cells were
+// all deleted goes, and so does an element left without ranges. The formulas inside the rules move with the workbook's
+// other carried formulas (RewriteCarriedFormulas).
 CarriedWorksheet MoveCarriedReferences(const CarriedWorksheet& carried, const CellBlockMove& move);
 
 // A table part (xl/tables/tableN.xml) with its range, and its filter's and sort's, moved; nothing

@@ -18,7 +18,6 @@ namespace {
 
 constexpr const char* Attachments = "realworld-excel/poi__ExcelWithAttachments.xlsm";
 
-
 bool IsNote(pugi::xml_node shape) {
     return std::string_view(shape.child("x:ClientData").attribute("ObjectType").value()) == "Note";
 }
@@ -136,6 +135,39 @@ TEST_F(LegacyDrawingSaveOpenTest, ButtonsKeepTheirIdsAndNotesTakeOthers) {
     EXPECT_EQ(idmaps, (std::set<std::string>{"1,2,3,5", "4,6"}));
     EXPECT_EQ(RunTool("validate-xlsx", PathOf("copy.xlsx")), 0);
     EXPECT_EQ(RunTool("check-xlsx", PathOf("copy.xlsx")), 0);
+}
+
+// A form control moves with the cells under it as its VML anchor says: this one moves but is not
+// sized with them (<x:SizeWithCells/>).
+TEST_F(LegacyDrawingSaveOpenTest, FormControlsMoveWithTheirCells) {
+    const std::string name = "realworld-excel/poi__45540_form_Footer.xlsx";
+    const auto anchorOf = [](const std::string& vml, const std::string& shape) {
+        const std::size_t at = vml.find("<x:Anchor>", vml.find(shape));
+        const std::size_t start = vml.find_first_of("0123456789", at);
+        return vml.substr(start, vml.find("</x:Anchor>", start) - start);
+    };
+    EXPECT_EQ(anchorOf(ooxml_test::ReadPackageParts(CorpusPath(name)).at("xl/drawings/vmlDrawing1.vml"), "CheckBox28"),
+              "5, 3, 7, 9, 5, 24, 8, 6");
+    auto workbook = OpenCorpus(name);
+    workbook->Worksheets(1)->Range("A1:A2")->EntireRow()->Insert();
+    const ooxml_test::PackageParts output = Saved(workbook, "moved.xlsx");
+    const std::vector<std::string> vml = VmlParts(output);
+    ASSERT_EQ(vml.size(), 1u);
+    EXPECT_EQ(anchorOf(output.at(vml[0]), "CheckBox28"), "5, 3, 9, 9, 5, 24, 10, 6");
+    EXPECT_EQ(RunTool("check-xlsx", PathOf("moved.xlsx")), 0);
+}
+
+// A form control's own anchor in the sheet moves with its cells too (moveWithCells, not sized).
+TEST_F(LegacyDrawingSaveOpenTest, FormControlAnchorsInTheSheetMoveWithTheirCells) {
+    auto workbook = OpenCorpus("realworld-excel/cxml__Other__Shapes__sheet-with-form-controls-input.xlsx");
+    workbook->Worksheets(1)->Range("A1")->EntireRow()->Insert();
+    const std::string sheet = Saved(workbook, "moved.xlsx").at("xl/worksheets/sheet1.xml");
+    const std::size_t control = sheet.find(R"(name="Option Button 1")");
+    ASSERT_NE(control, std::string::npos);
+    const std::string anchor = sheet.substr(control, sheet.find("</anchor>", control) - control);
+    EXPECT_NE(anchor.find("<xdr:row>3</xdr:row><xdr:rowOff>133350</xdr:rowOff></from>"), std::string::npos) << anchor;
+    EXPECT_NE(anchor.find("<xdr:row>4</xdr:row><xdr:rowOff>152400</xdr:rowOff></to>"), std::string::npos) << anchor;
+    EXPECT_EQ(RunTool("check-xlsx", PathOf("moved.xlsx")), 0);
 }
 
 }  // namespace
