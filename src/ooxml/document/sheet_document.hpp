@@ -25,22 +25,23 @@ enum class CellType : uint8_t {
 inline constexpr uint32_t NoFormula = UINT32_MAX;
 
 struct Cell {
-    uint32_t column = 1;            // 1-based
-    uint32_t format = 0;            // index into WorkbookDocument::formats
-    uint32_t string = 0;            // for String and Error
-    uint32_t formula = NoFormula;   // index into SheetDocument::formulas; the value is then cached
-    double number = 0.0;            // for Number and Boolean
+    uint32_t column = 1;           // 1-based
+    uint32_t format = 0;           // index into WorkbookDocument::formats
+    uint32_t string = 0;           // for String and Error
+    uint32_t formula = NoFormula;  // index into SheetDocument::formulas; the value is then cached
+    double number = 0.0;           // for Number and Boolean
     CellType type = CellType::Blank;
 };
 
 struct Row {
-    uint32_t index = 1;  // 1-based
-    std::optional<double> height;  // points; set = custom height
+    uint32_t index = 1;              // 1-based
+    std::optional<double> height;    // points; none = the sheet's default height
     std::optional<uint32_t> format;  // row format (customFormat)
     bool hidden = false;
-    std::vector<Cell> cells;  // ascending columns
-    uint8_t outlineLevel = 0;  // 0 (not grouped) .. 7
-    bool collapsed = false;    // the group the row closes is collapsed
+    std::vector<Cell> cells;    // ascending columns
+    uint8_t outlineLevel = 0;   // 0 (not grouped) .. 7
+    bool collapsed = false;     // the group the row closes is collapsed
+    bool customHeight = false;  // the height was set rather than fitted to the row's content
 
     bool HasSettings() const { return height || format || hidden || outlineLevel != 0 || collapsed; }
 };
@@ -87,13 +88,13 @@ struct SheetDocument {
     bool showGridLines = true;
     bool printGridLines = false;
     bool tabSelected = false;
-    bool showPageBreaks = false;  // the view shows automatic page breaks
+    bool showPageBreaks = false;               // the view shows automatic page breaks
     std::optional<double> defaultColumnWidth;  // characters, padding included, when the sheet gives one
     double defaultRowHeight = 15.0;
     std::string activeCell = "A1";
-    std::vector<ColumnRange> columns;  // ascending, not overlapping
-    std::vector<Row> rows;             // ascending; none when rowStream gives them
-    std::vector<std::string> formulas;  // without the leading "="
+    std::vector<ColumnRange> columns;             // ascending, not overlapping
+    std::vector<Row> rows;                        // ascending; none when rowStream gives them
+    std::vector<std::string> formulas;            // without the leading "="
     std::map<uint32_t, CellBlock> arrayFormulas;  // formula index -> the block an array formula fills
     std::vector<CellBlock> merges;
     std::vector<TextBoxShape> textBoxes;  // in z-order, bottom first

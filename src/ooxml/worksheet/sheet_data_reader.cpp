@@ -2,10 +2,10 @@
 
 #include "ooxml/package_error.hpp"
 #include "ooxml/properties/iso_date_time_reader.hpp"
-#include "ooxml/shared_strings/string_table_builder.hpp"
-#include "ooxml/styles/font_reader.hpp"
 #include "ooxml/reference/cell_reference_reader.hpp"
 #include "ooxml/reference/formula_reference_shifter.hpp"
+#include "ooxml/shared_strings/string_table_builder.hpp"
+#include "ooxml/styles/font_reader.hpp"
 #include "ooxml/worksheet/outline_level.hpp"
 #include "ooxml/xml/escaped_text_decoder.hpp"
 #include "ooxml/xml/xml_node_access.hpp"
@@ -127,8 +127,9 @@ private:
         if (row.index > MaxRowIndex) {
             ThrowCorrupt("Too many rows");
         }
-        if (customHeight && height) {
+        if (height) {
             row.height = std::clamp(*height, 0.0, MaxRowHeight);
+            row.customHeight = customHeight;
         }
         if (customFormat) {
             row.format = format;

@@ -251,8 +251,8 @@ private:
     void WriteRow(const RowView& view) {
         const Row& row = view.row;
         char digits[12];
-        const std::string_view rowNumber(digits, static_cast<std::size_t>(
-                                                     std::to_chars(digits, digits + sizeof digits, row.index).ptr - digits));
+        const std::string_view rowNumber(
+            digits, static_cast<std::size_t>(std::to_chars(digits, digits + sizeof digits, row.index).ptr - digits));
         xml_.StartElement("row");
         xml_.AttributeVerbatim("r", rowNumber);
         if (row.format) {
@@ -262,7 +262,9 @@ private:
         }
         if (row.height) {
             xml_.Attribute("ht", *row.height);
-            xml_.Attribute("customHeight", "1");
+            if (row.customHeight) {
+                xml_.Attribute("customHeight", "1");
+            }
         }
         if (row.hidden) {
             xml_.Attribute("hidden", "1");
@@ -324,33 +326,33 @@ private:
             WriteFormula(cell.formula, view);
         }
         switch (cell.type) {
-        case CellType::Blank:
-            break;
-        case CellType::Number:
-            xml_.StartElement("v");
-            if (unrepresentable) {
-                xml_.Text("#NUM!");
-            } else {
-                xml_.Number(cell.number);
-            }
-            xml_.EndElement();
-            break;
-        case CellType::Boolean:
-            xml_.Element("v", cell.number != 0.0 ? "1" : "0");
-            break;
-        case CellType::String:
-            if (hasFormula) {
-                xml_.Element("v", StringOf(cell, reference).text);
-            } else {
-                CheckString(cell, reference);
+            case CellType::Blank:
+                break;
+            case CellType::Number:
                 xml_.StartElement("v");
-                xml_.Number(sharedStrings_.positions[cell.string]);
+                if (unrepresentable) {
+                    xml_.Text("#NUM!");
+                } else {
+                    xml_.Number(cell.number);
+                }
                 xml_.EndElement();
-            }
-            break;
-        case CellType::Error:
-            xml_.Element("v", StringOf(cell, reference).text);
-            break;
+                break;
+            case CellType::Boolean:
+                xml_.Element("v", cell.number != 0.0 ? "1" : "0");
+                break;
+            case CellType::String:
+                if (hasFormula) {
+                    xml_.Element("v", StringOf(cell, reference).text);
+                } else {
+                    CheckString(cell, reference);
+                    xml_.StartElement("v");
+                    xml_.Number(sharedStrings_.positions[cell.string]);
+                    xml_.EndElement();
+                }
+                break;
+            case CellType::Error:
+                xml_.Element("v", StringOf(cell, reference).text);
+                break;
         }
         xml_.EndElement();
     }

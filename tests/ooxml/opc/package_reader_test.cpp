@@ -263,7 +263,10 @@ TEST(PackageReaderTest, ReadsRowsColumnsMergesViewsAndSheetOptions) {
     EXPECT_EQ(sheet.columns[2], (ooxml::ColumnRange{8, 16384, 9.140625, 0u, false, false}));
     ASSERT_EQ(sheet.rows.size(), 3u);
     EXPECT_EQ(sheet.rows[0].height, 30.0);
-    EXPECT_FALSE(sheet.rows[1].height.has_value());  // a height Excel fitted to the content
+    EXPECT_TRUE(sheet.rows[0].customHeight);
+    // A height Excel fitted to the content: the row is shown at it until it is fitted again.
+    EXPECT_EQ(sheet.rows[1].height, 21.0);
+    EXPECT_FALSE(sheet.rows[1].customHeight);
     EXPECT_EQ(sheet.rows[2].index, 5u);
     EXPECT_TRUE(sheet.rows[2].hidden);
     EXPECT_EQ(sheet.rows[2].format, 0u);

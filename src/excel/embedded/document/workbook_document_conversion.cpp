@@ -149,6 +149,7 @@ void ConvertRow(const RowData& row, const WorksheetModel& sheet, StringNumbering
     const OpenedFormulaTable& opened = sheet.Book().OpenedFormulas();
     out.index = static_cast<uint32_t>(row.index);
     out.height = row.HasCustomHeight() ? std::optional(row.height) : std::nullopt;
+    out.customHeight = row.HasCustomHeight() && !row.fittedHeight;
     out.format = row.hasFormat ? std::optional(row.format) : std::nullopt;
     out.hidden = row.hidden;
     out.outlineLevel = row.outlineLevel;
@@ -330,6 +331,7 @@ void LoadSheet(WorksheetModel& sheet, const ooxml::SheetDocument& in, const std:
     for (const ooxml::Row& inRow : in.rows) {
         RowData& row = sheet.Cells().EnsureRow(static_cast<int32_t>(inRow.index));
         row.height = inRow.height.value_or(-1.0);
+        row.fittedHeight = inRow.height && !inRow.customHeight;
         row.hasFormat = inRow.format.has_value();
         row.format = inRow.format ? formatId(*inRow.format) : 0;
         row.hidden = inRow.hidden;

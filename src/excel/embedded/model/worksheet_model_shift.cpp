@@ -180,6 +180,7 @@ void WorksheetModel::copyFormatsIntoInserted(const BlockShift& shift) {
                 row.hasFormat = copy.hasFormat;
                 row.format = copy.format;
                 row.height = copy.height;
+                row.fittedHeight = copy.fittedHeight;
             }
             for (const Cell& cell : copy.CellsIn(shift.bandFirst, shift.bandLast)) {
                 const uint32_t shown = formatUnderneath(row, cell.column);

@@ -16,6 +16,8 @@ struct RowData {
     int32_t index = 1;
     uint32_t format = 0;
     double height = -1.0;  // points; negative = the sheet's default height
+    // The height is the one an opened file gave a row Excel fitted to its content, not one set.
+    bool fittedHeight = false;
     bool hasFormat = false;
     bool hidden = false;
     uint8_t outlineLevel = 0;  // 0 (not grouped) .. 7

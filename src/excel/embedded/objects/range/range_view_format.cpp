@@ -57,9 +57,8 @@ void RangeView::SetNumberFormatLocal(const std::string& format) {
 }
 
 Variant RangeView::HorizontalAlignment() {
-    return readFormat([](const CellFormat& format) {
-        return Variant(horizontalAlignments[format.alignment.horizontal]);
-    });
+    return readFormat(
+        [](const CellFormat& format) { return Variant(horizontalAlignments[format.alignment.horizontal]); });
 }
 
 void RangeView::SetHorizontalAlignment(int32_t alignment) {
@@ -72,9 +71,7 @@ void RangeView::SetHorizontalAlignment(int32_t alignment) {
 }
 
 Variant RangeView::VerticalAlignment() {
-    return readFormat([](const CellFormat& format) {
-        return Variant(verticalAlignments[format.alignment.vertical]);
-    });
+    return readFormat([](const CellFormat& format) { return Variant(verticalAlignments[format.alignment.vertical]); });
 }
 
 void RangeView::SetVerticalAlignment(int32_t alignment) {
@@ -250,12 +247,14 @@ void RangeView::SetRowHeight(double height) {
             sheet.Settings().defaultRowHeight = height;
             for (RowData& row : sheet.Cells().Rows()) {
                 row.height = -1.0;
+                row.fittedHeight = false;
             }
             continue;
         }
         const size_t firstRow = sheet.Cells().EnsureRows(area.top, area.bottom);
         for (size_t i = firstRow; i < firstRow + static_cast<size_t>(area.Rows()); ++i) {
             sheet.Cells().Rows()[i].height = height;
+            sheet.Cells().Rows()[i].fittedHeight = false;
         }
     }
     sheet.RowHeightsChanged();
