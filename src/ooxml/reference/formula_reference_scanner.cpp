@@ -1,6 +1,8 @@
 #include "ooxml/reference/formula_reference_scanner.hpp"
 
+#include <array>
 #include <optional>
+#include <utility>
 
 namespace ooxml {
 
@@ -19,42 +21,41 @@ bool IsNameCharacter(char c) {
            static_cast<unsigned char>(c) >= 0x80;
 }
 
-// "$AB" or "C": a column with its marker; nothing when the text is no column of the sheet.
-std::optional<ReferenceCorner> ParseColumn(std::string_view text) {
-    ReferenceCorner corner;
+// One coordinate of a reference with its "$" marker: a column in letters ("$AB"), counted in base
+// 26, or a row in digits ("7"); nothing when the text is no coordinate within the sheet.
+struct Coordinate {
+    uint32_t value = 0;
+    bool absolute = false;
+};
+
+std::optional<Coordinate> ParseCoordinate(std::string_view text, bool column) {
+    Coordinate coordinate;
     if (!text.empty() && text.front() == '$') {
-        corner.columnAbsolute = true;
+        coordinate.absolute = true;
         text.remove_prefix(1);
     }
-    if (text.empty() || text.size() > 3) {
+    if (text.empty() || text.size() > (column ? 3u : 7u)) {
         return std::nullopt;
     }
     for (const char c : text) {
-        if (!IsLetter(c)) {
+        if (column ? !IsLetter(c) : !IsDigit(c)) {
             return std::nullopt;
         }
-        corner.column = corner.column * 26 + static_cast<uint32_t>((c | 0x20) - 'a' + 1);
+        coordinate.value = column ? coordinate.value * 26 + static_cast<uint32_t>((c | 0x20) - 'a' + 1)
+                                  : coordinate.value * 10 + static_cast<uint32_t>(c - '0');
     }
-    return corner.column <= MaxColumnIndex ? std::optional(corner) : std::nullopt;
+    const uint32_t limit = column ? MaxColumnIndex : MaxRowIndex;
+    return coordinate.value >= 1 && coordinate.value <= limit ? std::optional(coordinate) : std::nullopt;
 }
 
-// "$12" or "7": a row with its marker.
+std::optional<ReferenceCorner> ParseColumn(std::string_view text) {
+    const std::optional<Coordinate> column = ParseCoordinate(text, true);
+    return column ? std::optional(ReferenceCorner{0, column->value, false, column->absolute}) : std::nullopt;
+}
+
 std::optional<ReferenceCorner> ParseRow(std::string_view text) {
-    ReferenceCorner corner;
-    if (!text.empty() && text.front() == '$') {
-        corner.rowAbsolute = true;
-        text.remove_prefix(1);
-    }
-    if (text.empty() || text.size() > 7) {
-        return std::nullopt;
-    }
-    for (const char c : text) {
-        if (!IsDigit(c)) {
-            return std::nullopt;
-        }
-        corner.row = corner.row * 10 + static_cast<uint32_t>(c - '0');
-    }
-    return corner.row >= 1 && corner.row <= MaxRowIndex ? std::optional(corner) : std::nullopt;
+    const std::optional<Coordinate> row = ParseCoordinate(text, false);
+    return row ? std::optional(ReferenceCorner{row->value, 0, row->absolute, false}) : std::nullopt;
 }
 
 // "$B$7": both.
@@ -185,19 +186,19 @@ private:
         if (!secondText) {
             return std::nullopt;
         }
-        const auto columns = std::pair(ParseColumn(firstText), ParseColumn(*secondText));
-        if (columns.first && columns.second) {
-            reference.kind = FormulaReference::Kind::Columns;
-            reference.first = *columns.first;
-            reference.last = *columns.second;
-            return std::pair(reference, secondEnd);
-        }
-        const auto rows = std::pair(ParseRow(firstText), ParseRow(*secondText));
-        if (rows.first && rows.second) {
-            reference.kind = FormulaReference::Kind::Rows;
-            reference.first = *rows.first;
-            reference.last = *rows.second;
-            return std::pair(reference, secondEnd);
+        // "B:C" or "3:5".
+        using Parse = std::optional<ReferenceCorner> (*)(std::string_view);
+        const std::array<std::pair<FormulaReference::Kind, Parse>, 2> wholeLines{
+            {{FormulaReference::Kind::Columns, &ParseColumn}, {FormulaReference::Kind::Rows, &ParseRow}}};
+        for (const auto& [kind, parse] : wholeLines) {
+            const std::optional<ReferenceCorner> first = parse(firstText);
+            const std::optional<ReferenceCorner> last = parse(*secondText);
+            if (first && last) {
+                reference.kind = kind;
+                reference.first = *first;
+                reference.last = *last;
+                return std::pair(reference, secondEnd);
+            }
         }
         return std::nullopt;
     }
