@@ -20,32 +20,45 @@ std::string FreshPath() {
            ".xlsx";
 }
 
-// A relationships part with the one relationship rId1, of an officeDocument relationship type.
-std::string SingleRelationship(const std::string& type, const std::string& target) {
-    return R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)"
-           R"(<Relationships xmlns="http://schemas.openxmlformats.org/package/2006/relationships">)"
-           R"(<Relationship Id="rId1" Type="http://schemas.openxmlformats.org/officeDocument/2006/relationships/)" +
-           type + R"(" Target=")" + target + R"("/></Relationships>)";
+}  // namespace
+
+std::string ContentTypesPart(const std::string& entries) {
+    return std::string(XmlDeclaration) +
+           R"(<Types xmlns="http://schemas.openxmlformats.org/package/2006/content-types">)"
+           R"(<Default Extension="rels" ContentType="application/vnd.openxmlformats-package.relationships+xml"/>)"
+           R"(<Default Extension="xml" ContentType="application/xml"/>)" +
+           entries + "</Types>";
 }
 
-}  // namespace
+std::string RelationshipsPart(const std::vector<std::string>& relationships) {
+    std::string xml = std::string(XmlDeclaration) +
+                      R"(<Relationships xmlns="http://schemas.openxmlformats.org/package/2006/relationships">)";
+    for (const std::string& relationship : relationships) {
+        xml += relationship;
+    }
+    return xml + "</Relationships>";
+}
+
+std::string Relationship(const std::string& id, const std::string& type, const std::string& target, bool external) {
+    const std::string fullType = type.find("://") == std::string::npos
+                                     ? "http://schemas.openxmlformats.org/officeDocument/2006/relationships/" + type
+                                     : type;
+    return "<Relationship Id=\"" + id + "\" Type=\"" + fullType + "\" Target=\"" + target + "\"" +
+           (external ? " TargetMode=\"External\"" : "") + "/>";
+}
 
 PackageParts MinimalPackage(const std::string& sheetContent) {
     return {
         {"[Content_Types].xml",
-         R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)"
-         R"(<Types xmlns="http://schemas.openxmlformats.org/package/2006/content-types">)"
-         R"(<Default Extension="rels" ContentType="application/vnd.openxmlformats-package.relationships+xml"/>)"
-         R"(<Default Extension="xml" ContentType="application/xml"/>)"
-         R"(<Override PartName="/xl/workbook.xml" ContentType="application/vnd.openxmlformats-officedocument.spreadsheetml.sheet.main+xml"/>)"
-         R"(<Override PartName="/xl/worksheets/sheet1.xml" ContentType="application/vnd.openxmlformats-officedocument.spreadsheetml.worksheet+xml"/>)"
-         R"(</Types>)"},
-        {"_rels/.rels", SingleRelationship("officeDocument", "xl/workbook.xml")},
+         ContentTypesPart(
+             R"(<Override PartName="/xl/workbook.xml" ContentType="application/vnd.openxmlformats-officedocument.spreadsheetml.sheet.main+xml"/>)"
+             R"(<Override PartName="/xl/worksheets/sheet1.xml" ContentType="application/vnd.openxmlformats-officedocument.spreadsheetml.worksheet+xml"/>)")},
+        {"_rels/.rels", RelationshipsPart({Relationship("rId1", "officeDocument", "xl/workbook.xml")})},
         {"xl/workbook.xml",
          R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)"
          R"(<workbook xmlns="http://schemas.openxmlformats.org/spreadsheetml/2006/main" xmlns:r="http://schemas.openxmlformats.org/officeDocument/2006/relationships">)"
          R"(<sheets><sheet name="Sheet1" sheetId="1" r:id="rId1"/></sheets></workbook>)"},
-        {"xl/_rels/workbook.xml.rels", SingleRelationship("worksheet", "worksheets/sheet1.xml")},
+        {"xl/_rels/workbook.xml.rels", RelationshipsPart({Relationship("rId1", "worksheet", "worksheets/sheet1.xml")})},
         {"xl/worksheets/sheet1.xml",
          R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)"
          R"(<worksheet xmlns="http://schemas.openxmlformats.org/spreadsheetml/2006/main" xmlns:r="http://schemas.openxmlformats.org/officeDocument/2006/relationships">)" +
@@ -56,11 +69,8 @@ PackageParts MinimalPackage(const std::string& sheetContent) {
 PackageParts MinimalPackageWithStyles(const std::string& sheetContent, const std::string& styles) {
     PackageParts parts = MinimalPackage(sheetContent);
     parts["xl/styles.xml"] = styles;
-    parts["xl/_rels/workbook.xml.rels"] =
-        R"(<Relationships xmlns="http://schemas.openxmlformats.org/package/2006/relationships">)"
-        R"(<Relationship Id="rId1" Type="http://schemas.openxmlformats.org/officeDocument/2006/relationships/worksheet" Target="worksheets/sheet1.xml"/>)"
-        R"(<Relationship Id="rId2" Type="http://schemas.openxmlformats.org/officeDocument/2006/relationships/styles" Target="styles.xml"/>)"
-        R"(</Relationships>)";
+    parts["xl/_rels/workbook.xml.rels"] = RelationshipsPart(
+        {Relationship("rId1", "worksheet", "worksheets/sheet1.xml"), Relationship("rId2", "styles", "styles.xml")});
     return parts;
 }
 

@@ -11,11 +11,7 @@ using namespace excel;
 
 namespace {
 
-std::string Relationship(const std::string& id, const std::string& type, const std::string& target) {
-    return R"(<Relationship Id=")" + id +
-           R"(" Type="http://schemas.openxmlformats.org/officeDocument/2006/relationships/)" + type + R"(" Target=")" +
-           target + R"("/>)";
-}
+using ooxml_test::Relationship;
 
 // Two sheets: "Report", whose rules and links refer to its own cells and to "Lists", and "Lists".
 ooxml_test::PackageParts TwoSheets() {
@@ -31,9 +27,8 @@ ooxml_test::PackageParts TwoSheets() {
         R"(<workbook xmlns="http://schemas.openxmlformats.org/spreadsheetml/2006/main" xmlns:r="http://schemas.openxmlformats.org/officeDocument/2006/relationships">)"
         R"(<sheets><sheet name="Report" sheetId="1" r:id="rId1"/><sheet name="Lists" sheetId="2" r:id="rId2"/></sheets></workbook>)";
     parts["xl/_rels/workbook.xml.rels"] =
-        R"(<Relationships xmlns="http://schemas.openxmlformats.org/package/2006/relationships">)" +
-        Relationship("rId1", "worksheet", "worksheets/sheet1.xml") +
-        Relationship("rId2", "worksheet", "worksheets/sheet2.xml") + "</Relationships>";
+        ooxml_test::RelationshipsPart({Relationship("rId1", "worksheet", "worksheets/sheet1.xml"),
+                                       Relationship("rId2", "worksheet", "worksheets/sheet2.xml")});
     parts["xl/worksheets/sheet2.xml"] =
         R"(<worksheet xmlns="http://schemas.openxmlformats.org/spreadsheetml/2006/main"><sheetData>)"
         R"(<row r="1"><c r="A1" t="inlineStr"><is><t>one</t></is></c></row></sheetData></worksheet>)";

@@ -17,25 +17,16 @@ using ooxml_test::PackageParts;
 
 namespace {
 
-constexpr const char* Declaration = R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)";
+constexpr const char* Declaration = ooxml_test::XmlDeclaration;
 constexpr const char* MainNamespaces =
     R"(xmlns="http://schemas.openxmlformats.org/spreadsheetml/2006/main" )"
     R"(xmlns:r="http://schemas.openxmlformats.org/officeDocument/2006/relationships")";
 const std::string Type = "http://schemas.openxmlformats.org/officeDocument/2006/relationships/";
 
-std::string Relationships(const std::vector<std::string>& relationships) {
-    std::string xml = std::string(Declaration) +
-                      R"(<Relationships xmlns="http://schemas.openxmlformats.org/package/2006/relationships">)";
-    for (const std::string& relationship : relationships) {
-        xml += relationship;
-    }
-    return xml + "</Relationships>";
-}
+using ooxml_test::Relationship;
 
-std::string Relationship(const std::string& id, const std::string& type, const std::string& target,
-                         bool external = false) {
-    return "<Relationship Id=\"" + id + "\" Type=\"" + Type + type + "\" Target=\"" + target + "\"" +
-           (external ? " TargetMode=\"External\"" : "") + "/>";
+std::string Relationships(const std::vector<std::string>& relationships) {
+    return ooxml_test::RelationshipsPart(relationships);
 }
 
 // A workbook of two worksheets around a chart sheet, the first with a table, a picture beside a
@@ -43,11 +34,7 @@ std::string Relationship(const std::string& id, const std::string& type, const s
 // workbook; the workbook's own theme.
 PackageParts RichPackage() {
     PackageParts parts;
-    parts["[Content_Types].xml"] =
-        std::string(Declaration) +
-        R"(<Types xmlns="http://schemas.openxmlformats.org/package/2006/content-types">)"
-        R"(<Default Extension="rels" ContentType="application/vnd.openxmlformats-package.relationships+xml"/>)"
-        R"(<Default Extension="xml" ContentType="application/xml"/>)"
+    parts["[Content_Types].xml"] = ooxml_test::ContentTypesPart(
         R"(<Default Extension="png" ContentType="image/png"/>)"
         R"(<Default Extension="bin" ContentType="application/vnd.openxmlformats-officedocument.spreadsheetml.printerSettings"/>)"
         R"(<Override PartName="/xl/workbook.xml" ContentType="application/vnd.openxmlformats-officedocument.spreadsheetml.sheet.main+xml"/>)"
@@ -57,8 +44,7 @@ PackageParts RichPackage() {
         R"(<Override PartName="/xl/tables/table1.xml" ContentType="application/vnd.openxmlformats-officedocument.spreadsheetml.table+xml"/>)"
         R"(<Override PartName="/xl/drawings/drawing1.xml" ContentType="application/vnd.openxmlformats-officedocument.drawing+xml"/>)"
         R"(<Override PartName="/xl/externalLinks/externalLink1.xml" ContentType="application/vnd.openxmlformats-officedocument.spreadsheetml.externalLink+xml"/>)"
-        R"(<Override PartName="/xl/theme/theme1.xml" ContentType="application/vnd.openxmlformats-officedocument.theme+xml"/>)"
-        R"(</Types>)";
+        R"(<Override PartName="/xl/theme/theme1.xml" ContentType="application/vnd.openxmlformats-officedocument.theme+xml"/>)");
     parts["_rels/.rels"] = Relationships({Relationship("rId1", "officeDocument", "xl/workbook.xml")});
     parts["xl/workbook.xml"] =
         std::string(Declaration) + "<workbook " + MainNamespaces +
@@ -73,11 +59,12 @@ PackageParts RichPackage() {
         R"(<definedNames><definedName name="Rate">[1]Rates!$A$1</definedName>)"
         R"(<definedName name="_xlnm.Print_Area" localSheetId="1">Chart!$A$1</definedName></definedNames>)"
         R"(<calcPr calcId="191029" iterate="1"/><extLst><ext uri="{X}" xmlns:x15="http://schemas.microsoft.com/office/spreadsheetml/2010/11/main"><x15:workbookPr chartTrackingRefBase="1"/></ext></extLst></workbook>)";
-    parts["xl/_rels/workbook.xml.rels"] = Relationships(
-        {Relationship("rId1", "worksheet", "worksheets/sheet1.xml"), Relationship("rId2", "chartsheet", "chartsheets/sheet1.xml"),
-         Relationship("rId3", "worksheet", "worksheets/sheet2.xml"),
-         Relationship("rId4", "externalLink", "externalLinks/externalLink1.xml"),
-         Relationship("rId5", "theme", "theme/theme1.xml")});
+    parts["xl/_rels/workbook.xml.rels"] =
+        Relationships({Relationship("rId1", "worksheet", "worksheets/sheet1.xml"),
+                       Relationship("rId2", "chartsheet", "chartsheets/sheet1.xml"),
+                       Relationship("rId3", "worksheet", "worksheets/sheet2.xml"),
+                       Relationship("rId4", "externalLink", "externalLinks/externalLink1.xml"),
+                       Relationship("rId5", "theme", "theme/theme1.xml")});
     parts["xl/worksheets/sheet1.xml"] =
         std::string(Declaration) + "<worksheet " + MainNamespaces +
         R"( xmlns:x14ac="http://schemas.microsoft.com/office/spreadsheetml/2009/9/ac">)"
@@ -93,11 +80,11 @@ PackageParts RichPackage() {
         R"(<pageMargins left="0.25" right="0.25" top="0.75" bottom="0.75" header="0.3" footer="0.3"/>)"
         R"(<pageSetup paperSize="9" orientation="landscape" r:id="rId1"/><headerFooter><oddHeader>&amp;CReport</oddHeader></headerFooter>)"
         R"(<drawing r:id="rId4"/><tableParts count="1"><tablePart r:id="rId2"/></tableParts></worksheet>)";
-    parts["xl/worksheets/_rels/sheet1.xml.rels"] = Relationships(
-        {Relationship("rId1", "printerSettings", "../printerSettings/printerSettings1.bin"),
-         Relationship("rId2", "table", "../tables/table1.xml"),
-         Relationship("rId3", "hyperlink", "https://example.com/pens", true),
-         Relationship("rId4", "drawing", "../drawings/drawing1.xml")});
+    parts["xl/worksheets/_rels/sheet1.xml.rels"] =
+        Relationships({Relationship("rId1", "printerSettings", "../printerSettings/printerSettings1.bin"),
+                       Relationship("rId2", "table", "../tables/table1.xml"),
+                       Relationship("rId3", "hyperlink", "https://example.com/pens", true),
+                       Relationship("rId4", "drawing", "../drawings/drawing1.xml")});
     parts["xl/printerSettings/printerSettings1.bin"] = std::string("\x01\x00\x02printer", 10);
     parts["xl/tables/table1.xml"] =
         std::string(Declaration) +
@@ -117,7 +104,8 @@ PackageParts RichPackage() {
         R"(<xdr:sp macro="" textlink=""><xdr:nvSpPr><xdr:cNvPr id="3" name="TextBox 2"/><xdr:cNvSpPr txBox="1"/></xdr:nvSpPr>)"
         R"(<xdr:spPr><a:xfrm><a:off x="0" y="0"/><a:ext cx="1000" cy="1000"/></a:xfrm></xdr:spPr>)"
         R"(<xdr:txBody><a:bodyPr/><a:lstStyle/><a:p><a:r><a:t>Note</a:t></a:r></a:p></xdr:txBody></xdr:sp><xdr:clientData/></xdr:twoCellAnchor></xdr:wsDr>)";
-    parts["xl/drawings/_rels/drawing1.xml.rels"] = Relationships({Relationship("rId1", "image", "../media/image1.png")});
+    parts["xl/drawings/_rels/drawing1.xml.rels"] =
+        Relationships({Relationship("rId1", "image", "../media/image1.png")});
     parts["xl/media/image1.png"] = std::string("\x89PNG\r\n\x1a\n\0\0fake", 14);
     parts["xl/chartsheets/sheet1.xml"] =
         std::string(Declaration) +
@@ -270,16 +258,21 @@ TEST(CarriedContentRoundTrip, ContentTypesCoverEveryKeptPart) {
     const PackageParts output = Resaved(RichPackage());
     const std::string& types = output.at("[Content_Types].xml");
     EXPECT_NE(types.find(R"(<Default Extension="png" ContentType="image/png"/>)"), std::string::npos);
-    EXPECT_NE(types.find(R"(Extension="bin" ContentType="application/vnd.openxmlformats-officedocument.spreadsheetml.printerSettings")"),
-              std::string::npos);
-    EXPECT_NE(types.find(R"(<Override PartName="/xl/chartsheets/sheet1.xml" ContentType="application/vnd.openxmlformats-officedocument.spreadsheetml.chartsheet+xml"/>)"),
-              std::string::npos);
+    EXPECT_NE(
+        types.find(
+            R"(Extension="bin" ContentType="application/vnd.openxmlformats-officedocument.spreadsheetml.printerSettings")"),
+        std::string::npos);
+    EXPECT_NE(
+        types.find(
+            R"(<Override PartName="/xl/chartsheets/sheet1.xml" ContentType="application/vnd.openxmlformats-officedocument.spreadsheetml.chartsheet+xml"/>)"),
+        std::string::npos);
 }
 
 TEST(CarriedContentRoundTrip, TheCalculationChainIsLeftForExcelToRebuild) {
     PackageParts input = RichPackage();
-    input["xl/calcChain.xml"] = std::string(Declaration) +
-                                R"(<calcChain xmlns="http://schemas.openxmlformats.org/spreadsheetml/2006/main"><c r="B3" i="1"/></calcChain>)";
+    input["xl/calcChain.xml"] =
+        std::string(Declaration) +
+        R"(<calcChain xmlns="http://schemas.openxmlformats.org/spreadsheetml/2006/main"><c r="B3" i="1"/></calcChain>)";
     input["xl/_rels/workbook.xml.rels"].insert(input["xl/_rels/workbook.xml.rels"].find("</Relationships>"),
                                                Relationship("rId9", "calcChain", "calcChain.xml"));
     const PackageParts output = Resaved(input);
@@ -327,9 +320,10 @@ TEST(CarriedContentRoundTrip, DocumentPropertiesKeepWhatTheWriterDoesNotSet) {
         R"(xmlns:vt="http://schemas.openxmlformats.org/officeDocument/2006/docPropsVTypes"><Application>Microsoft Excel</Application>)"
         R"(<Company>Acme</Company><Manager>Carol</Manager><AppVersion>16.0300</AppVersion></Properties>)";
     std::string& relationships = input["_rels/.rels"];
-    relationships.insert(relationships.find("</Relationships>"),
-                         R"(<Relationship Id="rId2" Type="http://schemas.openxmlformats.org/package/2006/relationships/metadata/core-properties" Target="docProps/core.xml"/>)"
-                         R"(<Relationship Id="rId3" Type="http://schemas.openxmlformats.org/officeDocument/2006/relationships/extended-properties" Target="docProps/app.xml"/>)");
+    relationships.insert(
+        relationships.find("</Relationships>"),
+        R"(<Relationship Id="rId2" Type="http://schemas.openxmlformats.org/package/2006/relationships/metadata/core-properties" Target="docProps/core.xml"/>)"
+        R"(<Relationship Id="rId3" Type="http://schemas.openxmlformats.org/officeDocument/2006/relationships/extended-properties" Target="docProps/app.xml"/>)");
     const PackageParts output = Resaved(input);
     const std::string& core = output.at("docProps/core.xml");
     for (const char* kept : {"<dc:title>Budget</dc:title>", "<dc:creator>Ann</dc:creator>",

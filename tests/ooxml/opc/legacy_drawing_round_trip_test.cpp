@@ -20,21 +20,14 @@ using ooxml_test::PackageParts;
 
 namespace {
 
-constexpr const char* Declaration = R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)";
+constexpr const char* Declaration = ooxml_test::XmlDeclaration;
 const std::string Type = "http://schemas.openxmlformats.org/officeDocument/2006/relationships/";
 constexpr const char* VmlNamespaces =
     R"(xmlns:v="urn:schemas-microsoft-com:vml" xmlns:o="urn:schemas-microsoft-com:office:office" )"
     R"(xmlns:x="urn:schemas-microsoft-com:office:excel")";
 
-std::string Relationships(const std::string& relationships) {
-    return std::string(Declaration) +
-           R"(<Relationships xmlns="http://schemas.openxmlformats.org/package/2006/relationships">)" + relationships +
-           "</Relationships>";
-}
-
-std::string Relationship(const std::string& id, const std::string& type, const std::string& target) {
-    return "<Relationship Id=\"" + id + "\" Type=\"" + type + "\" Target=\"" + target + "\"/>";
-}
+using ooxml_test::Relationship;
+using ooxml_test::RelationshipsPart;
 
 std::string Worksheet(const std::string& content) {
     return std::string(Declaration) +
@@ -61,11 +54,7 @@ constexpr const char* IconShape =
 // in its legacy drawing; the second with a button alone in a drawing of block 2, kept whole.
 PackageParts NotesBesideControls() {
     PackageParts parts;
-    parts["[Content_Types].xml"] =
-        std::string(Declaration) +
-        R"(<Types xmlns="http://schemas.openxmlformats.org/package/2006/content-types">)"
-        R"(<Default Extension="rels" ContentType="application/vnd.openxmlformats-package.relationships+xml"/>)"
-        R"(<Default Extension="xml" ContentType="application/xml"/>)"
+    parts["[Content_Types].xml"] = ooxml_test::ContentTypesPart(
         R"(<Default Extension="vml" ContentType="application/vnd.openxmlformats-officedocument.vmlDrawing"/>)"
         R"(<Default Extension="emf" ContentType="image/x-emf"/>)"
         R"(<Default Extension="bin" ContentType="application/vnd.openxmlformats-officedocument.oleObject"/>)"
@@ -73,28 +62,27 @@ PackageParts NotesBesideControls() {
         R"(<Override PartName="/xl/worksheets/sheet1.xml" ContentType="application/vnd.openxmlformats-officedocument.spreadsheetml.worksheet+xml"/>)"
         R"(<Override PartName="/xl/worksheets/sheet2.xml" ContentType="application/vnd.openxmlformats-officedocument.spreadsheetml.worksheet+xml"/>)"
         R"(<Override PartName="/xl/comments1.xml" ContentType="application/vnd.openxmlformats-officedocument.spreadsheetml.comments+xml"/>)"
-        R"(<Override PartName="/xl/ctrlProps/ctrlProp1.xml" ContentType="application/vnd.ms-excel.controlproperties+xml"/>)"
-        R"(</Types>)";
-    parts["_rels/.rels"] = Relationships(Relationship("rId1", Type + "officeDocument", "xl/workbook.xml"));
+        R"(<Override PartName="/xl/ctrlProps/ctrlProp1.xml" ContentType="application/vnd.ms-excel.controlproperties+xml"/>)");
+    parts["_rels/.rels"] = RelationshipsPart({Relationship("rId1", "officeDocument", "xl/workbook.xml")});
     parts["xl/workbook.xml"] =
         std::string(Declaration) +
         R"(<workbook xmlns="http://schemas.openxmlformats.org/spreadsheetml/2006/main" )"
         R"(xmlns:r="http://schemas.openxmlformats.org/officeDocument/2006/relationships">)"
         R"(<sheets><sheet name="Form" sheetId="1" r:id="rId1"/><sheet name="Buttons" sheetId="2" r:id="rId2"/></sheets></workbook>)";
     parts["xl/_rels/workbook.xml.rels"] =
-        Relationships(Relationship("rId1", Type + "worksheet", "worksheets/sheet1.xml") +
-                      Relationship("rId2", Type + "worksheet", "worksheets/sheet2.xml"));
+        RelationshipsPart({Relationship("rId1", "worksheet", "worksheets/sheet1.xml"),
+                           Relationship("rId2", "worksheet", "worksheets/sheet2.xml")});
     parts["xl/worksheets/sheet1.xml"] = Worksheet(
         R"(<sheetData><row r="1"><c r="A1" t="inlineStr"><is><t>Total</t></is></c></row></sheetData>)"
         R"(<legacyDrawing r:id="rId2"/>)"
         R"(<oleObjects><oleObject progId="Word.Document.8" dvAspect="DVASPECT_ICON" shapeId="1027" r:id="rId3"/></oleObjects>)"
         R"(<controls><control shapeId="1025" r:id="rId4" name="Check Box 1"/></controls>)");
     parts["xl/worksheets/_rels/sheet1.xml.rels"] =
-        Relationships(Relationship("rId1", Type + "comments", "../comments1.xml") +
-                      Relationship("rId2", Type + "vmlDrawing", "../drawings/vmlDrawing1.vml") +
-                      Relationship("rId3", Type + "oleObject", "../embeddings/oleObject1.bin") +
-                      Relationship("rId4", "http://schemas.microsoft.com/office/2006/relationships/ctrlProp",
-                                   "../ctrlProps/ctrlProp1.xml"));
+        RelationshipsPart({Relationship("rId1", "comments", "../comments1.xml"),
+                           Relationship("rId2", "vmlDrawing", "../drawings/vmlDrawing1.vml"),
+                           Relationship("rId3", "oleObject", "../embeddings/oleObject1.bin"),
+                           Relationship("rId4", "http://schemas.microsoft.com/office/2006/relationships/ctrlProp",
+                                        "../ctrlProps/ctrlProp1.xml")});
     parts["xl/comments1.xml"] =
         std::string(Declaration) +
         R"(<comments xmlns="http://schemas.openxmlformats.org/spreadsheetml/2006/main"><authors><author>Ann</author></authors>)"
@@ -120,7 +108,7 @@ PackageParts NotesBesideControls() {
         R"(<o:lock v:ext="edit" aspectratio="t"/></v:shapetype>)" +
         IconShape + "</xml>";
     parts["xl/drawings/_rels/vmlDrawing1.vml.rels"] =
-        Relationships(Relationship("rId1", Type + "image", "../media/image1.emf"));
+        RelationshipsPart({Relationship("rId1", "image", "../media/image1.emf")});
     parts["xl/media/image1.emf"] = std::string("\x01\x00\x00\x00\x6c\x00\x00\x00icon", 12);
     parts["xl/embeddings/oleObject1.bin"] = std::string("\xd0\xcf\x11\xe0\xa1\xb1\x1a\xe1ole", 11);
     parts["xl/ctrlProps/ctrlProp1.xml"] =
@@ -128,7 +116,7 @@ PackageParts NotesBesideControls() {
         R"(<formControlPr xmlns="http://schemas.microsoft.com/office/spreadsheetml/2009/9/main" objectType="CheckBox" checked="Checked"/>)";
     parts["xl/worksheets/sheet2.xml"] = Worksheet(R"(<sheetData/><legacyDrawing r:id="rId1"/>)");
     parts["xl/worksheets/_rels/sheet2.xml.rels"] =
-        Relationships(Relationship("rId1", Type + "vmlDrawing", "../drawings/vmlDrawing2.vml"));
+        RelationshipsPart({Relationship("rId1", "vmlDrawing", "../drawings/vmlDrawing2.vml")});
     parts["xl/drawings/vmlDrawing2.vml"] =
         std::string("<xml ") + VmlNamespaces +
         R"(><o:shapelayout v:ext="edit"><o:idmap v:ext="edit" data="2"/></o:shapelayout>)"
