@@ -274,15 +274,12 @@ void WriteEmptyList(XmlWriter& xml, std::string_view element) {
     xml.EndElement();
 }
 
-// The named styles' formats of the opened file, or for a new workbook the Normal style's: the
-// default format's font, with no fill, border or number format.
-std::vector<CarriedStyleFormat> StyleFormats(const WorkbookDocument& document) {
-    if (document.carried && !document.carried->styles.styleFormats.empty()) {
-        return document.carried->styles.styleFormats;
-    }
+// The Normal style's format of a new workbook: the default format's font, with no fill, border or
+// number format.
+CarriedStyleFormat NormalStyleFormat(const WorkbookDocument& document) {
     CarriedStyleFormat normal;
     normal.format.font = document.formats.front().font;
-    return {normal};
+    return normal;
 }
 
 void WriteNormalStyle(XmlWriter& xml) {
@@ -302,7 +299,10 @@ void WriteStylesPart(XmlWriter& xml, const WorkbookDocument& document) {
     const CarriedStyles* carried = document.carried ? &document.carried->styles : nullptr;
     StylePieces pieces(carried != nullptr ? carried->numberFormats : std::map<uint32_t, std::string>{});
     // The named styles' pieces first, so that the Normal style's font is font 0 as Excel expects.
-    const std::vector<CarriedStyleFormat> styleFormats = StyleFormats(document);
+    // The named styles' formats of the opened file, or for a new workbook the Normal style's.
+    const std::vector<CarriedStyleFormat> newWorkbookStyles{NormalStyleFormat(document)};
+    const std::vector<CarriedStyleFormat>& styleFormats =
+        carried != nullptr && !carried->styleFormats.empty() ? carried->styleFormats : newWorkbookStyles;
     std::vector<StyleXf> styleXfs;
     styleXfs.reserve(styleFormats.size());
     for (const CarriedStyleFormat& style : styleFormats) {
