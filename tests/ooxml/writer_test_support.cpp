@@ -204,7 +204,7 @@ WorkbookDocument FullDocument() {
     empty.name = "Empty";
     empty.defaultRowHeight = 18.75;
 
-    data.textBoxes = FullTextBoxes();
+    data.shapes = FullTextBoxes();
     data.comments = FullComments();
     CellComment hiddenNote;
     hiddenNote.row = 3;
@@ -234,8 +234,8 @@ WorkbookDocument FullDocument() {
     return document;
 }
 
-std::vector<TextBoxShape> FullTextBoxes() {
-    TextBoxShape plain;
+std::vector<DrawingShape> FullTextBoxes() {
+    DrawingShape plain;
     plain.id = 2;
     plain.name = "TextBox 1";
     plain.from = CellAnchor{4, 0, 8, 0};
@@ -267,7 +267,7 @@ std::vector<TextBoxShape> FullTextBoxes() {
     Font low;
     low.underline = "double";
     low.vertAlign = "subscript";
-    TextBoxShape rich;
+    DrawingShape rich;
     rich.id = 3;
     rich.name = "Notes & <Remarks>";
     rich.editAs = "oneCell";
@@ -295,7 +295,7 @@ std::vector<TextBoxShape> FullTextBoxes() {
         rich.text.text += run.text;
     }
 
-    TextBoxShape empty;
+    DrawingShape empty;
     empty.id = 4;
     empty.name = "TextBox 3";
     empty.editAs = "absolute";

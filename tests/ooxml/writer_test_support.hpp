@@ -148,7 +148,7 @@ ooxml::WorkbookDocument FullDocument();
 // Three text boxes that between them use every field of the text box model, with plain and rich
 // text, empty paragraphs and every kind of anchor, fill, line and text colour. A line feed ends
 // the run before the next paragraph, as the reader gives it back.
-std::vector<ooxml::TextBoxShape> FullTextBoxes();
+std::vector<ooxml::DrawingShape> FullTextBoxes();
 
 // Three comments, in cell order, that between them use every field of the comment model: plain
 // and rich text, a repeated author, a visible note, custom colours, line and insets.

@@ -2,7 +2,7 @@
 
 #include "ooxml/document/carried_content.hpp"
 #include "ooxml/document/cell_comment.hpp"
-#include "ooxml/document/text_box_shape.hpp"
+#include "ooxml/document/drawing_shape.hpp"
 
 #include <cstdint>
 #include <functional>
@@ -97,7 +97,7 @@ struct SheetDocument {
     std::vector<std::string> formulas;            // without the leading "="
     std::map<uint32_t, CellBlock> arrayFormulas;  // formula index -> the block an array formula fills
     std::vector<CellBlock> merges;
-    std::vector<TextBoxShape> textBoxes;  // in z-order, bottom first
+    std::vector<DrawingShape> shapes;  // in z-order, bottom first
     std::vector<CellComment> comments;    // in row, then column order
     RowStream rowStream;                  // when set, the rows instead of rows and formulas
     bool streamedFormulas = false;        // a streamed row has a cell with a formula

@@ -41,16 +41,16 @@ public:
         }
         // The anchors the file had beyond text boxes keep their place among them.
         CarriedElementWriter anchors(xml_, carried != nullptr ? &carried->elements : nullptr);
-        for (std::size_t i = 0; i < sheet.textBoxes.size(); ++i) {
+        for (std::size_t i = 0; i < sheet.shapes.size(); ++i) {
             anchors.Through(static_cast<uint16_t>(std::min<std::size_t>(i, UINT16_MAX)));
-            WriteTextBox(sheet.textBoxes[i]);
+            WriteTextBox(sheet.shapes[i]);
         }
         anchors.Rest();
         xml_.EndElement();
     }
 
 private:
-    void WriteTextBox(const TextBoxShape& box) {
+    void WriteTextBox(const DrawingShape& box) {
         xml_.StartElement("xdr:twoCellAnchor");
         if (box.editAs == "oneCell" || box.editAs == "absolute") {
             xml_.Attribute("editAs", box.editAs);
@@ -86,7 +86,7 @@ private:
         xml_.EndElement();
     }
 
-    void WriteNonVisualProperties(const TextBoxShape& box) {
+    void WriteNonVisualProperties(const DrawingShape& box) {
         xml_.StartElement("xdr:nvSpPr");
         xml_.StartElement("xdr:cNvPr");
         xml_.Attribute("id", box.id);
@@ -101,7 +101,7 @@ private:
         xml_.EndElement();
     }
 
-    void WriteShapeProperties(const TextBoxShape& box) {
+    void WriteShapeProperties(const DrawingShape& box) {
         xml_.StartElement("xdr:spPr");
         xml_.StartElement("a:xfrm");
         xml_.StartElement("a:off");
@@ -158,7 +158,7 @@ private:
         xml_.EndElement();
     }
 
-    void WriteTextBody(const TextBoxShape& box) {
+    void WriteTextBody(const DrawingShape& box) {
         xml_.StartElement("xdr:txBody");
         xml_.StartElement("a:bodyPr");
         xml_.Attribute("wrap", box.wrap ? "square" : "none");

@@ -198,8 +198,8 @@ std::optional<std::string_view> AnchorEditAs(pugi::xml_node anchor) {
 
 // The shape's own transform gives its place and size whatever the anchor; the corners are read
 // where the anchor has them.
-TextBoxShape ReadTextBox(pugi::xml_node anchor, std::string_view editAs, pugi::xml_node shape) {
-    TextBoxShape box;
+DrawingShape ReadTextBox(pugi::xml_node anchor, std::string_view editAs, pugi::xml_node shape) {
+    DrawingShape box;
     box.editAs = editAs;
     box.from = ReadCorner(FirstChild(anchor, "from"));
     box.to = ReadCorner(FirstChild(anchor, "to"));
@@ -268,12 +268,12 @@ pugi::xml_node TextBoxOf(pugi::xml_node anchor) {
 
 }  // namespace
 
-std::vector<TextBoxShape> ReadDrawing(std::string& xml, std::string_view partName, CarriedWorksheet& carried) {
+std::vector<DrawingShape> ReadDrawing(std::string& xml, std::string_view partName, CarriedWorksheet& carried) {
     pugi::xml_document document;
     ParseXmlPart(document, xml, partName);
     const pugi::xml_node root = document.document_element();
     carried.drawing.rootAttributes = AttributesExcept(root, {"xmlns:xdr", "xmlns:a"});
-    std::vector<TextBoxShape> boxes;
+    std::vector<DrawingShape> boxes;
     for (pugi::xml_node anchor = root.first_child(); anchor; anchor = anchor.next_sibling()) {
         if (anchor.type() != pugi::node_element) {
             continue;

@@ -13,6 +13,6 @@ namespace ooxml {
 // shapes go to carried.drawing as they are, each in the slot of the number of text boxes below it,
 // and the highest id of their shapes to carried.highestShapeId.
 // Throws PackageError(Corrupt) when the part is not well-formed.
-std::vector<TextBoxShape> ReadDrawing(std::string& xml, std::string_view partName, CarriedWorksheet& carried);
+std::vector<DrawingShape> ReadDrawing(std::string& xml, std::string_view partName, CarriedWorksheet& carried);
 
 }  // namespace ooxml

@@ -237,7 +237,7 @@ private:
         std::set<std::string> rewrittenIds;
         const Relationship* drawing = related(drawings.drawing, "drawing");
         if (std::optional<std::string> xml = ReadRelatedPart(archive_, drawing)) {
-            sheet.textBoxes = ReadDrawing(*xml, drawing->target, carried);
+            sheet.shapes = ReadDrawing(*xml, drawing->target, carried);
             carried.drawing.relationships = ReadRelationships(archive_, drawing->target);
             carriedParts_.Rewritten(drawing->target);
             rewrittenIds.insert(drawing->id);

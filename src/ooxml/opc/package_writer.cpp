@@ -78,7 +78,7 @@ SheetDrawingReferences PlanSheetDrawings(const SheetDocument& sheet, PackagePart
                                          DrawingPlan& plan) {
     SheetDrawingReferences references;
     const CarriedMarkup* carried = sheet.carried ? &sheet.carried->drawing : nullptr;
-    if (!sheet.textBoxes.empty() || (carried != nullptr && !carried->elements.empty())) {
+    if (!sheet.shapes.empty() || (carried != nullptr && !carried->elements.empty())) {
         const std::string drawing = names.Next("xl/drawings/drawing", plan.drawingCount, ".xml");
         references.drawing = sheetPart.relationships.Add(kDrawingRelationshipType, RelativeTarget(sheetPart.path, drawing));
         PackagePart part{drawing, kDrawingContentType, [&sheet](XmlWriter& xml) { WriteDrawingPart(xml, sheet); }, {}};

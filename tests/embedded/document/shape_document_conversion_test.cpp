@@ -48,9 +48,9 @@ protected:
 
 TEST_F(ShapeDocumentConversion, TextBoxGeometryAndAnchors) {
     AddBox(50, 20, 100, 30)->SetPlacement(xlMove);
-    const auto& boxes = Saved().textBoxes;
+    const auto& boxes = Saved().shapes;
     ASSERT_EQ(boxes.size(), 1u);
-    const ooxml::TextBoxShape& box = boxes.front();
+    const ooxml::DrawingShape& box = boxes.front();
     EXPECT_EQ(box.id, 2u);
     EXPECT_EQ(box.name, "TextBox 1");
     EXPECT_EQ(box.editAs, "oneCell");
@@ -65,7 +65,7 @@ TEST_F(ShapeDocumentConversion, TextBoxGeometryAndAnchors) {
 
 TEST_F(ShapeDocumentConversion, TextBoxDefaultsAsExcelWritesThem) {
     AddBox(0, 0, 100, 30);
-    const ooxml::TextBoxShape& box = Saved().textBoxes.front();
+    const ooxml::DrawingShape& box = Saved().shapes.front();
     EXPECT_EQ(box.editAs, "twoCell");
     ASSERT_TRUE(box.fill.has_value());
     EXPECT_EQ(*box.fill, (ooxml::Color{ooxml::Color::Kind::Theme, 0, 0, 0.0}));
@@ -97,7 +97,7 @@ TEST_F(ShapeDocumentConversion, TextBoxFormattingAndText) {
     shape->Line()->SetWeight(2);
     shape->SetOnAction("Refresh");
     frame->SetAutoSize(true);
-    const ooxml::TextBoxShape& box = Saved().textBoxes.front();
+    const ooxml::DrawingShape& box = Saved().shapes.front();
     EXPECT_FALSE(box.fill.has_value());
     EXPECT_EQ(*box.line, (ooxml::Color{ooxml::Color::Kind::Theme, 0, 5, 0.0}));
     EXPECT_EQ(box.lineWidth, 2 * 12700);
@@ -125,7 +125,7 @@ TEST_F(ShapeDocumentConversion, PaletteColoursOfTextBoxRunsAreSavedAsTheRgbTheyS
     frame->Characters(2, 1)->Font()->SetColorIndex(4);
     sheet->Range("B2")->AddComment("c")->Shape()->TextFrame()->Characters()->Font()->SetColorIndex(3);
     const ooxml::SheetDocument& saved = Saved();
-    const auto& runs = saved.textBoxes.front().text.runs;
+    const auto& runs = saved.shapes.front().text.runs;
     ASSERT_EQ(runs.size(), 2u);
     EXPECT_EQ(runs[0].font->color, (ooxml::Color{ooxml::Color::Kind::Rgb, 0xFF123456, 0, 0.0}));
     EXPECT_EQ(runs[1].font->color, (ooxml::Color{ooxml::Color::Kind::Rgb, 0xFF00FF00, 0, 0.0}));
@@ -273,12 +273,12 @@ TEST_F(ShapeDocumentConversion, SavingAgainGivesTheSameShapes) {
     const ooxml::SheetDocument first = Saved();
     Reopened();
     const ooxml::SheetDocument second = ToDocument(*reopened, "test").sheets.front();
-    ASSERT_EQ(second.textBoxes.size(), 1u);
-    EXPECT_EQ(second.textBoxes[0].text, first.textBoxes[0].text);
-    EXPECT_EQ(second.textBoxes[0].from, first.textBoxes[0].from);
-    EXPECT_EQ(second.textBoxes[0].to, first.textBoxes[0].to);
-    EXPECT_EQ(second.textBoxes[0].fill, first.textBoxes[0].fill);
-    EXPECT_EQ(second.textBoxes[0].line, first.textBoxes[0].line);
+    ASSERT_EQ(second.shapes.size(), 1u);
+    EXPECT_EQ(second.shapes[0].text, first.shapes[0].text);
+    EXPECT_EQ(second.shapes[0].from, first.shapes[0].from);
+    EXPECT_EQ(second.shapes[0].to, first.shapes[0].to);
+    EXPECT_EQ(second.shapes[0].fill, first.shapes[0].fill);
+    EXPECT_EQ(second.shapes[0].line, first.shapes[0].line);
     ASSERT_EQ(second.comments.size(), 1u);
     EXPECT_EQ(second.comments[0].text, first.comments[0].text);
     EXPECT_EQ(second.comments[0].anchor, first.comments[0].anchor);

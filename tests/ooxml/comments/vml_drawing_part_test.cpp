@@ -43,7 +43,7 @@ std::vector<pugi::xml_node> Shapes(const pugi::xml_document& xml) {
     return shapes;
 }
 
-TEST(VmlDrawingPart, ANoteIsATextBoxShapeWithExcelsClientData) {
+TEST(VmlDrawingPart, ANoteIsADrawingShapeWithExcelsClientData) {
     CellComment note = Note(2, 2);
     note.left = 107.25;
     note.top = 7.5;

@@ -11,14 +11,14 @@ namespace {
 using namespace ooxml;
 using writer_test::WriteSheetPart;
 
-std::unique_ptr<pugi::xml_document> Write(const std::vector<TextBoxShape>& boxes) {
+std::unique_ptr<pugi::xml_document> Write(const std::vector<DrawingShape>& boxes) {
     SheetDocument sheet;
-    sheet.textBoxes = boxes;
+    sheet.shapes = boxes;
     return WriteSheetPart(WriteDrawingPart, sheet);
 }
 
-TextBoxShape Box(std::string text) {
-    TextBoxShape box;
+DrawingShape Box(std::string text) {
+    DrawingShape box;
     box.name = "TextBox 1";
     box.text.text = std::move(text);
     return box;
@@ -46,7 +46,7 @@ pugi::xml_node FillColor(pugi::xml_node holder) {
 }
 
 TEST(DrawingPart, TextBoxIsAShapeInATwoCellAnchorAsExcelWritesIt) {
-    TextBoxShape box = Box("This is some text");
+    DrawingShape box = Box("This is some text");
     box.id = 2;
     box.from = CellAnchor{4, 12700, 8, 25400};
     box.to = CellAnchor{7, 0, 14, 0};
@@ -114,7 +114,7 @@ TEST(DrawingPart, TextBoxIsAShapeInATwoCellAnchorAsExcelWritesIt) {
 }
 
 TEST(DrawingPart, EditAsIsWrittenOnlyWhenTheBoxDoesNotMoveAndSizeWithCells) {
-    TextBoxShape moves = Box("a"), fixed = Box("b"), unknown = Box("c");
+    DrawingShape moves = Box("a"), fixed = Box("b"), unknown = Box("c");
     moves.editAs = "oneCell";
     fixed.editAs = "absolute";
     unknown.editAs = "sideways";
@@ -126,7 +126,7 @@ TEST(DrawingPart, EditAsIsWrittenOnlyWhenTheBoxDoesNotMoveAndSizeWithCells) {
 }
 
 TEST(DrawingPart, NoFillAndNoLineAreWrittenAsNoFill) {
-    TextBoxShape box = Box("a");
+    DrawingShape box = Box("a");
     box.fill.reset();
     box.line.reset();
     auto xml = Write({box});
@@ -139,9 +139,9 @@ TEST(DrawingPart, NoFillAndNoLineAreWrittenAsNoFill) {
 TEST(DrawingPart, ThemeColoursAreNamedAfterTheirThemeIndex) {
     const char* names[] = {"lt1",     "dk1",     "lt2",     "dk2",     "accent1", "accent2",
                            "accent3", "accent4", "accent5", "accent6", "hlink",   "folHlink"};
-    std::vector<TextBoxShape> boxes;
+    std::vector<DrawingShape> boxes;
     for (int32_t index = 0; index < 12; ++index) {
-        TextBoxShape box = Box("a");
+        DrawingShape box = Box("a");
         box.fill = Color{Color::Kind::Theme, 0, index, 0.0};
         boxes.push_back(box);
     }
@@ -152,7 +152,7 @@ TEST(DrawingPart, ThemeColoursAreNamedAfterTheirThemeIndex) {
 }
 
 TEST(DrawingPart, TintsBecomeLuminanceModulationAndOffset) {
-    TextBoxShape box = Box("a");
+    DrawingShape box = Box("a");
     box.fill = Color{Color::Kind::Theme, 0, 4, 0.4};      // lighter 40%
     box.line = Color{Color::Kind::Theme, 0, 1, -0.25};    // darker 25%
     auto xml = Write({box});
@@ -168,7 +168,7 @@ TEST(DrawingPart, TintsBecomeLuminanceModulationAndOffset) {
 }
 
 TEST(DrawingPart, AFillsTransparencyIsItsColoursAlpha) {
-    TextBoxShape box = Box("a");
+    DrawingShape box = Box("a");
     box.fill = Color{Color::Kind::Rgb, 0xFF4472C4, 0, 0.0};
     box.fillTransparency = 0.3;
     auto xml = Write({box});
@@ -178,7 +178,7 @@ TEST(DrawingPart, AFillsTransparencyIsItsColoursAlpha) {
 }
 
 TEST(DrawingPart, ColoursWithoutRgbAreWrittenBlack) {
-    TextBoxShape box = Box("a");
+    DrawingShape box = Box("a");
     box.fill = Color{Color::Kind::Indexed, 0, 10, 0.0};
     box.line = Color{Color::Kind::Auto, 0, 0, 0.0};
     auto xml = Write({box});
@@ -188,7 +188,7 @@ TEST(DrawingPart, ColoursWithoutRgbAreWrittenBlack) {
 }
 
 TEST(DrawingPart, BodyPropertiesCarryWrapInsetsAnchorAndAutoFit) {
-    TextBoxShape box = Box("a");
+    DrawingShape box = Box("a");
     box.wrap = false;
     box.autoFit = true;
     box.insetLeft = 0;
@@ -208,7 +208,7 @@ TEST(DrawingPart, BodyPropertiesCarryWrapInsetsAnchorAndAutoFit) {
 }
 
 TEST(DrawingPart, LineFeedsSeparateParagraphsAndAnEmptyOneKeepsItsFont) {
-    TextBoxShape box = Box("This\nis\n\nsome long text");
+    DrawingShape box = Box("This\nis\n\nsome long text");
     box.alignment = "r";
     auto xml = Write({box});
     std::vector<std::string> texts;
@@ -240,7 +240,7 @@ TEST(DrawingPart, RunsCarryTheirFontsAsCharacterProperties) {
     Font major;
     major.scheme = "major";
     major.vertAlign = "superscript";
-    TextBoxShape box = Box("");
+    DrawingShape box = Box("");
     box.text.runs = {TextRun{"plain ", std::nullopt}, TextRun{"styled", font}, TextRun{" heading", major}};
     auto xml = Write({box});
     const pugi::xml_node plain = Body(*xml).child("a:p").child("a:r");
@@ -268,7 +268,7 @@ TEST(DrawingPart, RunsCarryTheirFontsAsCharacterProperties) {
 }
 
 TEST(DrawingPart, HiddenBoxesAndMacrosAreMarked) {
-    TextBoxShape box = Box("a");
+    DrawingShape box = Box("a");
     box.hidden = true;
     box.macro = "Module1.Click";
     auto xml = Write({box});

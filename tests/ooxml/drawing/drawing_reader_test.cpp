@@ -16,7 +16,7 @@ std::string Anchored(const std::string& anchor, const std::string& corners, cons
            "</a:t></a:r></a:p></xdr:txBody></xdr:sp><xdr:clientData/></xdr:" + anchor + ">";
 }
 
-std::vector<TextBoxShape> Read(const std::string& anchors) {
+std::vector<DrawingShape> Read(const std::string& anchors) {
     std::string xml = R"(<xdr:wsDr xmlns:xdr="http://schemas.openxmlformats.org/drawingml/2006/spreadsheetDrawing" )"
                       R"(xmlns:a="http://schemas.openxmlformats.org/drawingml/2006/main">)" +
                       anchors + "</xdr:wsDr>";
@@ -37,7 +37,7 @@ TEST(DrawingReader, TextBoxesOfEveryAnchorKindAreReadWithTheirPlacement) {
     EXPECT_EQ(boxes[0].from, (CellAnchor{1, 0, 2, 0}));
     EXPECT_EQ(boxes[1].editAs, "absolute");
     EXPECT_EQ(boxes[2].editAs, "twoCell");
-    for (const TextBoxShape& box : boxes) {
+    for (const DrawingShape& box : boxes) {
         EXPECT_EQ(box.text.text, box.name);
         EXPECT_EQ(box.x, 12700);
         EXPECT_EQ(box.y, 25400);

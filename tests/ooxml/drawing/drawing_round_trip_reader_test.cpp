@@ -11,7 +11,7 @@ namespace {
 
 using namespace ooxml;
 
-void ExpectSameTextBox(const TextBoxShape& read, const TextBoxShape& written) {
+void ExpectSameTextBox(const DrawingShape& read, const DrawingShape& written) {
     SCOPED_TRACE(written.name);
     EXPECT_EQ(read.id, written.id);
     EXPECT_EQ(read.name, written.name);
@@ -70,9 +70,9 @@ TEST(DrawingRoundTripReaderTest, TextBoxesAndCommentsReadBackFieldByField) {
     for (std::size_t sheet = 0; sheet < written.sheets.size(); ++sheet) {
         const SheetDocument& before = written.sheets[sheet];
         const SheetDocument& after = read.sheets[sheet];
-        ASSERT_EQ(after.textBoxes.size(), before.textBoxes.size()) << sheet;
-        for (std::size_t i = 0; i < before.textBoxes.size(); ++i) {
-            ExpectSameTextBox(after.textBoxes[i], before.textBoxes[i]);
+        ASSERT_EQ(after.shapes.size(), before.shapes.size()) << sheet;
+        for (std::size_t i = 0; i < before.shapes.size(); ++i) {
+            ExpectSameTextBox(after.shapes[i], before.shapes[i]);
         }
         ASSERT_EQ(after.comments.size(), before.comments.size()) << sheet;
         for (std::size_t i = 0; i < before.comments.size(); ++i) {

@@ -14,14 +14,14 @@ ooxml::SheetDocument FirstSheet(const std::string& relativePath) {
     return ooxml::ReadPackage(CorpusDir + relativePath).sheets.at(0);
 }
 
-ooxml::TextBoxShape OnlyTextBox(const std::string& name) {
+ooxml::DrawingShape OnlyTextBox(const std::string& name) {
     const ooxml::SheetDocument sheet = FirstSheet("cells-drawings-xlsxwriter/xw__" + name + ".xlsx");
-    EXPECT_EQ(sheet.textBoxes.size(), 1u) << name;
-    return sheet.textBoxes.empty() ? ooxml::TextBoxShape{} : sheet.textBoxes.front();
+    EXPECT_EQ(sheet.shapes.size(), 1u) << name;
+    return sheet.shapes.empty() ? ooxml::DrawingShape{} : sheet.shapes.front();
 }
 
 TEST(ExcelCorpusDrawingReaderTest, TextBoxWithExcelsDefaults) {
-    const ooxml::TextBoxShape box = OnlyTextBox("textbox01");
+    const ooxml::DrawingShape box = OnlyTextBox("textbox01");
     EXPECT_EQ(box.id, 2u);
     EXPECT_EQ(box.name, "TextBox 1");
     EXPECT_EQ(box.editAs, "twoCell");
@@ -48,7 +48,7 @@ TEST(ExcelCorpusDrawingReaderTest, TextBoxWithExcelsDefaults) {
 }
 
 TEST(ExcelCorpusDrawingReaderTest, ParagraphsAndAnEmptyOneBecomeLineFeeds) {
-    const ooxml::TextBoxShape box = OnlyTextBox("textbox09");
+    const ooxml::DrawingShape box = OnlyTextBox("textbox09");
     EXPECT_EQ(box.text.text, "This\nis\n\nsome long text");
     EXPECT_TRUE(box.text.runs.empty());
 }
@@ -65,14 +65,14 @@ TEST(ExcelCorpusDrawingReaderTest, VerticalAnchorAndAlignment) {
     EXPECT_EQ(OnlyTextBox("textbox17").verticalAnchor, "b");
     const ooxml::SheetDocument aligned = FirstSheet("cells-drawings-xlsxwriter/xw__textbox41.xlsx");
     std::vector<std::string> alignments;
-    for (const ooxml::TextBoxShape& box : aligned.textBoxes) {
+    for (const ooxml::DrawingShape& box : aligned.shapes) {
         alignments.push_back(box.alignment);
     }
     EXPECT_EQ(alignments, (std::vector<std::string>{"l", "l", "ctr", "r"}));
 }
 
 TEST(ExcelCorpusDrawingReaderTest, RunFonts) {
-    const ooxml::TextBoxShape emphasised = OnlyTextBox("textbox21");
+    const ooxml::DrawingShape emphasised = OnlyTextBox("textbox21");
     ASSERT_EQ(emphasised.text.runs.size(), 1u);
     ooxml::Font expected;
     expected.size = 12;
@@ -82,20 +82,20 @@ TEST(ExcelCorpusDrawingReaderTest, RunFonts) {
     EXPECT_EQ(emphasised.text.runs[0].font, expected);
     EXPECT_EQ(emphasised.text.text, "This is some text");
 
-    const ooxml::TextBoxShape arial = OnlyTextBox("textbox22");
+    const ooxml::DrawingShape arial = OnlyTextBox("textbox22");
     ASSERT_EQ(arial.text.runs.size(), 1u);
     EXPECT_EQ(arial.text.runs[0].font->name, "Arial");
     EXPECT_EQ(arial.text.runs[0].font->family, 2);  // pitchFamily 34: Swiss
     EXPECT_EQ(arial.text.runs[0].font->scheme, "");
 
-    const ooxml::TextBoxShape red = OnlyTextBox("textbox24");
+    const ooxml::DrawingShape red = OnlyTextBox("textbox24");
     ASSERT_EQ(red.text.runs.size(), 1u) << "runs in one font are one run";
     EXPECT_EQ(red.text.runs[0].text, "This\nis\n\nsome long text");
     EXPECT_EQ(red.text.runs[0].font->color, (Color{Color::Kind::Rgb, 0xFFFF0000, 0, 0.0}));
 }
 
 TEST(ExcelCorpusDrawingReaderTest, PicturesAndChartsArePassedOver) {
-    const ooxml::TextBoxShape box = OnlyTextBox("textbox05");
+    const ooxml::DrawingShape box = OnlyTextBox("textbox05");
     EXPECT_EQ(box.id, 4u);
     EXPECT_EQ(box.name, "TextBox 3");
 }

@@ -154,11 +154,11 @@ Corners CornersOf(const WorksheetModel& sheet, const ShapeModel& shape) {
     return corners;
 }
 
-ooxml::TextBoxShape TextBoxOf(const WorksheetModel& sheet, const ShapeModel& shape) {
+ooxml::DrawingShape TextBoxOf(const WorksheetModel& sheet, const ShapeModel& shape) {
     const Corners corners = CornersOf(sheet, shape);
     const WorkbookColors& colors = sheet.Book().Colors();
     const TextMargins margins = shape.text.Margins();
-    ooxml::TextBoxShape out;
+    ooxml::DrawingShape out;
     out.id = shape.id;
     out.name = shape.name;
     out.editAs = std::string(NameOf(AnchorKinds, shape.placement));
@@ -219,7 +219,7 @@ ooxml::CellComment CommentOf(const WorksheetModel& sheet, const ShapeModel& shap
     return out;
 }
 
-void LoadTextBox(WorksheetModel& sheet, const ooxml::TextBoxShape& in) {
+void LoadTextBox(WorksheetModel& sheet, const ooxml::DrawingShape& in) {
     auto shape = std::make_shared<ShapeModel>();
     shape->id = in.id;
     shape->name = in.name;
@@ -281,7 +281,7 @@ void ConvertShapes(const WorksheetModel& sheet, ooxml::SheetDocument& out) {
         if (shape->comment) {
             out.comments.push_back(CommentOf(sheet, *shape));
         } else {
-            out.textBoxes.push_back(TextBoxOf(sheet, *shape));
+            out.shapes.push_back(TextBoxOf(sheet, *shape));
         }
     }
     std::sort(out.comments.begin(), out.comments.end(),
@@ -289,7 +289,7 @@ void ConvertShapes(const WorksheetModel& sheet, ooxml::SheetDocument& out) {
 }
 
 void LoadShapes(WorksheetModel& sheet, const ooxml::SheetDocument& in) {
-    for (const ooxml::TextBoxShape& box : in.textBoxes) {
+    for (const ooxml::DrawingShape& box : in.shapes) {
         LoadTextBox(sheet, box);
     }
     for (const ooxml::CellComment& comment : in.comments) {

@@ -3,10 +3,13 @@
 #include "ooxml/document/shared_string.hpp"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 
 namespace ooxml {
+
+struct ChartDocument;
 
 // A corner of a drawing object as anchors store it: a cell (0-based) and an offset into it in EMU
 // (12,700 per point).
@@ -19,10 +22,11 @@ struct CellAnchor {
     friend bool operator==(const CellAnchor&, const CellAnchor&) = default;
 };
 
-// A text box of a sheet's drawing. Colours use the cell colour model: Theme colours carry the
+// An object of a sheet's drawing: a text box, or the frame of a chart (chart set: the frame takes
+// the id, name, anchor, macro and visibility; the text box members are unused). Colours use the cell colour model: Theme colours carry the
 // file's theme index (0 lt1, 1 dk1, 2 lt2, 3 dk2, 4..9 accent1..6, 10 hlink, 11 folHlink) and their
 // tint, which the drawing stores as luminance modulation and offset.
-struct TextBoxShape {
+struct DrawingShape {
     uint32_t id = 2;     // unique among the drawing's objects
     std::string name;    // "TextBox 1"
     std::string editAs = "twoCell";  // "twoCell" (move and size), "oneCell" (move), "absolute"
@@ -43,6 +47,9 @@ struct TextBoxShape {
     // The text; a line feed separates paragraphs. A run without a font takes the default
     // (the theme's minor font, 11 points, Text 1).
     SharedString text;
+    std::shared_ptr<const ChartDocument> chart;
+
+    friend bool operator==(const DrawingShape&, const DrawingShape&) = default;
 };
 
 }  // namespace ooxml
