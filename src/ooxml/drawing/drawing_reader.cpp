@@ -1,50 +1,24 @@
 #include "ooxml/drawing/drawing_reader.hpp"
 
 #include "ooxml/carried/carried_attributes.hpp"
-#include "ooxml/drawingml/drawing_color_reader.hpp"
-#include "ooxml/drawingml/pitch_family.hpp"
+#include "ooxml/drawing/text_box_reader.hpp"
 #include "ooxml/xml/xml_node_access.hpp"
 #include "ooxml/xml/xml_part_parser.hpp"
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 
 namespace ooxml {
 
 namespace {
 
-// The faces of the theme the package writer stores, which a theme font reference (+mn-lt) names.
-constexpr std::string_view MinorFontName = "Calibri";
-constexpr std::string_view MajorFontName = "Calibri Light";
-constexpr double Hundredths = 100.0;
 constexpr std::array<std::string_view, 3> EditAsValues{"twoCell", "oneCell", "absolute"};
-constexpr std::array<std::string_view, 5> VerticalAnchors{"t", "ctr", "b", "just", "dist"};
 constexpr uint32_t MaxColumn = 16383;   // 0-based
 constexpr uint32_t MaxRow = 1048575;    // 0-based
 
 template <std::size_t N>
 bool OneOf(const std::array<std::string_view, N>& values, std::string_view value) {
     return std::find(values.begin(), values.end(), value) != values.end();
-}
-
-std::optional<int64_t> ParseCoordinate(std::string_view text) {
-    while (!text.empty() && (text.front() == ' ' || text.front() == '\t' || text.front() == '\n')) {
-        text.remove_prefix(1);
-    }
-    while (!text.empty() && (text.back() == ' ' || text.back() == '\t' || text.back() == '\n')) {
-        text.remove_suffix(1);
-    }
-    int64_t value = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (text.empty() || error != std::errc() || end != text.data() + text.size()) {
-        return std::nullopt;
-    }
-    return value;
-}
-
-int64_t AttributeCoordinate(pugi::xml_node node, std::string_view name, int64_t fallback) {
-    return ParseCoordinate(AttributeText(node, name)).value_or(fallback);
 }
 
 CellAnchor ReadCorner(pugi::xml_node corner) {
@@ -58,126 +32,6 @@ CellAnchor ReadCorner(pugi::xml_node corner) {
     anchor.rowOffset = number("rowOff");
     return anchor;
 }
-
-// What a fill element among children says: a colour, no fill, or nothing said (fallback).
-std::optional<Color> ReadFill(pugi::xml_node properties, std::optional<Color> fallback) {
-    for (pugi::xml_node child = properties.first_child(); child; child = child.next_sibling()) {
-        const std::string_view name = LocalName(child);
-        if (name == "noFill") {
-            return std::nullopt;
-        }
-        if (name == "solidFill" || name == "gradFill") {
-            return ReadDrawingFillColor(child);
-        }
-    }
-    return fallback;
-}
-
-Font ReadRunFont(pugi::xml_node properties) {
-    Font font;
-    font.size = AttributeDouble(properties, "sz").value_or(font.size * Hundredths) / Hundredths;
-    font.bold = AttributeBool(properties, "b", false);
-    font.italic = AttributeBool(properties, "i", false);
-    const std::string_view underline = AttributeText(properties, "u");
-    if (underline == "dbl") {
-        font.underline = "double";
-    } else if (!underline.empty() && underline != "none") {
-        font.underline = "single";
-    }
-    const std::string_view strike = AttributeText(properties, "strike");
-    font.strike = !strike.empty() && strike != "noStrike";
-    const double baseline = AttributeDouble(properties, "baseline").value_or(0.0);
-    font.vertAlign = baseline > 0.0 ? "superscript" : baseline < 0.0 ? "subscript" : "";
-    if (std::optional<Color> color = ReadFill(properties, font.color)) {
-        font.color = *color;
-    }
-    const pugi::xml_node latin = FirstChild(properties, "latin");
-    const std::string_view typeface = AttributeText(latin, "typeface");
-    if (typeface.starts_with("+mj")) {
-        font.name = MajorFontName;
-        font.scheme = "major";
-    } else if (typeface.starts_with("+mn")) {
-        font.name = MinorFontName;
-    } else if (!typeface.empty()) {
-        font.name = typeface;
-        font.scheme.clear();
-        font.family = FamilyOfPitchFamily(AttributeUnsigned(latin, "pitchFamily").value_or(0));
-    }
-    return font;
-}
-
-// Paragraphs become text separated by line feeds; runs in the default font carry none, and text
-// whose runs all do is plain. The line feed between two paragraphs joins the run before it, or
-// in an empty paragraph a run of the paragraph's end font.
-class TextReader {
-public:
-    void Read(pugi::xml_node body) {
-        bool first = true;
-        ForEachChild(body, "p", [&](pugi::xml_node paragraph) {
-            if (!first) {
-                AppendLineFeed();
-            }
-            first = false;
-            ReadParagraph(paragraph);
-        });
-    }
-
-    SharedString Text() {
-        SharedString text;
-        for (const TextRun& run : runs_) {
-            text.text += run.text;
-        }
-        if (std::any_of(runs_.begin(), runs_.end(), [](const TextRun& run) { return run.font.has_value(); })) {
-            text.runs = std::move(runs_);
-        }
-        return text;
-    }
-
-private:
-    void ReadParagraph(pugi::xml_node paragraph) {
-        endFont_ = FontOrDefault(FirstChild(paragraph, "endParaRPr"));
-        for (pugi::xml_node child = paragraph.first_child(); child; child = child.next_sibling()) {
-            const std::string_view name = LocalName(child);
-            if (name == "r" || name == "fld") {
-                Append(FirstChild(child, "t").child_value(), FontOrDefault(FirstChild(child, "rPr")));
-            } else if (name == "br") {
-                Append("\n", FontOrDefault(FirstChild(child, "rPr")));
-            }
-        }
-        paragraphEmpty_ = std::none_of(paragraph.children().begin(), paragraph.children().end(), [](pugi::xml_node child) {
-            const std::string_view name = LocalName(child);
-            return name == "r" || name == "fld" || name == "br";
-        });
-    }
-
-    static std::optional<Font> FontOrDefault(pugi::xml_node properties) {
-        Font font = ReadRunFont(properties);
-        return font == Font{} ? std::nullopt : std::optional<Font>(std::move(font));
-    }
-
-    void Append(std::string_view text, const std::optional<Font>& font) {
-        if (text.empty()) {
-            return;
-        }
-        if (!runs_.empty() && runs_.back().font == font) {
-            runs_.back().text += text;
-        } else {
-            runs_.push_back(TextRun{std::string(text), font});
-        }
-    }
-
-    void AppendLineFeed() {
-        if (runs_.empty() || paragraphEmpty_) {
-            Append("\n", endFont_);
-        } else {
-            runs_.back().text += '\n';
-        }
-    }
-
-    std::vector<TextRun> runs_;
-    std::optional<Font> endFont_;
-    bool paragraphEmpty_ = false;
-};
 
 // How an anchor element lets its shape follow the cells: a two-cell anchor says so in editAs, a
 // one-cell anchor moves with its cell, an absolute one stays put. None for anything else.
@@ -196,53 +50,34 @@ std::optional<std::string_view> AnchorEditAs(pugi::xml_node anchor) {
     return std::nullopt;
 }
 
-// The shape's own transform gives its place and size whatever the anchor; the corners are read
-// where the anchor has them.
-DrawingShape ReadTextBox(pugi::xml_node anchor, std::string_view editAs, pugi::xml_node shape) {
-    DrawingShape box;
-    box.editAs = editAs;
-    box.from = ReadCorner(FirstChild(anchor, "from"));
-    box.to = ReadCorner(FirstChild(anchor, "to"));
-    box.macro = AttributeText(shape, "macro");
-    const pugi::xml_node nonVisual = FirstChild(FirstChild(shape, "nvSpPr"), "cNvPr");
-    box.id = AttributeUnsigned(nonVisual, "id").value_or(box.id);
-    box.name = AttributeText(nonVisual, "name");
-    box.hidden = AttributeBool(nonVisual, "hidden", false);
-
-    const pugi::xml_node properties = FirstChild(shape, "spPr");
-    const pugi::xml_node transform = FirstChild(properties, "xfrm");
-    box.x = AttributeCoordinate(FirstChild(transform, "off"), "x", 0);
-    box.y = AttributeCoordinate(FirstChild(transform, "off"), "y", 0);
-    box.width = AttributeCoordinate(FirstChild(transform, "ext"), "cx", 0);
-    box.height = AttributeCoordinate(FirstChild(transform, "ext"), "cy", 0);
-    box.fill = ReadFill(properties, std::nullopt);
-    if (box.fill) {
-        box.fillTransparency = ReadDrawingFillTransparency(FirstChild(properties, "solidFill"));
-    }
-    const pugi::xml_node line = FirstChild(properties, "ln");
-    box.line = ReadFill(line, std::nullopt);
-    box.lineWidth = AttributeCoordinate(line, "w", box.lineWidth);
-
-    const pugi::xml_node body = FirstChild(shape, "txBody");
-    const pugi::xml_node bodyProperties = FirstChild(body, "bodyPr");
-    box.wrap = AttributeText(bodyProperties, "wrap") != "none";
-    box.insetLeft = AttributeCoordinate(bodyProperties, "lIns", box.insetLeft);
-    box.insetTop = AttributeCoordinate(bodyProperties, "tIns", box.insetTop);
-    box.insetRight = AttributeCoordinate(bodyProperties, "rIns", box.insetRight);
-    box.insetBottom = AttributeCoordinate(bodyProperties, "bIns", box.insetBottom);
-    box.autoFit = static_cast<bool>(FirstChild(bodyProperties, "spAutoFit"));
-    const std::string_view verticalAnchor = AttributeText(bodyProperties, "anchor");
-    box.verticalAnchor = OneOf(VerticalAnchors, verticalAnchor) ? verticalAnchor : "t";
-    const std::string_view alignment = AttributeText(FirstChild(FirstChild(body, "p"), "pPr"), "algn");
-    box.alignment = alignment.empty() ? "l" : alignment;
-    TextReader text;
-    text.Read(body);
-    box.text = text.Text();
-    return box;
+// Where the anchor puts a shape: how it follows the cells, and the corners where the anchor has them.
+void PlaceOnCells(pugi::xml_node anchor, std::string_view editAs, DrawingShape& shape) {
+    shape.editAs = editAs;
+    shape.from = ReadCorner(FirstChild(anchor, "from"));
+    shape.to = ReadCorner(FirstChild(anchor, "to"));
 }
 
-bool IsTextBox(pugi::xml_node shape) {
-    return LocalName(shape) == "sp" && AttributeBool(FirstChild(FirstChild(shape, "nvSpPr"), "cNvSpPr"), "txBox", false);
+// The relationship id of the chart a two-cell anchor's graphic frame shows; empty for anything else.
+std::string_view ChartRelationshipId(pugi::xml_node anchor) {
+    if (LocalName(anchor) != "twoCellAnchor") {
+        return {};
+    }
+    const pugi::xml_node graphic = FirstChild(FirstChild(anchor, "graphicFrame"), "graphic");
+    return AttributeText(FirstChild(FirstChild(graphic, "graphicData"), "chart"), "id");
+}
+
+// The frame of a chart read into its document: the frame's id, name, macro and visibility.
+DrawingShape ReadChartFrame(pugi::xml_node anchor, std::shared_ptr<const ChartDocument> chart) {
+    const pugi::xml_node frame = FirstChild(anchor, "graphicFrame");
+    const pugi::xml_node nonVisual = FirstChild(FirstChild(frame, "nvGraphicFramePr"), "cNvPr");
+    DrawingShape shape;
+    PlaceOnCells(anchor, *AnchorEditAs(anchor), shape);
+    shape.id = AttributeUnsigned(nonVisual, "id").value_or(shape.id);
+    shape.name = AttributeText(nonVisual, "name");
+    shape.hidden = AttributeBool(nonVisual, "hidden", false);
+    shape.macro = AttributeText(frame, "macro");
+    shape.chart = std::move(chart);
+    return shape;
 }
 
 // The highest id the shapes within node have (a group holds several).
@@ -256,40 +91,36 @@ uint32_t HighestShapeId(pugi::xml_node node) {
     return highest;
 }
 
-// The anchor's shape when it is a text box; an anchor holds one shape, picture, chart or group.
-pugi::xml_node TextBoxOf(pugi::xml_node anchor) {
-    for (pugi::xml_node child = anchor.first_child(); child; child = child.next_sibling()) {
-        if (IsTextBox(child)) {
-            return child;
-        }
-    }
-    return {};
-}
-
 }  // namespace
 
-std::vector<DrawingShape> ReadDrawing(std::string& xml, std::string_view partName, CarriedWorksheet& carried) {
+std::vector<DrawingShape> ReadDrawing(std::string& xml, std::string_view partName, CarriedWorksheet& carried,
+                                      const ChartFrameLoader& loadChart) {
     pugi::xml_document document;
     ParseXmlPart(document, xml, partName);
     const pugi::xml_node root = document.document_element();
     carried.drawing.rootAttributes = AttributesExcept(root, {"xmlns:xdr", "xmlns:a"});
-    std::vector<DrawingShape> boxes;
+    std::vector<DrawingShape> shapes;
     for (pugi::xml_node anchor = root.first_child(); anchor; anchor = anchor.next_sibling()) {
         if (anchor.type() != pugi::node_element) {
             continue;
         }
         const std::optional<std::string_view> editAs = AnchorEditAs(anchor);
         const pugi::xml_node textBox = editAs ? TextBoxOf(anchor) : pugi::xml_node();
+        const std::string_view chartId = ChartRelationshipId(anchor);
+        std::shared_ptr<const ChartDocument> chart = !chartId.empty() && loadChart ? loadChart(chartId) : nullptr;
         if (textBox) {
-            boxes.push_back(ReadTextBox(anchor, *editAs, textBox));
+            DrawingShape& box = shapes.emplace_back(ReadTextBoxShape(textBox));
+            PlaceOnCells(anchor, *editAs, box);
+        } else if (chart) {
+            shapes.push_back(ReadChartFrame(anchor, std::move(chart)));
         } else {
             carried.drawing.elements.push_back(
-                {static_cast<uint16_t>(std::min<std::size_t>(boxes.size(), UINT16_MAX)), std::string(LocalName(anchor)),
+                {static_cast<uint16_t>(std::min<std::size_t>(shapes.size(), UINT16_MAX)), std::string(LocalName(anchor)),
                  ElementMarkup(anchor)});
             carried.highestShapeId = std::max(carried.highestShapeId, HighestShapeId(anchor));
         }
     }
-    return boxes;
+    return shapes;
 }
 
 }  // namespace ooxml
