@@ -4,6 +4,7 @@
 #include "ooxml/comments/vml_drawing_reader.hpp"
 #include "ooxml/drawing/drawing_reader.hpp"
 #include "ooxml/opc/carried_parts_reader.hpp"
+#include "ooxml/opc/chart_parts_reader.hpp"
 #include "ooxml/opc/content_types_reader.hpp"
 #include "ooxml/opc/relationships_reader.hpp"
 #include "ooxml/package_error.hpp"
@@ -85,11 +86,13 @@ std::vector<Relationship> RelationshipsExcept(const std::vector<Relationship>& r
 
 class PackageReader {
 public:
-    PackageReader(const std::string& path)
+    PackageReader(const std::string& path, const ReadOptions& options)
         : path_(path),
+          options_(options),
           archive_(path),
           contentTypes_(archive_),
-          carriedParts_(archive_, contentTypes_, carried_->parts) {}
+          carriedParts_(archive_, contentTypes_, carried_->parts),
+          charts_(archive_, carriedParts_) {}
 
     WorkbookDocument Read() {
         const std::vector<Relationship> packageRelationships = ReadRelationships(archive_, "");
@@ -223,8 +226,8 @@ private:
         carriedWorksheets_.push_back(std::move(carried));
     }
 
-    // The text boxes of the sheet's drawing with the anchors it carries, and its comments with the
-    // shapes of their notes. The other relationships of the sheet are kept.
+    // The text boxes and charts of the sheet's drawing with the anchors it carries, and its comments
+    // with the shapes of their notes. The other relationships of the sheet are kept.
     void ReadSheetDrawings(std::string_view sheetPartName, const SheetDrawingReferences& drawings, SheetDocument& sheet,
                            CarriedWorksheet& carried) {
         const std::vector<Relationship> relationships = ReadRelationships(archive_, sheetPartName);
@@ -237,8 +240,11 @@ private:
         std::set<std::string> rewrittenIds;
         const Relationship* drawing = related(drawings.drawing, "drawing");
         if (std::optional<std::string> xml = ReadRelatedPart(archive_, drawing)) {
-            sheet.shapes = ReadDrawing(*xml, drawing->target, carried);
             carried.drawing.relationships = ReadRelationships(archive_, drawing->target);
+            std::set<std::string> chartIds;
+            sheet.shapes = ReadDrawing(*xml, drawing->target, carried, ChartLoader(carried.drawing.relationships, chartIds));
+            std::erase_if(carried.drawing.relationships,
+                          [&chartIds](const Relationship& relationship) { return chartIds.count(relationship.id) != 0; });
             carriedParts_.Rewritten(drawing->target);
             rewrittenIds.insert(drawing->id);
         }
@@ -266,6 +272,22 @@ private:
                 carried.worksheet.relationships.push_back(relationship);
             }
         }
+    }
+
+    // Reads the charts a drawing's frames show, when charts are read, noting the ids of the
+    // relationships to those read: the writer writes them anew.
+    ChartFrameLoader ChartLoader(const std::vector<Relationship>& drawingRelationships, std::set<std::string>& readIds) {
+        if (!options_.readCharts) {
+            return {};
+        }
+        return [this, &drawingRelationships, &readIds](std::string_view id) -> std::shared_ptr<const ChartDocument> {
+            const Relationship* relationship = FindRelationship(drawingRelationships, id);
+            std::shared_ptr<const ChartDocument> chart = relationship != nullptr ? charts_.Read(*relationship) : nullptr;
+            if (chart) {
+                readIds.emplace(id);
+            }
+            return chart;
+        };
     }
 
     // Names scoped to a worksheet follow it; those scoped to a carried sheet are carried with it.
@@ -322,6 +344,10 @@ private:
             carriedParts_.Follow(sheet->drawing.relationships);
             carriedParts_.Follow(sheet->legacyDrawing.relationships);
         }
+        const std::vector<std::vector<Relationship>*> chartRelationships = charts_.KeptRelationships();
+        for (const std::vector<Relationship>* relationships : chartRelationships) {
+            carriedParts_.Follow(*relationships);
+        }
         const auto dangling = [this](const Relationship& relationship) {
             return !relationship.external && carried_->parts.count(relationship.target) == 0;
         };
@@ -331,6 +357,9 @@ private:
             std::erase_if(sheet->worksheet.relationships, dangling);
             std::erase_if(sheet->drawing.relationships, dangling);
             std::erase_if(sheet->legacyDrawing.relationships, dangling);
+        }
+        for (std::vector<Relationship>* relationships : chartRelationships) {
+            std::erase_if(*relationships, dangling);
         }
     }
 
@@ -348,19 +377,21 @@ private:
     }
 
     std::string path_;
+    ReadOptions options_;
     ZipArchiveReader archive_;
     ContentTypeMap contentTypes_;
     WorkbookDocument document_;
     std::shared_ptr<CarriedWorkbook> carried_ = std::make_shared<CarriedWorkbook>();
     CarriedPartsReader carriedParts_;
+    ChartPartsReader charts_;
     std::vector<Relationship> carriedSheetRelationships_;
     std::vector<std::shared_ptr<CarriedWorksheet>> carriedWorksheets_;  // the worksheets', while read
 };
 
 }  // namespace
 
-WorkbookDocument ReadPackage(const std::string& path) {
-    return PackageReader(path).Read();
+WorkbookDocument ReadPackage(const std::string& path, const ReadOptions& options) {
+    return PackageReader(path, options).Read();
 }
 
 }  // namespace ooxml

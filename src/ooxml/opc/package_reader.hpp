@@ -6,8 +6,15 @@
 
 namespace ooxml {
 
+struct ReadOptions {
+    // The charts of the sheets' drawings are read into chart documents (a DrawingShape's chart).
+    // Off, they stay carried parts with their anchors, as the file has them: the switch stays off
+    // until the engine writes chart frames back.
+    bool readCharts = false;
+};
+
 // Reads an .xlsx package: everything WritePackage writes, and from files made by Excel at least
 // their cells, formats, names and sheets. Throws PackageError.
-WorkbookDocument ReadPackage(const std::string& path);
+WorkbookDocument ReadPackage(const std::string& path, const ReadOptions& options = {});
 
 }  // namespace ooxml
