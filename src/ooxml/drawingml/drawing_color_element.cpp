@@ -22,6 +22,11 @@ void PercentElement(XmlWriter& xml, std::string_view element, double fraction) {
 
 void WriteSolidFill(XmlWriter& xml, const Color& color, double transparency) {
     xml.StartElement("a:solidFill");
+    WriteDrawingColor(xml, color, transparency);
+    xml.EndElement();
+}
+
+void WriteDrawingColor(XmlWriter& xml, const Color& color, double transparency) {
     if (color.kind == Color::Kind::Theme) {
         xml.StartElement("a:schemeClr");
         xml.Attribute("val", ThemeColorName(color.index));
@@ -39,7 +44,6 @@ void WriteSolidFill(XmlWriter& xml, const Color& color, double transparency) {
     if (transparency > 0.0) {
         PercentElement(xml, "a:alpha", 1.0 - std::min(transparency, 1.0));
     }
-    xml.EndElement();
     xml.EndElement();
 }
 

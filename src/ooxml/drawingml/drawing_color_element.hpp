@@ -14,4 +14,7 @@ namespace ooxml {
 // transparency above 0 is written as the colour's alpha, 1 - transparency.
 void WriteSolidFill(XmlWriter& xml, const Color& color, double transparency = 0.0);
 
+// The colour element alone (<a:schemeClr>, <a:srgbClr>), as a fill's or a gradient stop's.
+void WriteDrawingColor(XmlWriter& xml, const Color& color, double transparency = 0.0);
+
 }  // namespace ooxml
