@@ -1,35 +1,24 @@
 #include "ooxml/chart/chart_drawing_reader.hpp"
 
 #include "ooxml/carried/carried_attributes.hpp"
+#include "ooxml/chart/chart_part_root.hpp"
 #include "ooxml/drawing/text_box_reader.hpp"
 #include "ooxml/xml/xml_node_access.hpp"
-#include "ooxml/xml/xml_part_parser.hpp"
 
 #include <algorithm>
-#include <array>
 #include <string>
 
 namespace ooxml {
 
 namespace {
 
-// The prefixes a chart drawing's writer declares on its root; the file may declare them there too.
-constexpr std::array<std::pair<std::string_view, std::string_view>, 3> RootNamespaces{{
+// The prefixes a chart drawing's writer declares on its root; the file may declare cdr and a there
+// too, or on the elements that use them.
+constexpr NamespaceBinding RootNamespaces[] = {
     {"xmlns:c", "http://schemas.openxmlformats.org/drawingml/2006/chart"},
-    {"xmlns:cdr", "http://schemas.openxmlformats.org/drawingml/2006/chartDrawing"},
-    {"xmlns:a", "http://schemas.openxmlformats.org/drawingml/2006/main"},
-}};
-
-bool BindsRootNamespaces(pugi::xml_node root) {
-    if (std::string_view(root.name()) != "c:userShapes") {
-        return false;
-    }
-    return std::all_of(RootNamespaces.begin(), RootNamespaces.end(), [root](const auto& binding) {
-        const pugi::xml_attribute declared = root.attribute(std::string(binding.first).c_str());
-        return binding.first == "xmlns:c" ? std::string_view(declared.value()) == binding.second
-                                          : !declared || std::string_view(declared.value()) == binding.second;
-    });
-}
+    {"xmlns:cdr", "http://schemas.openxmlformats.org/drawingml/2006/chartDrawing", false},
+    {"xmlns:a", "http://schemas.openxmlformats.org/drawingml/2006/main", false},
+};
 
 // A fraction of the chart's width or height.
 double Fraction(pugi::xml_node corner, std::string_view axis) {
@@ -53,11 +42,8 @@ ChartShape ReadRelativeTextBox(pugi::xml_node anchor, pugi::xml_node textBox) {
 bool ReadChartDrawing(std::string_view xml, ChartDocument& chart) {
     std::string text(xml);
     pugi::xml_document document;
-    if (!document.load_buffer_inplace(text.data(), text.size(), XmlPartParseOptions, pugi::encoding_auto)) {
-        return false;
-    }
-    const pugi::xml_node root = document.document_element();
-    if (!BindsRootNamespaces(root)) {
+    const pugi::xml_node root = ReadChartPartRoot(document, text, "c:userShapes", RootNamespaces);
+    if (!root) {
         return false;
     }
     chart.drawingCarried.rootAttributes = AttributesExcept(root, {"xmlns:c", "xmlns:cdr", "xmlns:a"});

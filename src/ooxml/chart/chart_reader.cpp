@@ -4,13 +4,12 @@
 #include "ooxml/chart/chart_child_reader.hpp"
 #include "ooxml/chart/chart_element_order.hpp"
 #include "ooxml/chart/chart_group_reader.hpp"
+#include "ooxml/chart/chart_part_root.hpp"
 #include "ooxml/chart/chart_shape_properties_reader.hpp"
 #include "ooxml/chart/chart_text_reader.hpp"
 #include "ooxml/chart/chart_title_reader.hpp"
 #include "ooxml/chart/chart_values.hpp"
-#include "ooxml/xml/xml_part_parser.hpp"
 
-#include <array>
 #include <string>
 
 namespace ooxml {
@@ -20,23 +19,11 @@ namespace {
 constexpr int32_t ExcelStyle = 2;
 
 // The prefixes the chart writer writes, bound as Excel binds them.
-constexpr std::array<std::pair<std::string_view, std::string_view>, 3> WrittenNamespaces{{
+constexpr NamespaceBinding WrittenNamespaces[] = {
     {"xmlns:c", "http://schemas.openxmlformats.org/drawingml/2006/chart"},
     {"xmlns:a", "http://schemas.openxmlformats.org/drawingml/2006/main"},
     {"xmlns:r", "http://schemas.openxmlformats.org/officeDocument/2006/relationships"},
-}};
-
-bool BindsWrittenNamespaces(pugi::xml_node root) {
-    if (std::string_view(root.name()) != "c:chartSpace") {
-        return false;
-    }
-    for (const auto& [name, uri] : WrittenNamespaces) {
-        if (std::string_view(root.attribute(std::string(name).c_str()).value()) != uri) {
-            return false;
-        }
-    }
-    return true;
-}
+};
 
 bool IsAxis(std::string_view name) {
     return name == "catAx" || name == "valAx" || name == "dateAx" || name == "serAx";
@@ -143,11 +130,8 @@ void ReadChartSpace(pugi::xml_node root, const ChartDrawingLoader& loadDrawing, 
 std::optional<ChartDocument> ReadChart(std::string_view xml, const ChartDrawingLoader& loadDrawing) {
     std::string text(xml);
     pugi::xml_document document;
-    if (!document.load_buffer_inplace(text.data(), text.size(), XmlPartParseOptions, pugi::encoding_auto)) {
-        return std::nullopt;
-    }
-    const pugi::xml_node root = document.document_element();
-    if (!BindsWrittenNamespaces(root)) {
+    const pugi::xml_node root = ReadChartPartRoot(document, text, "c:chartSpace", WrittenNamespaces);
+    if (!root) {
         return std::nullopt;
     }
     ChartDocument chart;
