@@ -2,33 +2,18 @@
 
 #include "ooxml/carried/carried_attributes.hpp"
 #include "ooxml/carried/carried_element_writer.hpp"
-#include "ooxml/drawingml/drawing_color_element.hpp"
-#include "ooxml/drawingml/pitch_family.hpp"
-#include "ooxml/drawingml/text_box_paragraphs.hpp"
+#include "ooxml/drawingml/text_box_shape.hpp"
 
 #include <algorithm>
-#include <array>
-#include <cmath>
 
 namespace ooxml {
 
 namespace {
 
-constexpr std::array<std::string_view, 5> VerticalAnchors{"t", "ctr", "b", "just", "dist"};
-constexpr std::array<std::string_view, 6> Alignments{"ctr", "r", "just", "justLow", "dist", "thaiDist"};
-// The insets a text body has when bodyPr leaves them out (EMU).
-constexpr int64_t DefaultSideInset = 91440;
-constexpr int64_t DefaultEdgeInset = 45720;
-const Color DefaultTextColor{Color::Kind::Theme, 0, 1, 0.0};
-
-template <std::size_t N>
-bool OneOf(const std::array<std::string_view, N>& values, std::string_view value) {
-    return std::find(values.begin(), values.end(), value) != values.end();
-}
-
 class DrawingWriter {
 public:
-    explicit DrawingWriter(XmlWriter& xml) : xml_(xml) {}
+    DrawingWriter(XmlWriter& xml, const std::vector<std::string>& chartRelationshipIds)
+        : xml_(xml), chartRelationshipIds_(chartRelationshipIds) {}
 
     void Write(const SheetDocument& sheet) {
         xml_.Declaration();
@@ -39,32 +24,29 @@ public:
         if (carried != nullptr) {
             WriteCarriedAttributes(xml_, carried->rootAttributes);
         }
-        // The anchors the file had beyond text boxes keep their place among them.
+        // The anchors the file had beyond text boxes and charts keep their place among them.
         CarriedElementWriter anchors(xml_, carried != nullptr ? &carried->elements : nullptr);
         for (std::size_t i = 0; i < sheet.shapes.size(); ++i) {
             anchors.Through(static_cast<uint16_t>(std::min<std::size_t>(i, UINT16_MAX)));
-            WriteTextBox(sheet.shapes[i]);
+            WriteAnchor(sheet.shapes[i]);
         }
         anchors.Rest();
         xml_.EndElement();
     }
 
 private:
-    void WriteTextBox(const DrawingShape& box) {
+    void WriteAnchor(const DrawingShape& shape) {
         xml_.StartElement("xdr:twoCellAnchor");
-        if (box.editAs == "oneCell" || box.editAs == "absolute") {
-            xml_.Attribute("editAs", box.editAs);
+        if (shape.editAs == "oneCell" || shape.editAs == "absolute") {
+            xml_.Attribute("editAs", shape.editAs);
         }
-        WriteCorner("xdr:from", box.from);
-        WriteCorner("xdr:to", box.to);
-        xml_.StartElement("xdr:sp");
-        xml_.Attribute("macro", box.macro);
-        xml_.Attribute("textlink", "");
-        WriteNonVisualProperties(box);
-        WriteShapeProperties(box);
-        WriteStyle();
-        WriteTextBody(box);
-        xml_.EndElement();
+        WriteCorner("xdr:from", shape.from);
+        WriteCorner("xdr:to", shape.to);
+        if (shape.chart) {
+            WriteChartFrame(shape);
+        } else {
+            WriteTextBoxShape(xml_, shape, SheetTextBoxDrawing);
+        }
         xml_.StartElement("xdr:clientData");
         xml_.EndElement();
         xml_.EndElement();
@@ -86,201 +68,64 @@ private:
         xml_.EndElement();
     }
 
-    void WriteNonVisualProperties(const DrawingShape& box) {
-        xml_.StartElement("xdr:nvSpPr");
+    // A chart sits in a graphic frame whose own transform Excel leaves at zero: the anchor sizes it.
+    void WriteChartFrame(const DrawingShape& frame) {
+        xml_.StartElement("xdr:graphicFrame");
+        xml_.Attribute("macro", frame.macro);
+        WriteFrameNonVisualProperties(frame);
+        xml_.StartElement("xdr:xfrm");
+        xml_.StartElement("a:off");
+        xml_.Attribute("x", 0);
+        xml_.Attribute("y", 0);
+        xml_.EndElement();
+        xml_.StartElement("a:ext");
+        xml_.Attribute("cx", 0);
+        xml_.Attribute("cy", 0);
+        xml_.EndElement();
+        xml_.EndElement();
+        xml_.StartElement("a:graphic");
+        xml_.StartElement("a:graphicData");
+        xml_.Attribute("uri", "http://schemas.openxmlformats.org/drawingml/2006/chart");
+        xml_.StartElement("c:chart");
+        xml_.Attribute("xmlns:c", "http://schemas.openxmlformats.org/drawingml/2006/chart");
+        xml_.Attribute("xmlns:r", "http://schemas.openxmlformats.org/officeDocument/2006/relationships");
+        xml_.Attribute("r:id", NextChartRelationshipId());
+        xml_.EndElement();
+        xml_.EndElement();
+        xml_.EndElement();
+        xml_.EndElement();
+    }
+
+    void WriteFrameNonVisualProperties(const DrawingShape& frame) {
+        xml_.StartElement("xdr:nvGraphicFramePr");
         xml_.StartElement("xdr:cNvPr");
-        xml_.Attribute("id", box.id);
-        xml_.Attribute("name", box.name);
-        if (box.hidden) {
+        xml_.Attribute("id", frame.id);
+        xml_.Attribute("name", frame.name);
+        if (frame.hidden) {
             xml_.Attribute("hidden", "1");
         }
         xml_.EndElement();
-        xml_.StartElement("xdr:cNvSpPr");
-        xml_.Attribute("txBox", "1");
-        xml_.EndElement();
-        xml_.EndElement();
-    }
-
-    void WriteShapeProperties(const DrawingShape& box) {
-        xml_.StartElement("xdr:spPr");
-        xml_.StartElement("a:xfrm");
-        xml_.StartElement("a:off");
-        xml_.Attribute("x", box.x);
-        xml_.Attribute("y", box.y);
-        xml_.EndElement();
-        xml_.StartElement("a:ext");
-        xml_.Attribute("cx", std::max<int64_t>(box.width, 0));
-        xml_.Attribute("cy", std::max<int64_t>(box.height, 0));
-        xml_.EndElement();
-        xml_.EndElement();
-        xml_.StartElement("a:prstGeom");
-        xml_.Attribute("prst", "rect");
-        xml_.StartElement("a:avLst");
-        xml_.EndElement();
-        xml_.EndElement();
-        WriteFill(box.fill, box.fillTransparency);
-        xml_.StartElement("a:ln");
-        xml_.Attribute("w", std::clamp<int64_t>(box.lineWidth, 0, MaxLineWidth));
-        xml_.Attribute("cmpd", "sng");
-        WriteFill(box.line);
-        xml_.EndElement();
-        xml_.EndElement();
-    }
-
-    void WriteFill(const std::optional<Color>& color, double transparency = 0.0) {
-        if (color) {
-            WriteSolidFill(xml_, *color, transparency);
-        } else {
-            xml_.StartElement("a:noFill");
-            xml_.EndElement();
-        }
-    }
-
-    // The style Excel gives an inserted text box: no theme line, fill or effect; the minor font in Text 1.
-    void WriteStyle() {
-        xml_.StartElement("xdr:style");
-        for (const std::string_view reference : {"a:lnRef", "a:fillRef", "a:effectRef"}) {
-            xml_.StartElement(reference);
-            xml_.Attribute("idx", 0);
-            xml_.StartElement("a:scrgbClr");
-            xml_.Attribute("r", 0);
-            xml_.Attribute("g", 0);
-            xml_.Attribute("b", 0);
-            xml_.EndElement();
-            xml_.EndElement();
-        }
-        xml_.StartElement("a:fontRef");
-        xml_.Attribute("idx", "minor");
-        xml_.StartElement("a:schemeClr");
-        xml_.Attribute("val", "dk1");
+        xml_.StartElement("xdr:cNvGraphicFramePr");
+        xml_.StartElement("a:graphicFrameLocks");
         xml_.EndElement();
         xml_.EndElement();
         xml_.EndElement();
     }
 
-    void WriteTextBody(const DrawingShape& box) {
-        xml_.StartElement("xdr:txBody");
-        xml_.StartElement("a:bodyPr");
-        xml_.Attribute("wrap", box.wrap ? "square" : "none");
-        WriteInset("lIns", box.insetLeft, DefaultSideInset);
-        WriteInset("tIns", box.insetTop, DefaultEdgeInset);
-        WriteInset("rIns", box.insetRight, DefaultSideInset);
-        WriteInset("bIns", box.insetBottom, DefaultEdgeInset);
-        xml_.Attribute("rtlCol", "0");
-        xml_.Attribute("anchor", OneOf(VerticalAnchors, box.verticalAnchor) ? std::string_view(box.verticalAnchor) : "t");
-        if (box.autoFit) {
-            xml_.StartElement("a:spAutoFit");
-            xml_.EndElement();
-        }
-        xml_.EndElement();
-        xml_.StartElement("a:lstStyle");
-        xml_.EndElement();
-        const bool aligned = OneOf(Alignments, box.alignment);
-        for (const TextParagraph& paragraph : SplitIntoParagraphs(box.text)) {
-            xml_.StartElement("a:p");
-            if (aligned) {
-                xml_.StartElement("a:pPr");
-                xml_.Attribute("algn", box.alignment);
-                xml_.EndElement();
-            }
-            for (const TextParagraph::Run& run : paragraph.runs) {
-                xml_.StartElement("a:r");
-                WriteRunProperties("a:rPr", run.font);
-                xml_.StartElement("a:t");
-                xml_.LiteralText(run.text);
-                xml_.EndElement();
-                xml_.EndElement();
-            }
-            if (paragraph.runs.empty()) {
-                WriteRunProperties("a:endParaRPr", paragraph.endFont);
-            }
-            xml_.EndElement();
-        }
-        xml_.EndElement();
+    std::string_view NextChartRelationshipId() {
+        return nextChart_ < chartRelationshipIds_.size() ? std::string_view(chartRelationshipIds_[nextChart_++])
+                                                         : std::string_view();
     }
-
-    void WriteInset(std::string_view attribute, int64_t inset, int64_t standard) {
-        if (inset != standard) {
-            xml_.Attribute(attribute, std::clamp<int64_t>(inset, 0, MaxCoordinate));
-        }
-    }
-
-    // A run without a font gets what Excel writes for text in the default font.
-    void WriteRunProperties(std::string_view element, const Font* font) {
-        xml_.StartElement(element);
-        xml_.Attribute("lang", "en-US");
-        if (font == nullptr) {
-            xml_.Attribute("sz", DefaultTextSize);
-            xml_.EndElement();
-            return;
-        }
-        xml_.Attribute("sz", std::clamp<int64_t>(std::lround(font->size * 100.0), MinTextSize, MaxTextSize));
-        if (font->bold) {
-            xml_.Attribute("b", "1");
-        }
-        if (font->italic) {
-            xml_.Attribute("i", "1");
-        }
-        if (font->underline == "single" || font->underline == "singleAccounting") {
-            xml_.Attribute("u", "sng");
-        } else if (font->underline == "double" || font->underline == "doubleAccounting") {
-            xml_.Attribute("u", "dbl");
-        }
-        if (font->strike) {
-            xml_.Attribute("strike", "sngStrike");
-        }
-        if (font->vertAlign == "superscript") {
-            xml_.Attribute("baseline", SuperscriptBaseline);
-        } else if (font->vertAlign == "subscript") {
-            xml_.Attribute("baseline", SubscriptBaseline);
-        }
-        if (font->color.kind != Color::Kind::None && font->color.kind != Color::Kind::Auto &&
-            font->color != DefaultTextColor) {
-            WriteSolidFill(xml_, font->color);
-        }
-        WriteTypeface(*font);
-        xml_.EndElement();
-    }
-
-    // The theme's minor font is the shape's own (its style's font reference); a major-scheme font
-    // refers to the theme, any other font is named.
-    void WriteTypeface(const Font& font) {
-        if (font.scheme == "minor") {
-            return;
-        }
-        const bool major = font.scheme == "major";
-        if (!major && font.name.empty()) {
-            return;
-        }
-        for (const std::string_view element : {"a:latin", "a:cs"}) {
-            xml_.StartElement(element);
-            if (major) {
-                xml_.Attribute("typeface", element == "a:latin" ? "+mj-lt" : "+mj-cs");
-            } else {
-                xml_.Attribute("typeface", font.name);
-                if (font.family > 0) {
-                    xml_.Attribute("pitchFamily", PitchFamily(font.family));
-                }
-            }
-            xml_.EndElement();
-        }
-    }
-
-    static constexpr int64_t MaxLineWidth = 20116800;
-    static constexpr int64_t MaxCoordinate = 27273042316900;
-    static constexpr int64_t DefaultTextSize = 1100;
-    static constexpr int64_t MinTextSize = 100;
-    static constexpr int64_t MaxTextSize = 400000;
-    static constexpr int32_t SuperscriptBaseline = 30000;
-    static constexpr int32_t SubscriptBaseline = -25000;
 
     XmlWriter& xml_;
+    const std::vector<std::string>& chartRelationshipIds_;
+    std::size_t nextChart_ = 0;
 };
 
 }  // namespace
 
-void WriteDrawingPart(XmlWriter& xml, const SheetDocument& sheet) {
-    DrawingWriter(xml).Write(sheet);
+void WriteDrawingPart(XmlWriter& xml, const SheetDocument& sheet, const std::vector<std::string>& chartRelationshipIds) {
+    DrawingWriter(xml, chartRelationshipIds).Write(sheet);
 }
 
 }  // namespace ooxml

@@ -1,6 +1,8 @@
 // The drawing part: text boxes written as Excel writes the text boxes it inserts
-// (cells-drawings-xlsxwriter/xw__textbox*.xlsx of the corpus).
+// (cells-drawings-xlsxwriter/xw__textbox*.xlsx of the corpus), and the frames of charts as Excel
+// 2010 and later write them (realworld-excel/poi__StructuredRefs-lots-with-lookups.xlsx).
 
+#include "ooxml/document/chart_document.hpp"
 #include "ooxml/drawing/drawing_part.hpp"
 #include "ooxml/writer_test_support.hpp"
 
@@ -9,12 +11,14 @@
 namespace {
 
 using namespace ooxml;
-using writer_test::WriteSheetPart;
+using writer_test::ParseXml;
+using writer_test::WriteToString;
 
-std::unique_ptr<pugi::xml_document> Write(const std::vector<DrawingShape>& boxes) {
+std::unique_ptr<pugi::xml_document> Write(const std::vector<DrawingShape>& shapes,
+                                          const std::vector<std::string>& chartIds = {}) {
     SheetDocument sheet;
-    sheet.shapes = boxes;
-    return WriteSheetPart(WriteDrawingPart, sheet);
+    sheet.shapes = shapes;
+    return ParseXml(WriteToString([&](XmlWriter& xml) { WriteDrawingPart(xml, sheet, chartIds); }));
 }
 
 DrawingShape Box(std::string text) {
@@ -274,6 +278,79 @@ TEST(DrawingPart, HiddenBoxesAndMacrosAreMarked) {
     auto xml = Write({box});
     EXPECT_STREQ(Shape(*xml).child("xdr:nvSpPr").child("xdr:cNvPr").attribute("hidden").value(), "1");
     EXPECT_STREQ(Shape(*xml).attribute("macro").value(), "Module1.Click");
+}
+
+DrawingShape ChartFrame(std::string name) {
+    DrawingShape frame;
+    frame.name = std::move(name);
+    frame.chart = std::make_shared<ChartDocument>();
+    return frame;
+}
+
+TEST(DrawingPart, ChartIsAGraphicFrameAsExcelWritesIt) {
+    DrawingShape frame = ChartFrame("Chart 1");
+    frame.id = 2;
+    frame.editAs = "oneCell";
+    frame.from = CellAnchor{4, 47624, 21, 99059};
+    frame.to = CellAnchor{9, 504824, 36, 175259};
+    auto xml = Write({frame}, {"rId1"});
+    const pugi::xml_node anchor = Anchor(*xml);
+    EXPECT_STREQ(anchor.attribute("editAs").value(), "oneCell");
+    EXPECT_STREQ(anchor.child("xdr:from").child_value("xdr:colOff"), "47624");
+    EXPECT_STREQ(anchor.child("xdr:to").child_value("xdr:row"), "36");
+    EXPECT_FALSE(anchor.child("xdr:sp"));
+    const pugi::xml_node graphicFrame = anchor.child("xdr:graphicFrame");
+    ASSERT_TRUE(graphicFrame);
+    EXPECT_EQ(graphicFrame.previous_sibling(), anchor.child("xdr:to"));
+    EXPECT_EQ(graphicFrame.next_sibling(), anchor.child("xdr:clientData"));
+    EXPECT_STREQ(graphicFrame.attribute("macro").value(), "");
+
+    const pugi::xml_node names = graphicFrame.first_child();
+    EXPECT_STREQ(names.name(), "xdr:nvGraphicFramePr");
+    EXPECT_EQ(names.child("xdr:cNvPr").attribute("id").as_int(), 2);
+    EXPECT_STREQ(names.child("xdr:cNvPr").attribute("name").value(), "Chart 1");
+    EXPECT_FALSE(names.child("xdr:cNvPr").attribute("hidden"));
+    EXPECT_TRUE(names.child("xdr:cNvGraphicFramePr").child("a:graphicFrameLocks"));
+
+    const pugi::xml_node transform = names.next_sibling();
+    EXPECT_STREQ(transform.name(), "xdr:xfrm");
+    for (const char* attribute : {"x", "y"}) {
+        EXPECT_STREQ(transform.child("a:off").attribute(attribute).value(), "0") << attribute;
+    }
+    for (const char* attribute : {"cx", "cy"}) {
+        EXPECT_STREQ(transform.child("a:ext").attribute(attribute).value(), "0") << attribute;
+    }
+
+    const pugi::xml_node data = transform.next_sibling();
+    EXPECT_STREQ(data.name(), "a:graphic");
+    EXPECT_STREQ(data.child("a:graphicData").attribute("uri").value(),
+                 "http://schemas.openxmlformats.org/drawingml/2006/chart");
+    const pugi::xml_node chart = data.child("a:graphicData").child("c:chart");
+    EXPECT_STREQ(chart.attribute("xmlns:c").value(), "http://schemas.openxmlformats.org/drawingml/2006/chart");
+    EXPECT_STREQ(chart.attribute("xmlns:r").value(),
+                 "http://schemas.openxmlformats.org/officeDocument/2006/relationships");
+    EXPECT_STREQ(chart.attribute("r:id").value(), "rId1");
+}
+
+TEST(DrawingPart, ChartsAndTextBoxesKeepTheirZOrderAndEachChartItsRelationship) {
+    auto xml = Write({Box("under"), ChartFrame("Chart 1"), Box("between"), ChartFrame("Chart 2")}, {"rId3", "rId4"});
+    EXPECT_STREQ(Shape(*xml, 0).child("xdr:txBody").child("a:p").child("a:r").child_value("a:t"), "under");
+    EXPECT_STREQ(Anchor(*xml, 1).child("xdr:graphicFrame").child("xdr:nvGraphicFramePr").child("xdr:cNvPr")
+                     .attribute("name").value(),
+                 "Chart 1");
+    EXPECT_STREQ(Anchor(*xml, 1).select_node(".//c:chart").node().attribute("r:id").value(), "rId3");
+    EXPECT_STREQ(Shape(*xml, 2).child("xdr:txBody").child("a:p").child("a:r").child_value("a:t"), "between");
+    EXPECT_STREQ(Anchor(*xml, 3).select_node(".//c:chart").node().attribute("r:id").value(), "rId4");
+}
+
+TEST(DrawingPart, HiddenChartsAndTheirMacrosAreMarked) {
+    DrawingShape frame = ChartFrame("Chart 1");
+    frame.hidden = true;
+    frame.macro = "[0]!ChartClick";
+    auto xml = Write({frame}, {"rId1"});
+    const pugi::xml_node graphicFrame = Anchor(*xml).child("xdr:graphicFrame");
+    EXPECT_STREQ(graphicFrame.attribute("macro").value(), "[0]!ChartClick");
+    EXPECT_STREQ(graphicFrame.child("xdr:nvGraphicFramePr").child("xdr:cNvPr").attribute("hidden").value(), "1");
 }
 
 }  // namespace
