@@ -1,5 +1,7 @@
 #include "ooxml/opc/carried_parts_writer.hpp"
 
+#include "ooxml/document/chart_document.hpp"
+
 namespace ooxml {
 
 CarriedPartsPlan::CarriedPartsPlan(const WorkbookDocument& document,
@@ -18,6 +20,12 @@ CarriedPartsPlan::CarriedPartsPlan(const WorkbookDocument& document,
             Follow(sheet.carried->worksheet.relationships);
             Follow(sheet.carried->drawing.relationships);
             Follow(sheet.carried->legacyDrawing.relationships);
+        }
+        for (const DrawingShape& shape : sheet.shapes) {
+            if (shape.chart) {
+                Follow(shape.chart->carried.relationships);
+                Follow(shape.chart->drawingCarried.relationships);
+            }
         }
     }
 }

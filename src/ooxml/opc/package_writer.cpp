@@ -1,5 +1,7 @@
 #include "ooxml/opc/package_writer.hpp"
 
+#include "ooxml/chart/chart_drawing_part.hpp"
+#include "ooxml/chart/chart_part.hpp"
 #include "ooxml/comments/comments_part.hpp"
 #include "ooxml/comments/vml_drawing_part.hpp"
 #include "ooxml/drawing/drawing_part.hpp"
@@ -26,6 +28,7 @@
 #include <array>
 #include <cctype>
 #include <iterator>
+#include <optional>
 #include <filesystem>
 #include <set>
 #include <vector>
@@ -60,34 +63,86 @@ void CheckDocument(const WorkbookDocument& document) {
             refuse("the name " + name.name + " belongs to a sheet that does not exist");
         }
     }
+    for (const SheetDocument& sheet : document.sheets) {
+        for (const DrawingShape& shape : sheet.shapes) {
+            if (shape.chart && !WritableChart(*shape.chart)) {
+                refuse("the chart " + shape.name + " has a chart type or axis that cannot be written");
+            }
+        }
+    }
 }
 
-// The drawing and comment parts of the sheets, numbered across the workbook.
+// The drawing, chart and comment parts of the sheets, numbered across the workbook.
 struct DrawingPlan {
     std::vector<PackagePart> drawings;
+    std::vector<PackagePart> charts;  // each chart, then its drawing
     std::vector<PackagePart> comments;  // each sheet's comments, then their legacy drawing
     uint32_t drawingCount = 0;
+    uint32_t chartCount = 0;
     uint32_t commentsCount = 0;
     uint32_t vmlDrawingCount = 0;
     VmlIdBlocks vmlIdBlocks;
 };
 
-// Plans the parts that hold a sheet's text boxes (with the anchors its opened drawing carries) and
-// comments, related from the sheet's part; returns the ids the worksheet refers to them by.
+void KeepRelationships(PackagePart& part, const std::vector<Relationship>& relationships) {
+    for (const Relationship& relationship : relationships) {
+        part.relationships.Keep(relationship, part.path);
+    }
+}
+
+// Plans a chart's part, with the relationships its carried markup uses and, when it has text
+// boxes, its drawing, numbered with the sheets' drawings; returns the chart part's name.
+std::string PlanChart(const ChartDocument& chart, PartNames& names, DrawingPlan& plan) {
+    PackagePart part{names.Next("xl/charts/chart", plan.chartCount, ".xml"), kChartContentType, {}, {}};
+    KeepRelationships(part, chart.carried.relationships);
+    std::optional<PackagePart> drawing;
+    std::string userShapesId;
+    if (HasChartDrawing(chart)) {
+        drawing.emplace(names.Next("xl/drawings/drawing", plan.drawingCount, ".xml"), kChartDrawingContentType,
+                        [&chart](XmlWriter& xml) { WriteChartDrawingPart(xml, chart); });
+        KeepRelationships(*drawing, chart.drawingCarried.relationships);
+        userShapesId =
+            part.relationships.Add(kChartUserShapesRelationshipType, RelativeTarget(part.path, drawing->path));
+    }
+    part.write = [&chart, userShapesId](XmlWriter& xml) { WriteChartPart(xml, chart, userShapesId); };
+    std::string path = part.path;
+    plan.charts.push_back(std::move(part));
+    if (drawing) {
+        plan.charts.push_back(std::move(*drawing));
+    }
+    return path;
+}
+
+// Plans a sheet's drawing: its text boxes, its charts' frames (each related to its chart's part)
+// and the anchors its opened drawing carries.
+std::string PlanSheetDrawing(const SheetDocument& sheet, const CarriedMarkup* carried, PartNames& names,
+                             DrawingPlan& plan) {
+    PackagePart part{names.Next("xl/drawings/drawing", plan.drawingCount, ".xml"), kDrawingContentType, {}, {}};
+    if (carried != nullptr) {
+        KeepRelationships(part, carried->relationships);
+    }
+    std::vector<std::string> chartIds;
+    for (const DrawingShape& shape : sheet.shapes) {
+        if (shape.chart) {
+            const std::string chart = PlanChart(*shape.chart, names, plan);
+            chartIds.push_back(part.relationships.Add(kChartRelationshipType, RelativeTarget(part.path, chart)));
+        }
+    }
+    part.write = [&sheet, chartIds = std::move(chartIds)](XmlWriter& xml) { WriteDrawingPart(xml, sheet, chartIds); };
+    std::string path = part.path;
+    plan.drawings.push_back(std::move(part));
+    return path;
+}
+
+// Plans the parts that hold a sheet's text boxes and charts (with the anchors its opened drawing
+// carries) and comments, related from the sheet's part; returns the ids the worksheet refers to them by.
 SheetDrawingReferences PlanSheetDrawings(const SheetDocument& sheet, PackagePart& sheetPart, PartNames& names,
                                          DrawingPlan& plan) {
     SheetDrawingReferences references;
     const CarriedMarkup* carried = sheet.carried ? &sheet.carried->drawing : nullptr;
     if (!sheet.shapes.empty() || (carried != nullptr && !carried->elements.empty())) {
-        const std::string drawing = names.Next("xl/drawings/drawing", plan.drawingCount, ".xml");
+        const std::string drawing = PlanSheetDrawing(sheet, carried, names, plan);
         references.drawing = sheetPart.relationships.Add(kDrawingRelationshipType, RelativeTarget(sheetPart.path, drawing));
-        PackagePart part{drawing, kDrawingContentType, [&sheet](XmlWriter& xml) { WriteDrawingPart(xml, sheet); }, {}};
-        if (carried != nullptr) {
-            for (const Relationship& relationship : carried->relationships) {
-                part.relationships.Keep(relationship, drawing);
-            }
-        }
-        plan.drawings.push_back(std::move(part));
     }
     // The legacy drawing holds the notes and the shapes the opened one carries (form controls,
     // embedded objects' icons), with their relationships.
@@ -110,9 +165,7 @@ SheetDrawingReferences PlanSheetDrawings(const SheetDocument& sheet, PackagePart
                          },
                          {}};
         if (legacy != nullptr) {
-            for (const Relationship& relationship : legacy->relationships) {
-                part.relationships.Keep(relationship, vmlDrawing);
-            }
+            KeepRelationships(part, legacy->relationships);
         }
         plan.comments.push_back(std::move(part));
     }
@@ -269,7 +322,7 @@ void PlanPackage(const WorkbookDocument& document, const std::string& path, Pack
                                  },
                                  {}});
     }
-    for (std::vector<PackagePart>* parts : {&drawingPlan.drawings, &drawingPlan.comments}) {
+    for (std::vector<PackagePart>* parts : {&drawingPlan.drawings, &drawingPlan.charts, &drawingPlan.comments}) {
         for (PackagePart& part : *parts) {
             package.parts.push_back(std::move(part));
         }
