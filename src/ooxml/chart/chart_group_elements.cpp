@@ -35,8 +35,8 @@ constexpr int32_t MaxGapWidth = 500;
 constexpr int32_t MaxOverlap = 100;
 
 const GroupKind* KindOf(std::string_view type) {
-    const auto kind =
-        std::find_if(GroupKinds.begin(), GroupKinds.end(), [type](const GroupKind& known) { return known.type == type; });
+    const auto kind = std::find_if(GroupKinds.begin(), GroupKinds.end(),
+                                   [type](const GroupKind& known) { return known.type == type; });
     return kind != GroupKinds.end() ? &*kind : nullptr;
 }
 

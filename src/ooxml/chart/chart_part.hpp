@@ -7,7 +7,8 @@
 
 namespace ooxml {
 
-inline constexpr std::string_view kChartContentType = "application/vnd.openxmlformats-officedocument.drawingml.chart+xml";
+inline constexpr std::string_view kChartContentType =
+    "application/vnd.openxmlformats-officedocument.drawingml.chart+xml";
 inline constexpr std::string_view kChartRelationshipType =
     "http://schemas.openxmlformats.org/officeDocument/2006/relationships/chart";
 

@@ -124,7 +124,8 @@ private:
 
 }  // namespace
 
-void WriteDrawingPart(XmlWriter& xml, const SheetDocument& sheet, const std::vector<std::string>& chartRelationshipIds) {
+void WriteDrawingPart(XmlWriter& xml, const SheetDocument& sheet,
+                      const std::vector<std::string>& chartRelationshipIds) {
     DrawingWriter(xml, chartRelationshipIds).Write(sheet);
 }
 

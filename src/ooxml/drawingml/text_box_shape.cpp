@@ -127,7 +127,8 @@ private:
         WriteInset("rIns", box.insetRight, DefaultSideInset);
         WriteInset("bIns", box.insetBottom, DefaultEdgeInset);
         xml_.Attribute("rtlCol", "0");
-        xml_.Attribute("anchor", OneOf(VerticalAnchors, box.verticalAnchor) ? std::string_view(box.verticalAnchor) : "t");
+        xml_.Attribute("anchor",
+                       OneOf(VerticalAnchors, box.verticalAnchor) ? std::string_view(box.verticalAnchor) : "t");
         if (box.autoFit) {
             xml_.StartElement("a:spAutoFit");
             xml_.EndElement();

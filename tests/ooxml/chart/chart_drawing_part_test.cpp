@@ -1,8 +1,8 @@
 // The chart drawing part: a chart's text boxes in anchors sized by fractions of the chart, as the
 // Excel 2007 template with text boxes in a chart that the chart research note quotes has them.
 
-#include "ooxml/carried/carried_attributes.hpp"
 #include "ooxml/chart/chart_drawing_part.hpp"
+#include "ooxml/carried/carried_attributes.hpp"
 #include "ooxml/drawing/drawing_part.hpp"
 #include "ooxml/writer_test_support.hpp"
 
@@ -12,9 +12,9 @@
 namespace {
 
 using namespace ooxml;
+using ::testing::ElementsAre;
 using writer_test::ParseXml;
 using writer_test::WriteToString;
-using ::testing::ElementsAre;
 
 std::unique_ptr<pugi::xml_document> Write(const ChartDocument& chart) {
     return ParseXml(WriteToString([&](XmlWriter& xml) { WriteChartDrawingPart(xml, chart); }));
@@ -128,12 +128,14 @@ TEST(ChartDrawingPart, ShapeIsTheSheetDrawingsTextBoxButForItsStyle) {
 TEST(ChartDrawingPart, TextBoxesKeepTheirOrderAndCarriedAnchorsTheirPlaceAmongThem) {
     ChartDocument chart;
     chart.shapes = {TextBox("first"), TextBox("second")};
-    chart.drawingCarried.rootAttributes = {{"xmlns:r", "http://schemas.openxmlformats.org/officeDocument/2006/relationships"}};
+    chart.drawingCarried.rootAttributes = {
+        {"xmlns:r", "http://schemas.openxmlformats.org/officeDocument/2006/relationships"}};
     chart.drawingCarried.elements = {{1, "absSizeAnchor", "<cdr:absSizeAnchor><cdr:pic/></cdr:absSizeAnchor>"},
                                      {2, "relSizeAnchor", "<cdr:relSizeAnchor><cdr:grpSp/></cdr:relSizeAnchor>"}};
     auto xml = Write(chart);
     const pugi::xml_node root = xml->child("c:userShapes");
-    EXPECT_STREQ(root.attribute("xmlns:r").value(), "http://schemas.openxmlformats.org/officeDocument/2006/relationships");
+    EXPECT_STREQ(root.attribute("xmlns:r").value(),
+                 "http://schemas.openxmlformats.org/officeDocument/2006/relationships");
     EXPECT_THAT(Names(root),
                 ElementsAre("cdr:relSizeAnchor", "cdr:absSizeAnchor", "cdr:relSizeAnchor", "cdr:relSizeAnchor"));
     const pugi::xml_node second = root.first_child().next_sibling().next_sibling();

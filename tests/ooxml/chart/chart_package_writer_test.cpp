@@ -210,7 +210,8 @@ TEST_F(ChartPackageWriterTest, EachChartHasItsPartAndTheChartWithTextBoxesItsDra
     auto drawing = ParsePart(path_, "xl/drawings/drawing1.xml");
     std::vector<std::string> charts;
     for (const pugi::xpath_node chart : drawing->select_nodes("//c:chart")) {
-        charts.push_back(Target("xl/drawings/_rels/drawing1.xml.rels", chart.node().attribute("r:id").value(), chartType));
+        charts.push_back(
+            Target("xl/drawings/_rels/drawing1.xml.rels", chart.node().attribute("r:id").value(), chartType));
     }
     EXPECT_THAT(charts, ::testing::ElementsAre("../charts/chart1.xml", "../charts/chart2.xml"));
     EXPECT_TRUE(drawing->select_node("/xdr:wsDr/xdr:twoCellAnchor[1]/xdr:sp")) << "the text box stays at the bottom";
@@ -231,8 +232,10 @@ TEST_F(ChartPackageWriterTest, ChartsAndChartDrawingsHaveTheirContentTypes) {
     const auto contentType = [&](const char* part) {
         return std::string(root.find_child_by_attribute("Override", "PartName", part).attribute("ContentType").value());
     };
-    EXPECT_EQ(contentType("/xl/charts/chart1.xml"), "application/vnd.openxmlformats-officedocument.drawingml.chart+xml");
-    EXPECT_EQ(contentType("/xl/charts/chart2.xml"), "application/vnd.openxmlformats-officedocument.drawingml.chart+xml");
+    EXPECT_EQ(contentType("/xl/charts/chart1.xml"),
+              "application/vnd.openxmlformats-officedocument.drawingml.chart+xml");
+    EXPECT_EQ(contentType("/xl/charts/chart2.xml"),
+              "application/vnd.openxmlformats-officedocument.drawingml.chart+xml");
     EXPECT_EQ(contentType("/xl/drawings/drawing1.xml"), "application/vnd.openxmlformats-officedocument.drawing+xml");
     EXPECT_EQ(contentType("/xl/drawings/drawing2.xml"),
               "application/vnd.openxmlformats-officedocument.drawingml.chartshapes+xml");

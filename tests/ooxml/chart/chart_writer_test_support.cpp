@@ -98,14 +98,24 @@ std::unique_ptr<pugi::xml_document> CorpusPart(const std::string& file, const st
     return ::testing::AssertionSuccess();
 }
 
-const std::set<std::string>& ExplicitDefaults() {
-    static const std::set<std::string> names{
-        "c:date1904",      "c:roundedCorners",   "mc:AlternateContent", "c:autoTitleDeleted", "c:varyColors",
-        "c:gapWidth",      "c:overlap",          "c:delete",            "c:majorTickMark",    "c:minorTickMark",
-        "c:invertIfNegative", "c:smooth",        "c:overlay",           "c:noMultiLvlLbl",    "c:dispBlanksAs",
-        "c:showDLblsOverMax",
+::testing::AssertionResult EmbedsWithDefaultsSpelledOut(pugi::xml_node expected, pugi::xml_node actual) {
+    static const std::set<std::string> defaults{
+        "c:date1904",      "c:roundedCorners", "mc:AlternateContent", "c:autoTitleDeleted",
+        "c:varyColors",    "c:gapWidth",       "c:overlap",           "c:delete",
+        "c:majorTickMark", "c:minorTickMark",  "c:invertIfNegative",  "c:smooth",
+        "c:overlay",       "c:noMultiLvlLbl",  "c:dispBlanksAs",      "c:showDLblsOverMax",
     };
-    return names;
+    std::set<std::string> extra;
+    ::testing::AssertionResult embedded = Embeds(expected, actual, &extra);
+    if (!embedded) {
+        return embedded;
+    }
+    for (const std::string& name : extra) {
+        if (defaults.count(name) == 0) {
+            return ::testing::AssertionFailure() << name << " is no default Excel 2010 spells out";
+        }
+    }
+    return ::testing::AssertionSuccess();
 }
 
 std::vector<std::string> ChildNames(pugi::xml_node element) {
@@ -143,9 +153,10 @@ ChartGroup GroupOfColumns(std::string type, const std::vector<std::string>& form
     for (std::size_t i = 0; i < formulas.size(); ++i) {
         ChartSeries series;
         series.index = series.order = static_cast<uint32_t>(i);
+        const std::size_t column = static_cast<std::size_t>(formulas[i][formulas[i].find("!$") + 2] - 'A' + 1);
         std::vector<std::string> values;
         for (std::size_t row = 1; row <= 5; ++row) {
-            values.push_back(std::to_string(row * (i + 1)));
+            values.push_back(std::to_string(row * column));
         }
         series.values = NumberReference(formulas[i], values);
         group.series.push_back(std::move(series));

@@ -20,7 +20,8 @@ namespace chart_test {
 std::unique_ptr<pugi::xml_document> WriteChart(const ooxml::ChartDocument& chart, std::string_view userShapesId = {});
 
 // A part of a file of the corpus (its path below excel-corpus/), parsed.
-std::unique_ptr<pugi::xml_document> CorpusPart(const std::string& file, const std::string& part = "xl/charts/chart1.xml");
+std::unique_ptr<pugi::xml_document> CorpusPart(const std::string& file,
+                                               const std::string& part = "xl/charts/chart1.xml");
 
 // Whether every element of expected is in actual, with the same attributes and text, and each
 // element's children in the same order; actual may hold more children between them. The names
@@ -31,9 +32,10 @@ std::unique_ptr<pugi::xml_document> CorpusPart(const std::string& file, const st
 // Whether the two are the same XML (attributes in any order).
 ::testing::AssertionResult SameXml(pugi::xml_node expected, pugi::xml_node actual);
 
-// The elements Excel 2010 and later write that Excel 2007 leaves out when they hold Excel's
-// default: what a chart written by the writer may hold beyond a chart Excel 2007 wrote.
-const std::set<std::string>& ExplicitDefaults();
+// Whether actual embeds expected (Embeds) holding nothing more than the elements Excel 2010 and
+// later write that Excel 2007 leaves out when they hold Excel's default: what a chart written by
+// the writer may hold beyond a chart Excel 2007 wrote.
+::testing::AssertionResult EmbedsWithDefaultsSpelledOut(pugi::xml_node expected, pugi::xml_node actual);
 
 std::vector<std::string> ChildNames(pugi::xml_node element);
 
@@ -42,8 +44,9 @@ ooxml::ChartData NumberReference(std::string formula, const std::vector<std::str
                                  std::string formatCode = "General");
 ooxml::ChartData StringReference(std::string formula, const std::vector<std::string>& values);
 
-// A group with series of values (and no categories) from each of formulas, the cached values of the
-// n-th being n, 2n, 3n, 4n, 5n as in the corpus' xlsxwriter charts, on the axes with the two ids.
+// A group with series of values (and no categories) from each of formulas ("Sheet1!$B$1:$B$5"), the
+// cached values of the n-th column being n, 2n, 3n, 4n, 5n as in the corpus' xlsxwriter charts, on
+// the axes with the two ids.
 ooxml::ChartGroup GroupOfColumns(std::string type, const std::vector<std::string>& formulas, uint32_t categoryAxis,
                                  uint32_t valueAxis);
 
