@@ -1,5 +1,7 @@
 #pragma once
 
+#include <excel/chart_constants.hpp>
+
 #include <cstdint>
 
 // Excel's enumeration constants, with Excel's own names and values. They are plain int32_t

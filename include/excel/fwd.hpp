@@ -30,5 +30,21 @@ class FillFormat;
 class LineFormat;
 class ColorFormat;
 class Comment;
+class ChartObjects;
+class ChartObject;
+class Chart;
+class ChartArea;
+class PlotArea;
+class ChartGroups;
+class ChartGroup;
+class SeriesCollection;
+class Series;
+class ChartFillFormat;
+class Axes;
+class Axis;
+class AxisTitle;
+class TickLabels;
+class ChartTitle;
+class Legend;
 
 }  // namespace excel

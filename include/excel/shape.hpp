@@ -9,7 +9,7 @@
 
 namespace excel {
 
-// A drawing object floating over the cells: a text box or a comment's shape. Geometry is in
+// A drawing object floating over the cells: a text box, a chart or a comment's shape. Geometry is in
 // points from the sheet's top-left corner; the shape is anchored to the cells under it, so
 // inserting, deleting or resizing rows and columns moves it as its Placement says.
 class Shape : public Object {
@@ -17,7 +17,7 @@ public:
     virtual std::shared_ptr<excel::Worksheet> Parent() = 0;
     virtual std::string Name() = 0;
     virtual void SetName(const std::string& name) = 0;
-    virtual int32_t Type() = 0;  // an MsoShapeType: msoTextBox, msoComment
+    virtual int32_t Type() = 0;  // an MsoShapeType: msoTextBox, msoChart, msoComment
     virtual int32_t ID() = 0;
 
     virtual double Left() = 0;
@@ -37,6 +37,8 @@ public:
     virtual std::shared_ptr<excel::LineFormat> Line() = 0;
     virtual std::shared_ptr<excel::TextFrame> TextFrame() = 0;
     virtual std::shared_ptr<excel::TextFrame2> TextFrame2() = 0;
+    // The chart of a chart's shape; refused for any other shape.
+    virtual std::shared_ptr<excel::Chart> Chart() = 0;
 
     // The cells under the shape's top-left and bottom-right corners.
     virtual std::shared_ptr<excel::Range> TopLeftCell() = 0;

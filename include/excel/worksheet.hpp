@@ -41,6 +41,9 @@ public:
     virtual Variant Evaluate(const std::string& expression) = 0;
 
     virtual std::shared_ptr<excel::Shapes> Shapes() = 0;
+    virtual std::shared_ptr<excel::ChartObjects> ChartObjects() = 0;
+    // By 1-based position or by name.
+    virtual std::shared_ptr<excel::ChartObject> ChartObjects(const Variant& index) = 0;
 
     virtual std::shared_ptr<excel::PageSetup> PageSetup() = 0;
     virtual bool DisplayPageBreaks() = 0;

@@ -2,6 +2,8 @@
 
 #include "excel/embedded/text/utf8_text.hpp"
 
+#include <algorithm>
+
 namespace excel::embedded {
 
 namespace {
@@ -147,6 +149,20 @@ RichText WithReplaced(const RichText& text, size_t start, size_t count,
         result.push_back(TextRun{std::string(replacement), font});
     }
     return Joined(std::move(result));
+}
+
+void EditTextFonts(RichText& text, FontFormat& base, size_t start, size_t count,
+                   const std::function<void(FontFormat&)>& edit) {
+    RichText edited = WithFont(text, start, count, edit, base);
+    if (start == 0 && count == CharacterCount(text)) {
+        edit(base);
+        const bool allBase = std::all_of(edited.runs.begin(), edited.runs.end(),
+                                         [&](const TextRun& run) { return run.font == base; });
+        if (allBase) {
+            edited.runs.clear();
+        }
+    }
+    text = std::move(edited);
 }
 
 }  // namespace excel::embedded

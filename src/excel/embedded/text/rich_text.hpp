@@ -35,6 +35,10 @@ std::string CharactersOf(const RichText& text, size_t start, size_t count);
 std::vector<FontFormat> FontsOf(const RichText& text, size_t start, size_t count, const FontFormat& cellFont);
 RichText WithFont(const RichText& text, size_t start, size_t count, const std::function<void(FontFormat&)>& edit,
                   const FontFormat& cellFont);
+// Edits the fonts of count characters from start of a text shown over a base font. An edit of
+// the whole text edits the base font too, so that text typed later takes it.
+void EditTextFonts(RichText& text, FontFormat& base, size_t start, size_t count,
+                   const std::function<void(FontFormat&)>& edit);
 // Replaces the characters; the new text takes the font of the first replaced character (or of
 // the one before when none is replaced).
 RichText WithReplaced(const RichText& text, size_t start, size_t count, std::string_view replacement);

@@ -1,6 +1,7 @@
 #include "excel/embedded/model/shapes/shape_handle.hpp"
 
 #include "excel/embedded/engine_errors.hpp"
+#include "excel/embedded/model/charts/chart_model.hpp"
 #include "excel/embedded/model/shapes/shape_placement.hpp"
 #include "excel/embedded/model/workbook_model.hpp"
 #include "excel/embedded/text/text_fit.hpp"
@@ -9,7 +10,7 @@ namespace excel::embedded {
 
 ShapeModel& ShapeHandle::Shape() const {
     sheet_->Book();
-    if (shape_->deleted) {
+    if (shape_->deleted || (frame_ != nullptr && frame_->deleted)) {
         ThrowObjectRequired();
     }
     return *shape_;
@@ -29,8 +30,13 @@ void ShapeHandle::SetBounds(const ShapeBounds& bounds) const {
     sheet_->Book().SetSaved(false);
 }
 
+ShapeList& ShapeHandle::Owner() const {
+    Shape();
+    return frame_ != nullptr ? frame_->chart->shapes : sheet_->Shapes();
+}
+
 void ShapeHandle::Delete() const {
-    Sheet().Shapes().Remove(Shape());
+    Owner().Remove(Shape());
     sheet_->Book().SetSaved(false);
 }
 

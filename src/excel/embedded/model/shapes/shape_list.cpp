@@ -11,7 +11,8 @@ std::shared_ptr<ShapeModel> ShapeList::Add(int32_t type) {
     ++lastNumber_;
     shape->id = lastNumber_ + 1;
     shape->type = type;
-    shape->name = (type == msoComment ? "Comment " : "TextBox ") + std::to_string(lastNumber_);
+    shape->name = std::string(type == msoComment ? "Comment " : type == msoChart ? "Chart " : "TextBox ") +
+                  std::to_string(lastNumber_);
     shapes_.push_back(shape);
     return shape;
 }

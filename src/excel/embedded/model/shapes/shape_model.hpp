@@ -6,10 +6,13 @@
 #include <excel/constants.hpp>
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 
 namespace excel::embedded {
+
+class ChartModel;
 
 // A point of the sheet as drawings anchor to it: a cell (1-based) and an offset into it in points.
 struct CellPoint {
@@ -50,10 +53,11 @@ struct CommentLink {
     std::string author;
 };
 
-// A drawing object of a sheet: a text box, or the shape of a cell comment. Where it is depends on
-// its placement: moved and sized with cells it is held by the cells under its corners (from and
-// to); moved with cells, by the cell under its top-left corner and its size; free floating, by its
-// bounds alone. See shape_placement.hpp.
+// A drawing object of a sheet: a text box, a chart's frame, or the shape of a cell comment. Where it
+// is depends on its placement: moved and sized with cells it is held by the cells under its corners
+// (from and to); moved with cells, by the cell under its top-left corner and its size; free
+// floating, by its bounds alone. A text box of a chart is placed by its bounds from the chart
+// area's corner and sized with the chart. See shape_placement.hpp.
 struct ShapeModel {
     uint32_t id = 0;
     std::string name;
@@ -68,6 +72,8 @@ struct ShapeModel {
     ShapeText text;
     std::string onAction;
     std::optional<CommentLink> comment;  // set for a comment's shape
+    std::shared_ptr<ChartModel> chart;    // set for a chart's frame
+    bool inChart = false;                 // a text box of a chart
     bool deleted = false;
 };
 

@@ -91,6 +91,9 @@ CellPoint CellPointAt(const WorksheetModel& sheet, double x, double y) {
 }
 
 ShapeBounds BoundsOf(const WorksheetModel& sheet, const ShapeModel& shape) {
+    if (shape.inChart) {
+        return shape.bounds;
+    }
     switch (shape.placement) {
         case xlMoveAndSize: {
             const double left = XOf(sheet, shape.from);
@@ -107,6 +110,9 @@ ShapeBounds BoundsOf(const WorksheetModel& sheet, const ShapeModel& shape) {
 
 void Place(const WorksheetModel& sheet, ShapeModel& shape, const ShapeBounds& bounds) {
     shape.bounds = bounds;
+    if (shape.inChart) {
+        return;
+    }
     shape.from = CellPointAt(sheet, bounds.left, bounds.top);
     shape.to = CellPointAt(sheet, bounds.left + bounds.width, bounds.top + bounds.height);
 }

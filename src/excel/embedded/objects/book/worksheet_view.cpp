@@ -1,6 +1,7 @@
 #include "excel/embedded/objects/book/worksheet_view.hpp"
 
 #include "excel/embedded/engine_errors.hpp"
+#include "excel/embedded/objects/charts/chart_object_view.hpp"
 #include "excel/embedded/objects/book/application_view.hpp"
 #include "excel/embedded/objects/book/expression_evaluator.hpp"
 #include "excel/embedded/objects/book/names_view.hpp"
@@ -146,6 +147,15 @@ Variant WorksheetView::Evaluate(const std::string& expression) {
 std::shared_ptr<excel::Shapes> WorksheetView::Shapes() {
     Model();
     return std::make_shared<ShapesView>(model_);
+}
+
+std::shared_ptr<excel::ChartObjects> WorksheetView::ChartObjects() {
+    Model();
+    return std::make_shared<ChartObjectsView>(model_);
+}
+
+std::shared_ptr<excel::ChartObject> WorksheetView::ChartObjects(const Variant& index) {
+    return ChartObjects()->Item(index);
 }
 
 std::shared_ptr<excel::PageSetup> WorksheetView::PageSetup() {

@@ -36,6 +36,8 @@ public:
     Variant Evaluate(const std::string& expression) override;
 
     std::shared_ptr<excel::Shapes> Shapes() override;
+    std::shared_ptr<excel::ChartObjects> ChartObjects() override;
+    std::shared_ptr<excel::ChartObject> ChartObjects(const Variant& index) override;
     std::shared_ptr<excel::PageSetup> PageSetup() override;
     bool DisplayPageBreaks() override;
     void SetDisplayPageBreaks(bool display) override;

@@ -3,8 +3,6 @@
 #include "excel/embedded/model/workbook_model.hpp"
 #include "excel/embedded/text/rich_text.hpp"
 
-#include <algorithm>
-
 namespace excel::embedded {
 
 RichText ShapeRichText::Text() {
@@ -22,17 +20,7 @@ void ShapeRichText::SetText(const RichText& text) {
 
 void ShapeRichText::EditFonts(size_t start, size_t count, const std::function<void(FontFormat&)>& edit) {
     ShapeText& frame = shape_.Shape().text;
-    const FontFormat oldFont = frame.font;
-    RichText edited = WithFont(frame.text, start, count, edit, oldFont);
-    if (start == 0 && count == CharacterCount(frame.text)) {
-        edit(frame.font);
-        const bool allFrameFont = std::all_of(edited.runs.begin(), edited.runs.end(),
-                                              [&](const TextRun& run) { return run.font == frame.font; });
-        if (allFrameFont) {
-            edited.runs.clear();
-        }
-    }
-    frame.text = std::move(edited);
+    EditTextFonts(frame.text, frame.font, start, count, edit);
     shape_.Changed();
 }
 

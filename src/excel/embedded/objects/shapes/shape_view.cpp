@@ -1,6 +1,7 @@
 #include "excel/embedded/objects/shapes/shape_view.hpp"
 
 #include "excel/embedded/engine_errors.hpp"
+#include "excel/embedded/objects/charts/chart_view.hpp"
 #include "excel/embedded/model/shapes/shape_placement.hpp"
 #include "excel/embedded/model/workbook_model.hpp"
 #include "excel/embedded/objects/book/worksheet_view.hpp"
@@ -124,6 +125,13 @@ std::shared_ptr<excel::TextFrame2> ShapeView::TextFrame2() {
 std::shared_ptr<excel::Range> ShapeView::cellAt(double x, double y) {
     const CellPoint point = CellPointAt(shape_.Sheet(), x, y);
     return RangeView::Make(shape_.SheetPointer(), {CellBlock{point.row, point.column, point.row, point.column}});
+}
+
+std::shared_ptr<excel::Chart> ShapeView::Chart() {
+    if (shape_.Shape().chart == nullptr) {
+        ThrowRefused("This member can only be accessed for a chart object");
+    }
+    return std::make_shared<ChartView>(ChartHandle{shape_});
 }
 
 std::shared_ptr<excel::Range> ShapeView::TopLeftCell() {

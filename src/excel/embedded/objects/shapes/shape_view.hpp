@@ -33,6 +33,7 @@ public:
     std::shared_ptr<excel::LineFormat> Line() override;
     std::shared_ptr<excel::TextFrame> TextFrame() override;
     std::shared_ptr<excel::TextFrame2> TextFrame2() override;
+    std::shared_ptr<excel::Chart> Chart() override;
 
     std::shared_ptr<excel::Range> TopLeftCell() override;
     std::shared_ptr<excel::Range> BottomRightCell() override;

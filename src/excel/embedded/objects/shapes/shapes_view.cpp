@@ -1,6 +1,7 @@
 #include "excel/embedded/objects/shapes/shapes_view.hpp"
 
 #include "excel/embedded/engine_errors.hpp"
+#include "excel/embedded/model/charts/chart_model.hpp"
 #include "excel/embedded/model/shapes/shape_placement.hpp"
 #include "excel/embedded/model/workbook_model.hpp"
 #include "excel/embedded/objects/book/worksheet_view.hpp"
@@ -23,7 +24,19 @@ constexpr double outlineShade = -0.5;
 
 WorksheetModel& ShapesView::sheet() const {
     sheet_->Book();
+    if (chartFrame_ != nullptr && chartFrame_->deleted) {
+        ThrowObjectRequired();
+    }
     return *sheet_;
+}
+
+ShapeList& ShapesView::list() const {
+    WorksheetModel& model = sheet();
+    return chartFrame_ != nullptr ? chartFrame_->chart->shapes : model.Shapes();
+}
+
+ShapeHandle ShapesView::handle(std::shared_ptr<ShapeModel> shape) const {
+    return ShapeHandle{sheet_, std::move(shape), chartFrame_};
 }
 
 std::shared_ptr<excel::Worksheet> ShapesView::Parent() {
@@ -32,16 +45,16 @@ std::shared_ptr<excel::Worksheet> ShapesView::Parent() {
 }
 
 int32_t ShapesView::Count() {
-    return static_cast<int32_t>(sheet().Shapes().All().size());
+    return static_cast<int32_t>(list().All().size());
 }
 
 std::shared_ptr<excel::Shape> ShapesView::Item(const Variant& index) {
-    const auto& shapes = sheet().Shapes().All();
+    const auto& shapes = list().All();
     if (index.Type() == VarType::String) {
         const std::string name = index.ToString();
         for (const auto& shape : shapes) {
             if (EqualsIgnoringCase(shape->name, name)) {
-                return std::make_shared<ShapeView>(ShapeHandle{sheet_, shape});
+                return std::make_shared<ShapeView>(handle(shape));
             }
         }
         RefuseIndex();
@@ -53,7 +66,7 @@ std::shared_ptr<excel::Shape> ShapesView::Item(const Variant& index) {
     if (position < 1 || position > static_cast<int32_t>(shapes.size())) {
         RefuseIndex();
     }
-    return std::make_shared<ShapeView>(ShapeHandle{sheet_, shapes[static_cast<size_t>(position - 1)]});
+    return std::make_shared<ShapeView>(handle(shapes[static_cast<size_t>(position - 1)]));
 }
 
 std::shared_ptr<excel::Shape> ShapesView::AddTextbox(int32_t orientation, double left, double top, double width,
@@ -63,9 +76,29 @@ std::shared_ptr<excel::Shape> ShapesView::AddTextbox(int32_t orientation, double
         !(height >= 0.0)) {
         ThrowRefused("The specified value is out of range.");
     }
-    auto shape = model.Shapes().Add(msoTextBox);
-    shape->fill.color = ShapeColorFromThemeIndex(themeLight1, 0.0);
-    shape->line.color = ShapeColorFromThemeIndex(themeLight1, outlineShade);
+    auto shape = list().Add(msoTextBox);
+    if (chartFrame_ != nullptr) {
+        shape->inChart = true;
+        shape->fill.visible = false;
+        shape->line.visible = false;
+    } else {
+        shape->fill.color = ShapeColorFromThemeIndex(themeLight1, 0.0);
+        shape->line.color = ShapeColorFromThemeIndex(themeLight1, outlineShade);
+    }
+    Place(model, *shape, ShapeBounds{left, top, width, height});
+    model.Book().SetSaved(false);
+    return std::make_shared<ShapeView>(handle(shape));
+}
+
+std::shared_ptr<excel::Shape> ShapesView::AddChart(int32_t type, double left, double top, double width,
+                                                   double height) {
+    WorksheetModel& model = sheet();
+    if (chartFrame_ != nullptr || !(width >= 0.0) || !(height >= 0.0)) {
+        ThrowRefused("The specified value is out of range.");
+    }
+    auto chart = std::make_shared<ChartModel>(type);
+    auto shape = model.Shapes().Add(msoChart);
+    shape->chart = std::move(chart);
     Place(model, *shape, ShapeBounds{left, top, width, height});
     model.Book().SetSaved(false);
     return std::make_shared<ShapeView>(ShapeHandle{sheet_, shape});
