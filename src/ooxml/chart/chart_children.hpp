@@ -22,7 +22,7 @@ void WriteNumberElement(XmlWriter& xml, std::string_view element, double value);
 // The children of one chart element as its writer writes them: only those the element's kind
 // has (a line group has no gap width, a category axis no crossBetween), in its order, with the
 // carried children put back in their slots. Elements are named qualified ("c:gapWidth"), as
-// string literals.
+// string literals; Next also takes a local name (a group's type).
 class ChartChildren {
 public:
     ChartChildren(XmlWriter& xml, ElementOrder order, const std::vector<CarriedElement>* carried)

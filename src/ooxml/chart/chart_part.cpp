@@ -108,9 +108,11 @@ private:
         ChartChildren children(xml_, PlotAreaElementOrder, &plotArea.carried);
         WriteLayout(children);
         for (const ChartGroup& group : plotArea.groups) {
+            children.Next(group.type);
             WriteChartGroup(xml_, group);
         }
         for (const ChartAxis& axis : plotArea.axes) {
+            children.Next(axis.type);
             WriteChartAxis(xml_, axis, chart_.language);
         }
         children.Next("c:spPr");

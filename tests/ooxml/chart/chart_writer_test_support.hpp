@@ -29,12 +29,16 @@ std::unique_ptr<pugi::xml_document> CorpusPart(const std::string& file,
 ::testing::AssertionResult Embeds(pugi::xml_node expected, pugi::xml_node actual,
                                   std::set<std::string>* extra = nullptr);
 
+// Whether actual embeds expected (Embeds) holding no more children than those named in allowed.
+::testing::AssertionResult EmbedsAllowing(pugi::xml_node expected, pugi::xml_node actual,
+                                          const std::set<std::string>& allowed);
+
 // Whether the two are the same XML (attributes in any order).
 ::testing::AssertionResult SameXml(pugi::xml_node expected, pugi::xml_node actual);
 
-// Whether actual embeds expected (Embeds) holding nothing more than the elements Excel 2010 and
-// later write that Excel 2007 leaves out when they hold Excel's default: what a chart written by
-// the writer may hold beyond a chart Excel 2007 wrote.
+// The elements Excel 2010 and later write that Excel 2007 leaves out when they hold Excel's
+// default: what a chart written by the writer may hold beyond a chart Excel 2007 wrote.
+const std::set<std::string>& DefaultsSpelledOut();
 ::testing::AssertionResult EmbedsWithDefaultsSpelledOut(pugi::xml_node expected, pugi::xml_node actual);
 
 std::vector<std::string> ChildNames(pugi::xml_node element);
