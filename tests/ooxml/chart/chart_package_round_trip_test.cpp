@@ -103,4 +103,36 @@ INSTANTIATE_TEST_SUITE_P(
                       ExcelChart{"charts-xlsxwriter/xw__chart_crossing02.xlsx", chart_test::DefaultsSpelledOut()},
                       ExcelChart{"charts-xlsxwriter/xw__chart_format07.xlsx", chart_test::DefaultsSpelledOut()}));
 
+// The chart sheet of the opened file stays a carried part with its drawing and chart; a chart
+// added on the worksheet takes the next free names.
+TEST(ChartPackageRoundTrip, ANewChartTakesNamesBesideTheCarriedParts) {
+    const std::string original = VOS_SHARED_DIR "/excel-corpus/realworld-excel/poi__WithChartSheet.xlsx";
+    WorkbookDocument document = ReadPackage(original, ReadOptions{true});
+    ASSERT_FALSE(document.sheets.empty());
+    ChartDocument chart = chart_test::ChartOf(chart_test::GroupOfColumns("barChart", {"Sheet1!$A$1:$A$5"}, 1, 2),
+                                              chart_test::CategoryAxis(1, 2), chart_test::ValueAxis(2, 1));
+    chart.shapes.push_back(ChartShape{0.1, 0.1, 0.5, 0.3, DrawingShape{}});
+    DrawingShape frame;
+    frame.name = "Chart 1";
+    frame.to = CellAnchor{8, 0, 15, 0};
+    frame.chart = std::make_shared<const ChartDocument>(std::move(chart));
+    document.sheets[0].shapes.push_back(frame);
+    ScratchFolder folder;
+    const std::string path = folder.File("added.xlsx");
+    WritePackage(document, path);
+
+    for (const char* kept : {"xl/charts/chart1.xml", "xl/drawings/drawing1.xml", "xl/chartsheets/sheet1.xml"}) {
+        EXPECT_EQ(ZipEntry(path, kept), ZipEntry(original, kept)) << kept;
+    }
+    auto rels = ParsePart(path, "xl/drawings/_rels/drawing2.xml.rels");
+    EXPECT_STREQ(rels->child("Relationships").child("Relationship").attribute("Target").value(),
+                 "../charts/chart2.xml");
+    auto chartRels = ParsePart(path, "xl/charts/_rels/chart2.xml.rels");
+    EXPECT_STREQ(chartRels->child("Relationships").child("Relationship").attribute("Target").value(),
+                 "../drawings/drawing3.xml");
+    std::string output;
+    EXPECT_EQ(RunCommand(std::string(VOS_SHARED_DIR "/tools/validate-xlsx ") + path, output, folder), 0) << output;
+    EXPECT_EQ(RunCommand(std::string(VOS_SHARED_DIR "/tools/check-xlsx ") + path, output, folder), 0) << output;
+}
+
 }  // namespace
