@@ -103,9 +103,7 @@ void WriteChartTextProperties(XmlWriter& xml, const ChartTextProperties& propert
         WriteBodyProperties(xml, properties.rotation, properties.vertical);
         xml.StartElement("a:p");
         WriteParagraphProperties(xml, properties.font);
-        xml.StartElement("a:endParaRPr");
-        xml.Attribute("lang", language);
-        xml.EndElement();
+        WriteChartFont(xml, "a:endParaRPr", ChartFont{}, language);
         xml.EndElement();
     }
     xml.EndElement();
