@@ -1,5 +1,6 @@
 #include "excel/embedded/document/shape_document_conversion.hpp"
 
+#include "excel/embedded/document/chart_document_conversion.hpp"
 #include "excel/embedded/document/format_document_conversion.hpp"
 #include "excel/embedded/document/rich_text_document_conversion.hpp"
 #include "excel/embedded/format/color_conversion.hpp"
@@ -190,6 +191,26 @@ ooxml::DrawingShape TextBoxOf(const WorksheetModel& sheet, const ShapeModel& sha
     return out;
 }
 
+// A chart's frame: the anchor and the chart part it shows.
+ooxml::DrawingShape ChartFrameOf(const WorksheetModel& sheet, const ShapeModel& shape) {
+    const Corners corners = CornersOf(sheet, shape);
+    ooxml::DrawingShape out;
+    out.id = shape.id;
+    out.name = shape.name;
+    out.editAs = std::string(NameOf(AnchorKinds, shape.placement));
+    out.from = AnchorOf(corners.from);
+    out.to = AnchorOf(corners.to);
+    out.x = Emu(corners.bounds.left);
+    out.y = Emu(corners.bounds.top);
+    out.width = Emu(corners.bounds.width);
+    out.height = Emu(corners.bounds.height);
+    out.macro = shape.onAction;
+    out.hidden = !shape.visible;
+    out.chart = std::make_shared<ooxml::ChartDocument>(
+        DocumentChart(sheet, *shape.chart, corners.bounds.width, corners.bounds.height));
+    return out;
+}
+
 ooxml::CellComment CommentOf(const WorksheetModel& sheet, const ShapeModel& shape) {
     const Corners corners = CornersOf(sheet, shape);
     const WorkbookColors& colors = sheet.Book().Colors();
@@ -276,10 +297,16 @@ void LoadComment(WorksheetModel& sheet, const ooxml::CellComment& in) {
 
 }  // namespace
 
+ooxml::DrawingShape DrawingShapeOf(const WorksheetModel& sheet, const ShapeModel& shape) {
+    return TextBoxOf(sheet, shape);
+}
+
 void ConvertShapes(const WorksheetModel& sheet, ooxml::SheetDocument& out) {
     for (const auto& shape : sheet.Shapes().All()) {
         if (shape->comment) {
             out.comments.push_back(CommentOf(sheet, *shape));
+        } else if (shape->chart) {
+            out.shapes.push_back(ChartFrameOf(sheet, *shape));
         } else {
             out.shapes.push_back(TextBoxOf(sheet, *shape));
         }

@@ -9,6 +9,8 @@ namespace excel::embedded {
 // them, and back. Saved and opened again, every text box and comment keeps its text, fonts,
 // colours, margins, sizing and place.
 void ConvertShapes(const WorksheetModel& sheet, ooxml::SheetDocument& out);
+// A text box (of the sheet, or of a chart on it) as a drawing stores it.
+ooxml::DrawingShape DrawingShapeOf(const WorksheetModel& sheet, const ShapeModel& shape);
 // Loads them into a sheet whose rows and columns are loaded already.
 void LoadShapes(WorksheetModel& sheet, const ooxml::SheetDocument& in);
 

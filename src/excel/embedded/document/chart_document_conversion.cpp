@@ -1,0 +1,359 @@
+#include "excel/embedded/document/chart_document_conversion.hpp"
+
+#include "excel/embedded/document/chart_data_document_conversion.hpp"
+#include "excel/embedded/document/chart_format_document_conversion.hpp"
+#include "excel/embedded/document/shape_document_conversion.hpp"
+#include "excel/embedded/model/workbook_model.hpp"
+
+#include <array>
+#include <string_view>
+
+namespace excel::embedded {
+
+namespace {
+
+// The ids of new axes, one per slot; Excel's are arbitrary unique numbers.
+constexpr uint32_t FirstAxisId = 500000001;
+
+template <class T>
+const T* Opened(const std::shared_ptr<const T>& opened) {
+    return opened.get();
+}
+
+std::string_view GroupElement(ChartGroupKind kind) {
+    switch (kind) {
+        case ChartGroupKind::Line:
+            return "lineChart";
+        case ChartGroupKind::Scatter:
+            return "scatterChart";
+        case ChartGroupKind::Area:
+            return "areaChart";
+        case ChartGroupKind::Bar:
+            break;
+    }
+    return "barChart";
+}
+
+std::string_view GroupingOf(const ChartGroupModel& group) {
+    switch (group.grouping) {
+        case ChartGrouping::Stacked:
+            return "stacked";
+        case ChartGrouping::PercentStacked:
+            return "percentStacked";
+        case ChartGrouping::Standard:
+            break;
+    }
+    return group.kind == ChartGroupKind::Bar ? "clustered" : "standard";
+}
+
+std::string_view MarkerSymbol(int32_t style) {
+    switch (style) {
+        case xlMarkerStyleNone:
+            return "none";
+        case xlMarkerStyleSquare:
+            return "square";
+        case xlMarkerStyleDiamond:
+            return "diamond";
+        case xlMarkerStyleTriangle:
+            return "triangle";
+        case xlMarkerStyleStar:
+            return "star";
+        case xlMarkerStyleCircle:
+            return "circle";
+        case xlMarkerStylePlus:
+            return "plus";
+        case xlMarkerStyleX:
+            return "x";
+        case xlMarkerStyleDot:
+            return "dot";
+        case xlMarkerStyleDash:
+            return "dash";
+        default:
+            return "";
+    }
+}
+
+std::string_view TickMarkOf(int32_t mark) {
+    switch (mark) {
+        case xlTickMarkNone:
+            return "none";
+        case xlTickMarkInside:
+            return "in";
+        case xlTickMarkCross:
+            return "cross";
+        default:
+            return "out";
+    }
+}
+
+std::string_view TickLabelPositionOf(int32_t position) {
+    switch (position) {
+        case xlTickLabelPositionHigh:
+            return "high";
+        case xlTickLabelPositionLow:
+            return "low";
+        case xlTickLabelPositionNone:
+            return "none";
+        default:
+            return "nextTo";
+    }
+}
+
+std::string_view LegendPositionOf(int32_t position) {
+    switch (position) {
+        case xlLegendPositionBottom:
+            return "b";
+        case xlLegendPositionCorner:
+            return "tr";
+        case xlLegendPositionLeft:
+            return "l";
+        case xlLegendPositionTop:
+            return "t";
+        default:
+            return "r";
+    }
+}
+
+class ChartWriter {
+public:
+    ChartWriter(const WorksheetModel& sheet, const ChartModel& chart)
+        : sheet_(sheet), book_(sheet.Book()), colors_(book_.Colors()), chart_(chart) {
+        for (std::size_t slot = 0; slot < ids_.size(); ++slot) {
+            ids_[slot] = FirstAxisId + static_cast<uint32_t>(slot);
+        }
+        for (const int32_t group : {xlPrimary, xlSecondary}) {
+            for (const int32_t type : {xlCategory, xlValue}) {
+                const auto axis = chart.Axis(type, group);
+                if (axis != nullptr && axis->opened != nullptr) {
+                    ids_[ChartModel::SlotOf(type, group)] = axis->opened->id;
+                }
+            }
+        }
+    }
+
+    ooxml::ChartDocument Document(double width, double height) {
+        ooxml::ChartDocument out;
+        const ooxml::ChartDocument* opened = Opened(chart_.opened);
+        if (opened != nullptr) {
+            out = *opened;
+            out.plotArea.groups.clear();
+            out.plotArea.axes.clear();
+            out.shapes.clear();
+        }
+        out.date1904 = book_.Date1904();
+        out.roundedCorners = chart_.roundedCorners;
+        out.style = chart_.style;
+        out.title.reset();
+        if (chart_.HasTitle()) {
+            out.title = DocumentTitle(*chart_.Title(), colors_);
+        }
+        out.autoTitleDeleted = !chart_.HasTitle();
+        writePlotArea(out.plotArea, opened ? &opened->plotArea : nullptr);
+        out.legend.reset();
+        if (chart_.HasLegend()) {
+            out.legend = legend(*chart_.Legend());
+        }
+        out.chartArea = DocumentShapeProperties(chart_.chartArea, colors_, opened ? &opened->chartArea : nullptr);
+        out.textProperties = DocumentTextProperties(chart_.chartText, opened ? &opened->textProperties : nullptr);
+        writeShapes(out, width, height);
+        return out;
+    }
+
+private:
+    void writePlotArea(ooxml::ChartPlotArea& out, const ooxml::ChartPlotArea* opened) {
+        uint32_t order = 0;
+        for (const auto& group : chart_.Groups()) {
+            out.groups.push_back(groupOf(*group, order));
+        }
+        for (const int32_t group : {xlPrimary, xlSecondary}) {
+            if (!chart_.UsesAxisGroup(group)) {
+                continue;
+            }
+            // Excel's order: the primary category and value axes, then the secondary value and category.
+            const std::array<int32_t, 2> types =
+                group == xlPrimary ? std::array{xlCategory, xlValue} : std::array{xlValue, xlCategory};
+            for (const int32_t type : types) {
+                out.axes.push_back(axisOf(*chart_.Axis(type, group)));
+            }
+        }
+        out.shape = DocumentShapeProperties(chart_.plotArea, colors_, opened ? &opened->shape : nullptr);
+    }
+
+    ooxml::ChartGroup groupOf(const ChartGroupModel& group, uint32_t& order) {
+        ooxml::ChartGroup out;
+        if (group.opened != nullptr) {
+            out.carried = group.opened->carried;
+        }
+        out.type = GroupElement(group.kind);
+        if (group.kind == ChartGroupKind::Bar) {
+            out.barDirection = group.horizontal ? "bar" : "col";
+            out.gapWidth = group.gapWidth;
+            out.overlap = group.overlap;
+        }
+        if (group.kind == ChartGroupKind::Scatter) {
+            out.scatterStyle = "lineMarker";
+        } else {
+            out.grouping = GroupingOf(group);
+        }
+        out.varyColors = group.varyColors;
+        out.showMarkers = group.showMarkers;
+        for (const auto& series : group.series) {
+            out.series.push_back(seriesOf(*series, group, order++));
+        }
+        out.axisIds = {ids_[ChartModel::SlotOf(xlCategory, group.axisGroup)],
+                       ids_[ChartModel::SlotOf(xlValue, group.axisGroup)]};
+        return out;
+    }
+
+    ooxml::ChartSeries seriesOf(const SeriesModel& series, const ChartGroupModel& group, uint32_t order) {
+        ooxml::ChartSeries out;
+        const ooxml::ChartSeries* opened = Opened(series.opened);
+        if (opened != nullptr) {
+            out.carried = opened->carried;
+        }
+        out.index = series.index;
+        out.order = order;
+        out.nameText = series.nameText;
+        if (series.nameReference.kind == ChartData::Kind::Reference) {
+            out.nameReference = DocumentChartData(book_, series.nameReference);
+            out.nameReference.kind = ooxml::ChartData::Kind::StringReference;
+            out.nameReference.formatCode.clear();
+        }
+        out.shape = DocumentShapeProperties(series.format, colors_, opened ? &opened->shape : nullptr);
+        const bool pointed = group.kind == ChartGroupKind::Line || group.kind == ChartGroupKind::Scatter;
+        if (pointed) {
+            out.marker = markerOf(series, opened);
+            out.smooth = series.smooth;
+        }
+        out.invertIfNegative = series.invertIfNegative;
+        out.categories = DocumentChartData(book_, series.categories);
+        out.values = DocumentChartData(book_, series.values);
+        return out;
+    }
+
+    std::optional<ooxml::ChartMarker> markerOf(const SeriesModel& series, const ooxml::ChartSeries* opened) {
+        const ChartMarker& marker = series.marker;
+        if (series.format.fromFile && opened != nullptr) {
+            return opened->marker;
+        }
+        const std::string_view symbol = MarkerSymbol(marker.style);
+        const bool formatted = marker.background.kind != ChartFill::Kind::Automatic ||
+                               marker.foreground.kind != ChartLine::Kind::Automatic;
+        if (symbol.empty() && !formatted && marker.size == ChartMarker{}.size) {
+            return std::nullopt;  // Excel's automatic marker
+        }
+        ooxml::ChartMarker out;
+        out.symbol = symbol;
+        if (symbol != "none") {
+            out.size = static_cast<uint32_t>(marker.size);
+            out.shape = DocumentShapeProperties(ChartElementFormat{marker.background, marker.foreground, false},
+                                                colors_, nullptr);
+        }
+        return out;
+    }
+
+    ooxml::ChartAxis axisOf(const AxisModel& axis) {
+        ooxml::ChartAxis out;
+        const ooxml::ChartAxis* opened = Opened(axis.opened);
+        if (opened != nullptr) {
+            out.carried = opened->carried;
+        }
+        const bool scatter = chart_.Groups().front()->kind == ChartGroupKind::Scatter;
+        const bool horizontalBars = chart_.Groups().front()->horizontal;
+        const bool valueAxis = axis.type == xlValue || scatter;
+        out.type = valueAxis ? "valAx" : "catAx";
+        const std::size_t slot = ChartModel::SlotOf(axis.type, axis.group);
+        out.id = ids_[slot];
+        const bool vertical = (axis.type == xlValue) != horizontalBars;
+        const bool secondary = axis.group == xlSecondary;
+        out.position = vertical ? (secondary ? "r" : "l") : (secondary && axis.type == xlValue ? "t" : "b");
+        out.orientation = axis.reversed ? "maxMin" : "minMax";
+        if (valueAxis) {
+            out.maximum = axis.maximum;
+            out.minimum = axis.minimum;
+            if (axis.scaleType == xlScaleLogarithmic) {
+                out.logBase = axis.logBase;
+            }
+            out.majorUnit = axis.majorUnit;
+            out.minorUnit = axis.minorUnit;
+            out.crossBetween = scatter ? "midCat" : "between";
+        }
+        out.deleted = !chart_.HasAxis(axis.type, axis.group);
+        if (axis.majorGridlines) {
+            out.majorGridlines = DocumentShapeProperties(axis.majorGridlineFormat, colors_, nullptr);
+        }
+        if (axis.minorGridlines) {
+            out.minorGridlines = DocumentShapeProperties(axis.minorGridlineFormat, colors_, nullptr);
+        }
+        if (axis.title) {
+            out.title = DocumentTitle(*axis.title, colors_);
+        }
+        out.numberFormat = ooxml::ChartNumberFormat{axis.numberFormat, axis.numberFormatLinked};
+        out.majorTickMark = TickMarkOf(axis.majorTickMark);
+        out.minorTickMark = TickMarkOf(axis.minorTickMark);
+        out.tickLabelPosition = TickLabelPositionOf(axis.tickLabelPosition);
+        out.shape = DocumentShapeProperties(axis.format, colors_, opened ? &opened->shape : nullptr);
+        out.textProperties = DocumentTextProperties(axis.tickLabels, opened ? &opened->textProperties : nullptr);
+        const auto crossed = chart_.CrossingAxis(axis);
+        out.crossAxisId = ids_[ChartModel::SlotOf(crossed->type, crossed->group)];
+        // The file keeps on this axis where it crosses the other: the other axis' Crosses.
+        switch (crossed->crosses) {
+            case xlAxisCrossesCustom:
+                out.crossesAt = crossed->crossesAt;
+                break;
+            case xlAxisCrossesMaximum:
+                out.crosses = "max";
+                break;
+            case xlAxisCrossesMinimum:
+                out.crosses = "min";
+                break;
+            default:
+                out.crosses = "autoZero";
+                break;
+        }
+        return out;
+    }
+
+    ooxml::ChartLegend legend(const LegendModel& legend) {
+        ooxml::ChartLegend out;
+        const ooxml::ChartLegend* opened = Opened(legend.opened);
+        if (opened != nullptr) {
+            out.carried = opened->carried;
+        }
+        out.position = LegendPositionOf(legend.position);
+        out.overlay = !legend.includeInLayout;
+        out.shape = DocumentShapeProperties(legend.format, colors_, opened ? &opened->shape : nullptr);
+        out.textProperties = DocumentTextProperties(legend.text, opened ? &opened->textProperties : nullptr);
+        return out;
+    }
+
+    void writeShapes(ooxml::ChartDocument& out, double width, double height) {
+        for (const auto& shape : chart_.shapes.All()) {
+            const ShapeBounds& bounds = shape->bounds;
+            ooxml::ChartShape placed;
+            placed.shape = DrawingShapeOf(sheet_, *shape);
+            if (width > 0.0 && height > 0.0) {
+                placed.fromX = bounds.left / width;
+                placed.fromY = bounds.top / height;
+                placed.toX = (bounds.left + bounds.width) / width;
+                placed.toY = (bounds.top + bounds.height) / height;
+            }
+            out.shapes.push_back(std::move(placed));
+        }
+    }
+
+    const WorksheetModel& sheet_;
+    const WorkbookModel& book_;
+    const WorkbookColors& colors_;
+    const ChartModel& chart_;
+    std::array<uint32_t, 4> ids_{};
+};
+
+}  // namespace
+
+ooxml::ChartDocument DocumentChart(const WorksheetModel& sheet, const ChartModel& chart, double width,
+                                   double height) {
+    return ChartWriter(sheet, chart).Document(width, height);
+}
+
+}  // namespace excel::embedded
