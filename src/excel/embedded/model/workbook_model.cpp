@@ -1,6 +1,7 @@
 #include "excel/embedded/model/workbook_model.hpp"
 
 #include "excel/embedded/engine_errors.hpp"
+#include "excel/embedded/model/charts/chart_model.hpp"
 #include "excel/embedded/model/names/defined_name_rules.hpp"
 #include "excel/embedded/model/names/sheet_name_rules.hpp"
 #include "excel/embedded/model/password_verifier.hpp"
@@ -401,6 +402,14 @@ void WorkbookModel::rewriteFormulas(
     for (auto& name : names_) {
         if (mayRefer(name->formula)) {
             name->formula = rewrite(name->formula, nullptr);
+        }
+    }
+    // Charts name their cells with the sheet, wherever the chart is.
+    for (const auto& sheet : sheets_) {
+        for (const auto& shape : sheet->Shapes().All()) {
+            if (shape->chart != nullptr) {
+                shape->chart->RewriteReferences([&](std::string_view reference) { return rewrite(reference, nullptr); });
+            }
         }
     }
 }

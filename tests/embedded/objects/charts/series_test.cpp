@@ -176,3 +176,29 @@ TEST_F(SeriesTest, ADeletedSeriesAnswersObjectRequired) {
 }
 
 }  // namespace
+
+namespace {
+
+// A series' references follow their cells, as formulas do: through inserted and deleted rows,
+// a renamed sheet and a deleted one.
+TEST_F(SeriesTest, ReferencesFollowCellsAndSheets) {
+    auto chart = AddChart();
+    auto series = AddSeries(chart, "B2:B5");
+    series->SetName("=Sheet1!$B$1");
+    chart->Axes(xlCategory)->SetCategoryNames(Variant(At("A2:A5")));
+    sheet->Rows(1)->EntireRow()->Insert();
+    EXPECT_EQ(series->Formula(), "=SERIES(Sheet1!$B$2,Sheet1!$A$3:$A$6,Sheet1!$B$3:$B$6,1)");
+    EXPECT_EQ(Numbers(series->Values()), (std::vector<double>{20, 30, 40, 50}));
+    sheet->Rows(4)->EntireRow()->Delete();
+    EXPECT_EQ(series->Formula(), "=SERIES(Sheet1!$B$2,Sheet1!$A$3:$A$5,Sheet1!$B$3:$B$5,1)");
+    sheet->SetName("Data Sheet");
+    EXPECT_EQ(series->Formula(), "=SERIES('Data Sheet'!$B$2,'Data Sheet'!$A$3:$A$5,'Data Sheet'!$B$3:$B$5,1)");
+    EXPECT_EQ(series->Name(), "North");
+    auto other = book->Worksheets()->Add();
+    auto elsewhere = other->Shapes()->AddChart(xlLine, 0, 0, 100, 100)->Chart()->SeriesCollection()->NewSeries();
+    elsewhere->SetValues(Variant("='Data Sheet'!$C$3:$C$4"));
+    sheet->Delete();
+    EXPECT_EQ(elsewhere->Formula(), "=SERIES(,,#REF!$C$3:$C$4,1)");
+}
+
+}  // namespace

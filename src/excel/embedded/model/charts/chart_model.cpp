@@ -230,6 +230,16 @@ void ChartModel::SetHasLegend(bool has) {
     }
 }
 
+void ChartModel::RewriteReferences(const std::function<std::string(std::string_view)>& rewrite) {
+    for (const auto& series : Series()) {
+        for (ChartData* data : {&series->nameReference, &series->categories, &series->values}) {
+            if (data->kind == ChartData::Kind::Reference) {
+                data->reference = rewrite(data->reference);
+            }
+        }
+    }
+}
+
 void ChartModel::AddOpenedGroup(std::shared_ptr<ChartGroupModel> group) {
     for (const auto& series : group->series) {
         nextSeriesIndex_ = std::max(nextSeriesIndex_, series->index + 1);

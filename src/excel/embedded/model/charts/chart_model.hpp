@@ -7,6 +7,9 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -71,6 +74,9 @@ public:
     ShapeList shapes;  // text boxes placed from the chart area's corner
     // The chart as the opened file had it: what the model does not hold is written back from it.
     std::shared_ptr<const ooxml::ChartDocument> opened;
+
+    // Rewrites the references of every series' name, categories and values.
+    void RewriteReferences(const std::function<std::string(std::string_view)>& rewrite);
 
     // For loading an opened chart: its groups and axes as the file gave them.
     void AddOpenedGroup(std::shared_ptr<ChartGroupModel> group);
