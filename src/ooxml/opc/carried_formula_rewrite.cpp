@@ -1,6 +1,7 @@
 #include "ooxml/opc/carried_formula_rewrite.hpp"
 
 #include "ooxml/carried/carried_attributes.hpp"
+#include "ooxml/document/chart_document.hpp"
 #include "ooxml/reference/formula_reference_scanner.hpp"
 #include "ooxml/xml/xml_node_access.hpp"
 #include "ooxml/xml/xml_part_parser.hpp"
@@ -158,6 +159,88 @@ void RewritePartFormulas(WorkbookDocument& document, const CarriedFormulaRewrite
     }
 }
 
+// Rewrites the formulas of a piece of chart markup kept as the file wrote it (a multi-level
+// reference's children, a carried element); whether any changed.
+bool RewriteChartMarkup(std::string& markup, bool fragment, const std::function<std::string(std::string_view)>& rewrite) {
+    if (markup.find("f>") == std::string::npos) {
+        return false;  // no formula element in it
+    }
+    pugi::xml_document xml;
+    const std::string text = fragment ? "<kept>" + markup + "</kept>" : markup;
+    if (!xml.load_string(text.c_str(), XmlPartParseOptions)) {
+        return false;
+    }
+    const pugi::xml_node root = xml.document_element();
+    if (!RewriteElementTexts(fragment ? root.first_child() : root, ChartFormulaNames, rewrite)) {
+        return false;
+    }
+    if (fragment) {
+        markup.clear();
+        for (pugi::xml_node child : root.children()) {
+            markup += ElementMarkup(child);
+        }
+    } else {
+        markup = ElementMarkup(root);
+    }
+    return true;
+}
+
+void RewriteCarriedElements(std::vector<CarriedElement>& elements,
+                            const std::function<std::string(std::string_view)>& rewrite) {
+    for (CarriedElement& element : elements) {
+        RewriteChartMarkup(element.xml, false, rewrite);
+    }
+}
+
+void RewriteKeptData(ChartData& data, const std::function<std::string(std::string_view)>& rewrite) {
+    if (data.kind == ChartData::Kind::Other) {
+        RewriteChartMarkup(data.markup, true, rewrite);
+    }
+}
+
+void RewriteTitle(std::optional<ChartTitle>& title, const std::function<std::string(std::string_view)>& rewrite) {
+    if (!title) {
+        return;
+    }
+    if (title->reference.kind != ChartData::Kind::None) {
+        title->reference.formula = rewrite(title->reference.formula);
+    }
+    RewriteCarriedElements(title->carried, rewrite);
+}
+
+// What an opened chart keeps as the file wrote it: titles taken from cells, data the engine does
+// not read, and the elements it carries. The series' own references are the engine's, which
+// follow their cells as the edits happen.
+void RewriteChartKeptFormulas(ChartDocument& chart, const std::function<std::string(std::string_view)>& rewrite) {
+    RewriteTitle(chart.title, rewrite);
+    RewriteCarriedElements(chart.carried.elements, rewrite);
+    RewriteCarriedElements(chart.chartCarried, rewrite);
+    RewriteCarriedElements(chart.plotArea.carried, rewrite);
+    for (ChartGroup& group : chart.plotArea.groups) {
+        RewriteCarriedElements(group.carried, rewrite);
+        for (ChartSeries& series : group.series) {
+            RewriteCarriedElements(series.carried, rewrite);
+            RewriteKeptData(series.categories, rewrite);
+            RewriteKeptData(series.values, rewrite);
+        }
+    }
+    for (ChartAxis& axis : chart.plotArea.axes) {
+        RewriteTitle(axis.title, rewrite);
+        RewriteCarriedElements(axis.carried, rewrite);
+    }
+}
+
+void RewriteSheetCharts(SheetDocument& sheet, const CarriedFormulaRewrite& rewrite) {
+    const auto onNoSheet = [&](std::string_view formula) { return rewrite(formula, std::nullopt); };
+    for (DrawingShape& shape : sheet.shapes) {
+        if (shape.chart && !shape.chart->carried.Empty()) {
+            auto changed = std::make_shared<ChartDocument>(*shape.chart);
+            RewriteChartKeptFormulas(*changed, onNoSheet);
+            shape.chart = std::move(changed);
+        }
+    }
+}
+
 }  // namespace
 
 void RewriteCarriedFormulas(WorkbookDocument& document, const CarriedFormulaRewrite& rewrite) {
@@ -165,6 +248,7 @@ void RewriteCarriedFormulas(WorkbookDocument& document, const CarriedFormulaRewr
         if (document.sheets[i].carried) {
             RewriteSheetFormulas(document.sheets[i], i, rewrite);
         }
+        RewriteSheetCharts(document.sheets[i], rewrite);
     }
     if (document.carried) {
         RewritePartFormulas(document, rewrite);

@@ -4,10 +4,28 @@
 #include "ooxml/chart/chart_reader.hpp"
 #include "ooxml/opc/relationships_reader.hpp"
 
+#include <algorithm>
 #include <optional>
 #include <string>
 
 namespace ooxml {
+
+namespace {
+
+// Whether the engine can hold the chart: it has a group the document models, and each such group
+// is drawn on a pair of the plot area's axes. Any other stays carried as it is.
+bool Modelled(const ChartDocument& chart) {
+    const auto& axes = chart.plotArea.axes;
+    const auto hasAxis = [&](uint32_t id) {
+        return std::any_of(axes.begin(), axes.end(), [id](const ChartAxis& axis) { return axis.id == id; });
+    };
+    return !chart.plotArea.groups.empty() &&
+           std::all_of(chart.plotArea.groups.begin(), chart.plotArea.groups.end(), [&](const ChartGroup& group) {
+               return group.axisIds.size() == 2 && hasAxis(group.axisIds[0]) && hasAxis(group.axisIds[1]);
+           });
+}
+
+}  // namespace
 
 std::shared_ptr<const ChartDocument> ChartPartsReader::Read(const Relationship& relationship) {
     if (relationship.external || !HasRelationshipType(relationship, "chart")) {
@@ -31,7 +49,7 @@ std::shared_ptr<const ChartDocument> ChartPartsReader::Read(const Relationship& 
         drawing = shapes;
         return true;
     });
-    if (!chart) {
+    if (!chart || !Modelled(*chart)) {
         return nullptr;
     }
     carriedParts_.Rewritten(relationship.target);

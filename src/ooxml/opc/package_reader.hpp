@@ -8,9 +8,8 @@ namespace ooxml {
 
 struct ReadOptions {
     // The charts of the sheets' drawings are read into chart documents (a DrawingShape's chart).
-    // Off, they stay carried parts with their anchors, as the file has them: the switch stays off
-    // until the engine writes chart frames back.
-    bool readCharts = false;
+    // Off, they stay carried parts with their anchors, as the file has them.
+    bool readCharts = true;
 };
 
 // Reads an .xlsx package: everything WritePackage writes, and from files made by Excel at least

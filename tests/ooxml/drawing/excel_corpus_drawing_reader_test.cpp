@@ -94,10 +94,15 @@ TEST(ExcelCorpusDrawingReaderTest, RunFonts) {
     EXPECT_EQ(red.text.runs[0].font->color, (Color{Color::Kind::Rgb, 0xFFFF0000, 0, 0.0}));
 }
 
-TEST(ExcelCorpusDrawingReaderTest, PicturesAndChartsArePassedOver) {
-    const ooxml::DrawingShape box = OnlyTextBox("textbox05");
-    EXPECT_EQ(box.id, 4u);
-    EXPECT_EQ(box.name, "TextBox 3");
+// A picture stays carried; the chart is read, and the text box follows it in z-order.
+TEST(ExcelCorpusDrawingReaderTest, PicturesArePassedOverAndChartsRead) {
+    const ooxml::SheetDocument sheet = FirstSheet("cells-drawings-xlsxwriter/xw__textbox05.xlsx");
+    ASSERT_EQ(sheet.shapes.size(), 2u);
+    EXPECT_EQ(sheet.shapes[0].name, "Chart 2");
+    EXPECT_TRUE(sheet.shapes[0].chart);
+    EXPECT_EQ(sheet.shapes[1].id, 4u);
+    EXPECT_EQ(sheet.shapes[1].name, "TextBox 3");
+    EXPECT_FALSE(sheet.shapes[1].chart);
 }
 
 TEST(ExcelCorpusDrawingReaderTest, CommentsWithTheirNotes) {

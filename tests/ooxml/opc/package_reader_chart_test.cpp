@@ -42,7 +42,10 @@ const std::string Picture = std::string("<xdr:twoCellAnchor>") + Corners +
 const std::string ChartXml = R"(<c:chartSpace xmlns:c="http://schemas.openxmlformats.org/drawingml/2006/chart" )"
                              R"(xmlns:a="http://schemas.openxmlformats.org/drawingml/2006/main" )"
                              R"(xmlns:r="http://schemas.openxmlformats.org/officeDocument/2006/relationships">)"
-                             R"(<c:chart><c:plotArea><c:layout/></c:plotArea></c:chart><c:userShapes r:id="rId2"/></c:chartSpace>)";
+                             R"(<c:chart><c:plotArea><c:layout/><c:barChart><c:barDir val="col"/><c:axId val="1"/><c:axId val="2"/></c:barChart>)"
+                             R"(<c:catAx><c:axId val="1"/><c:scaling/><c:axPos val="b"/><c:crossAx val="2"/></c:catAx>)"
+                             R"(<c:valAx><c:axId val="2"/><c:scaling/><c:axPos val="l"/><c:crossAx val="1"/></c:valAx>)"
+                             R"(</c:plotArea></c:chart><c:userShapes r:id="rId2"/></c:chartSpace>)";
 
 const std::string ChartShapes =
     R"(<c:userShapes xmlns:c="http://schemas.openxmlformats.org/drawingml/2006/chart" )"
@@ -139,9 +142,9 @@ TEST(PackageReaderChartTest, AChartFrameAndATextBoxAreTwoShapesInZOrderAndTheRes
     EXPECT_EQ(parts.count("xl/drawings/drawing2.xml"), 0u);
 }
 
-TEST(PackageReaderChartTest, ByDefaultChartsStayCarriedAsTheFileHasThem) {
+TEST(PackageReaderChartTest, ChartsLeftUnreadStayCarriedAsTheFileHasThem) {
     const ooxml_test::TemporaryPackage package(ChartPackage());
-    const ooxml::WorkbookDocument workbook = ooxml::ReadPackage(package.Path());
+    const ooxml::WorkbookDocument workbook = ooxml::ReadPackage(package.Path(), ooxml::ReadOptions{.readCharts = false});
     const ooxml::SheetDocument& sheet = workbook.sheets.at(0);
     ASSERT_EQ(sheet.shapes.size(), 1u);
     EXPECT_EQ(sheet.shapes[0].name, "TextBox 2");
@@ -151,6 +154,18 @@ TEST(PackageReaderChartTest, ByDefaultChartsStayCarriedAsTheFileHasThem) {
     const auto& parts = workbook.carried->parts;
     EXPECT_EQ(parts.count("xl/charts/chart1.xml"), 1u);
     EXPECT_EQ(parts.count("xl/drawings/drawing2.xml"), 1u);
+}
+
+// A chart whose groups the document does not model (here: none at all) is kept as the file has it.
+TEST(PackageReaderChartTest, AChartWithoutAModelledGroupStaysCarried) {
+    ooxml_test::PackageParts parts = ChartPackage();
+    parts["xl/charts/chart1.xml"] = ChartXml.substr(0, ChartXml.find("<c:barChart")) + "</c:plotArea></c:chart></c:chartSpace>";
+    const ooxml_test::TemporaryPackage package(parts);
+    const ooxml::WorkbookDocument workbook = ooxml::ReadPackage(package.Path());
+    const ooxml::SheetDocument& sheet = workbook.sheets.at(0);
+    ASSERT_EQ(sheet.shapes.size(), 1u);
+    EXPECT_FALSE(sheet.shapes[0].chart);
+    EXPECT_EQ(workbook.carried->parts.count("xl/charts/chart1.xml"), 1u);
 }
 
 TEST(PackageReaderChartTest, AChartPartThatCannotBeReadLeavesItsFrameCarried) {

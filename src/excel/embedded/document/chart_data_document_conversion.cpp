@@ -22,12 +22,18 @@ std::string NumberText(double value) {
 
 }  // namespace
 
-ooxml::ChartData DocumentChartData(const WorkbookModel& book, const ChartData& data) {
+ooxml::ChartData DocumentChartData(const WorkbookModel& book, const ChartData& data, const ooxml::ChartData* opened) {
     ooxml::ChartData out;
-    if (data.kind == ChartData::Kind::None) {
+    if (data.kind == ChartData::Kind::Kept && opened != nullptr) {
+        return *opened;
+    }
+    if (data.kind == ChartData::Kind::None || data.kind == ChartData::Kind::Kept) {
         return out;
     }
     const ChartPoints points = PointsOf(book, data);
+    if (!points.resolved && opened != nullptr && opened->formula == data.reference) {
+        return *opened;
+    }
     const bool numbers = AllNumbers(points);
     const bool reference = data.kind == ChartData::Kind::Reference;
     if (reference) {
@@ -38,6 +44,10 @@ ooxml::ChartData DocumentChartData(const WorkbookModel& book, const ChartData& d
     }
     if (numbers) {
         out.formatCode = reference ? points.numberFormat : "General";
+        // The file's cache says a cell's format as the writer's locale shows it (a short date).
+        if (opened != nullptr && opened->formula == data.reference && !opened->formatCode.empty()) {
+            out.formatCode = opened->formatCode;
+        }
     }
     out.pointCount = static_cast<uint32_t>(points.values.size());
     for (std::size_t i = 0; i < points.values.size(); ++i) {
@@ -49,6 +59,37 @@ ooxml::ChartData DocumentChartData(const WorkbookModel& book, const ChartData& d
         out.points.emplace_back(static_cast<uint32_t>(i), numbers && number ? NumberText(*number) : points.texts[i]);
     }
     return out;
+}
+
+ChartData ChartDataFromDocument(const ooxml::ChartData& data) {
+    using Kind = ooxml::ChartData::Kind;
+    switch (data.kind) {
+        case Kind::None:
+            return {};
+        case Kind::NumberReference:
+        case Kind::StringReference:
+            return ReferenceData(data.formula);
+        case Kind::NumberLiteral:
+        case Kind::StringLiteral: {
+            std::vector<ChartValue> values(data.pointCount);
+            for (const auto& [index, text] : data.points) {
+                if (index >= values.size()) {
+                    continue;
+                }
+                double number = 0.0;
+                const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+                const bool numeric = data.kind == Kind::NumberLiteral && error == std::errc() &&
+                                     end == text.data() + text.size();
+                values[index] = numeric ? ChartValue(number) : ChartValue(text);
+            }
+            return LiteralData(std::move(values));
+        }
+        case Kind::Other:
+            break;
+    }
+    ChartData kept;
+    kept.kind = ChartData::Kind::Kept;
+    return kept;
 }
 
 }  // namespace excel::embedded

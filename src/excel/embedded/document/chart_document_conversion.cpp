@@ -2,9 +2,11 @@
 
 #include "excel/embedded/document/chart_data_document_conversion.hpp"
 #include "excel/embedded/document/chart_format_document_conversion.hpp"
+#include "excel/embedded/document/chart_words.hpp"
 #include "excel/embedded/document/shape_document_conversion.hpp"
 #include "excel/embedded/model/workbook_model.hpp"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -46,74 +48,6 @@ std::string_view GroupingOf(const ChartGroupModel& group) {
     return group.kind == ChartGroupKind::Bar ? "clustered" : "standard";
 }
 
-std::string_view MarkerSymbol(int32_t style) {
-    switch (style) {
-        case xlMarkerStyleNone:
-            return "none";
-        case xlMarkerStyleSquare:
-            return "square";
-        case xlMarkerStyleDiamond:
-            return "diamond";
-        case xlMarkerStyleTriangle:
-            return "triangle";
-        case xlMarkerStyleStar:
-            return "star";
-        case xlMarkerStyleCircle:
-            return "circle";
-        case xlMarkerStylePlus:
-            return "plus";
-        case xlMarkerStyleX:
-            return "x";
-        case xlMarkerStyleDot:
-            return "dot";
-        case xlMarkerStyleDash:
-            return "dash";
-        default:
-            return "";
-    }
-}
-
-std::string_view TickMarkOf(int32_t mark) {
-    switch (mark) {
-        case xlTickMarkNone:
-            return "none";
-        case xlTickMarkInside:
-            return "in";
-        case xlTickMarkCross:
-            return "cross";
-        default:
-            return "out";
-    }
-}
-
-std::string_view TickLabelPositionOf(int32_t position) {
-    switch (position) {
-        case xlTickLabelPositionHigh:
-            return "high";
-        case xlTickLabelPositionLow:
-            return "low";
-        case xlTickLabelPositionNone:
-            return "none";
-        default:
-            return "nextTo";
-    }
-}
-
-std::string_view LegendPositionOf(int32_t position) {
-    switch (position) {
-        case xlLegendPositionBottom:
-            return "b";
-        case xlLegendPositionCorner:
-            return "tr";
-        case xlLegendPositionLeft:
-            return "l";
-        case xlLegendPositionTop:
-            return "t";
-        default:
-            return "r";
-    }
-}
-
 class ChartWriter {
 public:
     ChartWriter(const WorksheetModel& sheet, const ChartModel& chart)
@@ -147,7 +81,7 @@ public:
         if (chart_.HasTitle()) {
             out.title = DocumentTitle(*chart_.Title(), colors_);
         }
-        out.autoTitleDeleted = !chart_.HasTitle();
+        out.autoTitleDeleted = !chart_.HasTitle() && chart_.automaticTitleOff;
         writePlotArea(out.plotArea, opened ? &opened->plotArea : nullptr);
         out.legend.reset();
         if (chart_.HasLegend()) {
@@ -176,6 +110,16 @@ private:
                 out.axes.push_back(axisOf(*chart_.Axis(type, group)));
             }
         }
+        if (opened != nullptr) {
+            // The file's axes keep their order.
+            const auto placeOf = [&](const ooxml::ChartAxis& axis) {
+                const auto found = std::find_if(opened->axes.begin(), opened->axes.end(),
+                                                [&](const ooxml::ChartAxis& other) { return other.id == axis.id; });
+                return found - opened->axes.begin();
+            };
+            std::stable_sort(out.axes.begin(), out.axes.end(),
+                             [&](const auto& a, const auto& b) { return placeOf(a) < placeOf(b); });
+        }
         out.shape = DocumentShapeProperties(chart_.plotArea, colors_, opened ? &opened->shape : nullptr);
     }
 
@@ -191,7 +135,8 @@ private:
             out.overlap = group.overlap;
         }
         if (group.kind == ChartGroupKind::Scatter) {
-            out.scatterStyle = "lineMarker";
+            const bool keep = group.opened != nullptr && !group.opened->scatterStyle.empty();
+            out.scatterStyle = keep ? group.opened->scatterStyle : "lineMarker";
         } else {
             out.grouping = GroupingOf(group);
         }
@@ -215,7 +160,7 @@ private:
         out.order = order;
         out.nameText = series.nameText;
         if (series.nameReference.kind == ChartData::Kind::Reference) {
-            out.nameReference = DocumentChartData(book_, series.nameReference);
+            out.nameReference = DocumentChartData(book_, series.nameReference, opened ? &opened->nameReference : nullptr);
             out.nameReference.kind = ooxml::ChartData::Kind::StringReference;
             out.nameReference.formatCode.clear();
         }
@@ -226,8 +171,8 @@ private:
             out.smooth = series.smooth;
         }
         out.invertIfNegative = series.invertIfNegative;
-        out.categories = DocumentChartData(book_, series.categories);
-        out.values = DocumentChartData(book_, series.values);
+        out.categories = DocumentChartData(book_, series.categories, opened ? &opened->categories : nullptr);
+        out.values = DocumentChartData(book_, series.values, opened ? &opened->values : nullptr);
         return out;
     }
 
@@ -236,7 +181,7 @@ private:
         if (series.format.fromFile && opened != nullptr) {
             return opened->marker;
         }
-        const std::string_view symbol = MarkerSymbol(marker.style);
+        const std::string_view symbol = WordOf(MarkerSymbols, marker.style);
         const bool formatted = marker.background.kind != ChartFill::Kind::Automatic ||
                                marker.foreground.kind != ChartLine::Kind::Automatic;
         if (symbol.empty() && !formatted && marker.size == ChartMarker{}.size) {
@@ -258,15 +203,27 @@ private:
         if (opened != nullptr) {
             out.carried = opened->carried;
         }
-        const bool scatter = chart_.Groups().front()->kind == ChartGroupKind::Scatter;
-        const bool horizontalBars = chart_.Groups().front()->horizontal;
+        const ChartGroupModel& drawn = chart_.GroupOnAxes(axis.group);
+        const bool scatter = drawn.kind == ChartGroupKind::Scatter;
+        const bool horizontalBars = drawn.horizontal;
         const bool valueAxis = axis.type == xlValue || scatter;
-        out.type = valueAxis ? "valAx" : "catAx";
+        // A date or series axis of the file stays one.
+        out.type = opened != nullptr && opened->type != "valAx" && opened->type != "catAx" ? opened->type
+                   : valueAxis                                                            ? "valAx"
+                                                                                          : "catAx";
         const std::size_t slot = ChartModel::SlotOf(axis.type, axis.group);
         out.id = ids_[slot];
         const bool vertical = (axis.type == xlValue) != horizontalBars;
         const bool secondary = axis.group == xlSecondary;
         out.position = vertical ? (secondary ? "r" : "l") : (secondary && axis.type == xlValue ? "t" : "b");
+        // The file's side of the axis holds while the axis still runs the same way.
+        if (opened != nullptr && (opened->position == "l" || opened->position == "r") == vertical) {
+            out.position = opened->position;
+            out.labelAlignment = opened->labelAlignment;
+            out.labelOffset = opened->labelOffset;
+            out.automatic = opened->automatic;
+            out.noMultiLevelLabels = opened->noMultiLevelLabels;
+        }
         out.orientation = axis.reversed ? "maxMin" : "minMax";
         if (valueAxis) {
             out.maximum = axis.maximum;
@@ -276,40 +233,36 @@ private:
             }
             out.majorUnit = axis.majorUnit;
             out.minorUnit = axis.minorUnit;
-            out.crossBetween = scatter ? "midCat" : "between";
+            const bool keep = opened != nullptr && opened->type == "valAx" && !opened->crossBetween.empty();
+            out.crossBetween = keep ? opened->crossBetween : scatter ? "midCat" : "between";
         }
         out.deleted = !chart_.HasAxis(axis.type, axis.group);
         if (axis.majorGridlines) {
-            out.majorGridlines = DocumentShapeProperties(axis.majorGridlineFormat, colors_, nullptr);
+            const bool kept = opened != nullptr && opened->majorGridlines;
+            out.majorGridlines =
+                DocumentShapeProperties(axis.majorGridlineFormat, colors_, kept ? &*opened->majorGridlines : nullptr);
         }
         if (axis.minorGridlines) {
-            out.minorGridlines = DocumentShapeProperties(axis.minorGridlineFormat, colors_, nullptr);
+            const bool kept = opened != nullptr && opened->minorGridlines;
+            out.minorGridlines =
+                DocumentShapeProperties(axis.minorGridlineFormat, colors_, kept ? &*opened->minorGridlines : nullptr);
         }
         if (axis.title) {
             out.title = DocumentTitle(*axis.title, colors_);
         }
         out.numberFormat = ooxml::ChartNumberFormat{axis.numberFormat, axis.numberFormatLinked};
-        out.majorTickMark = TickMarkOf(axis.majorTickMark);
-        out.minorTickMark = TickMarkOf(axis.minorTickMark);
-        out.tickLabelPosition = TickLabelPositionOf(axis.tickLabelPosition);
+        out.majorTickMark = WordOf(TickMarks, axis.majorTickMark);
+        out.minorTickMark = WordOf(TickMarks, axis.minorTickMark);
+        out.tickLabelPosition = WordOf(TickLabelPositions, axis.tickLabelPosition);
         out.shape = DocumentShapeProperties(axis.format, colors_, opened ? &opened->shape : nullptr);
         out.textProperties = DocumentTextProperties(axis.tickLabels, opened ? &opened->textProperties : nullptr);
         const auto crossed = chart_.CrossingAxis(axis);
         out.crossAxisId = ids_[ChartModel::SlotOf(crossed->type, crossed->group)];
         // The file keeps on this axis where it crosses the other: the other axis' Crosses.
-        switch (crossed->crosses) {
-            case xlAxisCrossesCustom:
-                out.crossesAt = crossed->crossesAt;
-                break;
-            case xlAxisCrossesMaximum:
-                out.crosses = "max";
-                break;
-            case xlAxisCrossesMinimum:
-                out.crosses = "min";
-                break;
-            default:
-                out.crosses = "autoZero";
-                break;
+        if (crossed->crosses == xlAxisCrossesCustom) {
+            out.crossesAt = crossed->crossesAt;
+        } else {
+            out.crosses = WordOf(Crossings, crossed->crosses);
         }
         return out;
     }
@@ -320,7 +273,7 @@ private:
         if (opened != nullptr) {
             out.carried = opened->carried;
         }
-        out.position = LegendPositionOf(legend.position);
+        out.position = WordOf(LegendPositions, legend.position);
         out.overlay = !legend.includeInLayout;
         out.shape = DocumentShapeProperties(legend.format, colors_, opened ? &opened->shape : nullptr);
         out.textProperties = DocumentTextProperties(legend.text, opened ? &opened->textProperties : nullptr);

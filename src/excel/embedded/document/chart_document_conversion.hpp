@@ -3,6 +3,8 @@
 #include "excel/embedded/model/charts/chart_model.hpp"
 #include "ooxml/document/chart_document.hpp"
 
+#include <memory>
+
 namespace excel::embedded {
 
 class WorksheetModel;
@@ -13,5 +15,9 @@ class WorksheetModel;
 // What an opened chart held beyond the model is written back from it.
 ooxml::ChartDocument DocumentChart(const WorksheetModel& sheet, const ChartModel& chart, double width,
                                    double height);
+
+// An opened chart of that size (in points): the model's parts from the document's, each keeping
+// its part of the document for what the model does not hold.
+std::shared_ptr<ChartModel> ChartFromDocument(const ooxml::ChartDocument& chart, double width, double height);
 
 }  // namespace excel::embedded

@@ -3,6 +3,7 @@
 #include "excel/embedded/document/chart_document_conversion.hpp"
 #include "excel/embedded/document/format_document_conversion.hpp"
 #include "excel/embedded/document/rich_text_document_conversion.hpp"
+#include "excel/embedded/document/word_table.hpp"
 #include "excel/embedded/format/color_conversion.hpp"
 #include "excel/embedded/model/geometry/geometry.hpp"
 #include "excel/embedded/model/shapes/cell_comments.hpp"
@@ -33,38 +34,18 @@ uint32_t Pixels(double points) {
     return static_cast<uint32_t>(std::lround(points / PointsPerPixel));
 }
 
-constexpr std::array<std::pair<int32_t, std::string_view>, 5> HorizontalAlignments{{{xlHAlignLeft, "l"},
+constexpr WordTable<5> HorizontalAlignments{{{xlHAlignLeft, "l"},
                                                                                     {xlHAlignCenter, "ctr"},
                                                                                     {xlHAlignRight, "r"},
                                                                                     {xlHAlignJustify, "just"},
                                                                                     {xlHAlignDistributed, "dist"}}};
-constexpr std::array<std::pair<int32_t, std::string_view>, 5> VerticalAnchors{{{xlVAlignTop, "t"},
+constexpr WordTable<5> VerticalAnchors{{{xlVAlignTop, "t"},
                                                                                {xlVAlignCenter, "ctr"},
                                                                                {xlVAlignBottom, "b"},
                                                                                {xlVAlignJustify, "just"},
                                                                                {xlVAlignDistributed, "dist"}}};
-constexpr std::array<std::pair<int32_t, std::string_view>, 3> AnchorKinds{
+constexpr WordTable<3> AnchorKinds{
     {{xlMoveAndSize, "twoCell"}, {xlMove, "oneCell"}, {xlFreeFloating, "absolute"}}};
-
-template <size_t N>
-std::string_view NameOf(const std::array<std::pair<int32_t, std::string_view>, N>& table, int32_t value) {
-    for (const auto& [constant, name] : table) {
-        if (constant == value) {
-            return name;
-        }
-    }
-    return table.front().second;
-}
-
-template <size_t N>
-int32_t ValueOf(const std::array<std::pair<int32_t, std::string_view>, N>& table, std::string_view name) {
-    for (const auto& [constant, entry] : table) {
-        if (entry == name) {
-            return constant;
-        }
-    }
-    return table.front().first;
-}
 
 CellPoint CellPointOf(const ooxml::CellAnchor& anchor) {
     return CellPoint{static_cast<int32_t>(anchor.column + 1), PointsFromEmu(anchor.columnOffset),
@@ -115,15 +96,6 @@ void LoadText(ShapeText& frame, const ooxml::SharedString& text) {
     }
 }
 
-ShapeColor ShapeColorOf(const ooxml::Color& color) {
-    if (color.kind == ooxml::Color::Kind::Theme && color.index >= 0 && color.index < 12) {
-        return ShapeColorFromThemeIndex(color.index, color.tint);
-    }
-    if (color.kind == ooxml::Color::Kind::Rgb) {
-        return ShapeColor{ColorFromDocument(color), msoNotThemeColor};
-    }
-    return ShapeColorFromRgb(0);
-}
 
 // 0x00BBGGRR <-> the legacy drawing's 0x00RRGGBB.
 uint32_t RrggbbOf(uint32_t rgbLong) {
@@ -162,7 +134,7 @@ ooxml::DrawingShape TextBoxOf(const WorksheetModel& sheet, const ShapeModel& sha
     ooxml::DrawingShape out;
     out.id = shape.id;
     out.name = shape.name;
-    out.editAs = std::string(NameOf(AnchorKinds, shape.placement));
+    out.editAs = std::string(WordOf(AnchorKinds, shape.placement));
     out.from = AnchorOf(corners.from);
     out.to = AnchorOf(corners.to);
     out.x = Emu(corners.bounds.left);
@@ -183,8 +155,8 @@ ooxml::DrawingShape TextBoxOf(const WorksheetModel& sheet, const ShapeModel& sha
     out.insetBottom = Emu(margins.bottom);
     out.wrap = shape.text.wordWrap;
     out.autoFit = shape.text.autoSize;
-    out.verticalAnchor = std::string(NameOf(VerticalAnchors, shape.text.verticalAlignment));
-    out.alignment = std::string(NameOf(HorizontalAlignments, shape.text.horizontalAlignment));
+    out.verticalAnchor = std::string(WordOf(VerticalAnchors, shape.text.verticalAlignment));
+    out.alignment = std::string(WordOf(HorizontalAlignments, shape.text.horizontalAlignment));
     out.macro = shape.onAction;
     out.hidden = !shape.visible;
     out.text = SpelledOut(shape.text, &colors);
@@ -197,7 +169,7 @@ ooxml::DrawingShape ChartFrameOf(const WorksheetModel& sheet, const ShapeModel& 
     ooxml::DrawingShape out;
     out.id = shape.id;
     out.name = shape.name;
-    out.editAs = std::string(NameOf(AnchorKinds, shape.placement));
+    out.editAs = std::string(WordOf(AnchorKinds, shape.placement));
     out.from = AnchorOf(corners.from);
     out.to = AnchorOf(corners.to);
     out.x = Emu(corners.bounds.left);
@@ -240,40 +212,46 @@ ooxml::CellComment CommentOf(const WorksheetModel& sheet, const ShapeModel& shap
     return out;
 }
 
-void LoadTextBox(WorksheetModel& sheet, const ooxml::DrawingShape& in) {
+// Places an opened drawing object by its anchor. Excel places an object that follows cells by the
+// cells of its anchor; the transform is where its writer worked out that they were, with row
+// heights and column widths of its own. A chart's frame has no transform: its anchor's cells say
+// where it is, whatever its placement.
+void PlaceOpened(WorksheetModel& sheet, ShapeModel& shape, const ooxml::DrawingShape& in) {
+    const bool ordered = in.to.row > in.from.row || (in.to.row == in.from.row && in.to.rowOffset >= in.from.rowOffset);
+    ShapeBounds bounds{PointsFromEmu(in.x), PointsFromEmu(in.y), PointsFromEmu(in.width), PointsFromEmu(in.height)};
+    if (in.chart && ordered) {
+        ShapeModel byCells;
+        byCells.from = CellPointOf(in.from);
+        byCells.to = CellPointOf(in.to);
+        bounds = BoundsOf(sheet, byCells);
+    }
+    Place(sheet, shape, bounds);
+    if (shape.placement == xlMove || (shape.placement == xlMoveAndSize && ordered)) {
+        shape.from = CellPointOf(in.from);
+        if (shape.placement == xlMoveAndSize) {
+            shape.to = CellPointOf(in.to);
+        }
+    }
+}
+
+void LoadChartFrame(WorksheetModel& sheet, const ooxml::DrawingShape& in) {
     auto shape = std::make_shared<ShapeModel>();
     shape->id = in.id;
     shape->name = in.name;
-    shape->type = msoTextBox;
-    shape->placement = ValueOf(AnchorKinds, in.editAs);
+    shape->type = msoChart;
+    shape->placement = ConstantOf(AnchorKinds, in.editAs);
     shape->visible = !in.hidden;
-    shape->fill.visible = in.fill.has_value();
-    shape->fill.color = in.fill ? ShapeColorOf(*in.fill) : ShapeColorFromRgb(0xFFFFFF);
-    shape->fill.transparency = in.fillTransparency;
-    shape->line.visible = in.line.has_value();
-    shape->line.color = in.line ? ShapeColorOf(*in.line) : ShapeColorFromRgb(0);
-    shape->line.weight = PointsFromEmu(in.lineWidth);
-    ShapeText& text = shape->text;
-    text.margins = TextMargins{PointsFromEmu(in.insetLeft), PointsFromEmu(in.insetTop), PointsFromEmu(in.insetRight),
-                               PointsFromEmu(in.insetBottom)};
-    text.autoMargins = text.margins == TextMargins{};
-    text.wordWrap = in.wrap;
-    text.autoSize = in.autoFit;
-    text.verticalAlignment = ValueOf(VerticalAnchors, in.verticalAnchor);
-    text.horizontalAlignment = ValueOf(HorizontalAlignments, in.alignment);
     shape->onAction = in.macro;
-    LoadText(text, in.text);
-    Place(sheet, *shape,
-          ShapeBounds{PointsFromEmu(in.x), PointsFromEmu(in.y), PointsFromEmu(in.width), PointsFromEmu(in.height)});
-    // Excel places a shape that follows cells by the cells of its anchor; the transform is where
-    // its writer worked out that they were, with row heights and column widths of its own.
-    const bool ordered = in.to.row > in.from.row || (in.to.row == in.from.row && in.to.rowOffset >= in.from.rowOffset);
-    if (shape->placement == xlMove || (shape->placement == xlMoveAndSize && ordered)) {
-        shape->from = CellPointOf(in.from);
-        if (shape->placement == xlMoveAndSize) {
-            shape->to = CellPointOf(in.to);
-        }
-    }
+    PlaceOpened(sheet, *shape, in);
+    const ShapeBounds bounds = BoundsOf(sheet, *shape);
+    shape->chart = ChartFromDocument(*in.chart, bounds.width, bounds.height);
+    sheet.Shapes().AddOpened(std::move(shape));
+}
+
+
+void LoadTextBox(WorksheetModel& sheet, const ooxml::DrawingShape& in) {
+    auto shape = TextBoxFromDocument(in);
+    PlaceOpened(sheet, *shape, in);
     sheet.Shapes().AddOpened(std::move(shape));
 }
 
@@ -297,6 +275,42 @@ void LoadComment(WorksheetModel& sheet, const ooxml::CellComment& in) {
 
 }  // namespace
 
+ShapeColor ShapeColorFromDocument(const ooxml::Color& color) {
+    if (color.kind == ooxml::Color::Kind::Theme && color.index >= 0 && color.index < 12) {
+        return ShapeColorFromThemeIndex(color.index, color.tint);
+    }
+    if (color.kind == ooxml::Color::Kind::Rgb) {
+        return ShapeColor{ColorFromDocument(color), msoNotThemeColor};
+    }
+    return ShapeColorFromRgb(0);
+}
+
+std::shared_ptr<ShapeModel> TextBoxFromDocument(const ooxml::DrawingShape& in) {
+    auto shape = std::make_shared<ShapeModel>();
+    shape->id = in.id;
+    shape->name = in.name;
+    shape->type = msoTextBox;
+    shape->placement = ConstantOf(AnchorKinds, in.editAs);
+    shape->visible = !in.hidden;
+    shape->fill.visible = in.fill.has_value();
+    shape->fill.color = in.fill ? ShapeColorFromDocument(*in.fill) : ShapeColorFromRgb(0xFFFFFF);
+    shape->fill.transparency = in.fillTransparency;
+    shape->line.visible = in.line.has_value();
+    shape->line.color = in.line ? ShapeColorFromDocument(*in.line) : ShapeColorFromRgb(0);
+    shape->line.weight = PointsFromEmu(in.lineWidth);
+    ShapeText& text = shape->text;
+    text.margins = TextMargins{PointsFromEmu(in.insetLeft), PointsFromEmu(in.insetTop), PointsFromEmu(in.insetRight),
+                               PointsFromEmu(in.insetBottom)};
+    text.autoMargins = text.margins == TextMargins{};
+    text.wordWrap = in.wrap;
+    text.autoSize = in.autoFit;
+    text.verticalAlignment = ConstantOf(VerticalAnchors, in.verticalAnchor);
+    text.horizontalAlignment = ConstantOf(HorizontalAlignments, in.alignment);
+    shape->onAction = in.macro;
+    LoadText(text, in.text);
+    return shape;
+}
+
 ooxml::DrawingShape DrawingShapeOf(const WorksheetModel& sheet, const ShapeModel& shape) {
     return TextBoxOf(sheet, shape);
 }
@@ -316,8 +330,12 @@ void ConvertShapes(const WorksheetModel& sheet, ooxml::SheetDocument& out) {
 }
 
 void LoadShapes(WorksheetModel& sheet, const ooxml::SheetDocument& in) {
-    for (const ooxml::DrawingShape& box : in.shapes) {
-        LoadTextBox(sheet, box);
+    for (const ooxml::DrawingShape& shape : in.shapes) {
+        if (shape.chart) {
+            LoadChartFrame(sheet, shape);
+        } else {
+            LoadTextBox(sheet, shape);
+        }
     }
     for (const ooxml::CellComment& comment : in.comments) {
         LoadComment(sheet, comment);

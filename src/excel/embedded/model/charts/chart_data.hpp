@@ -12,9 +12,11 @@ namespace excel::embedded {
 using ChartValue = std::variant<std::monostate, double, std::string>;
 
 // Where a series takes a name, categories or values from: cells (a reference such as
-// "Sheet1!$B$2:$B$9", as the series formula shows it without "="), or values of its own.
+// "Sheet1!$B$2:$B$9", as the series formula shows it without "="), or values of its own; or, for
+// an opened chart, data in a form the engine does not read (levels of categories), kept as the
+// file had it.
 struct ChartData {
-    enum class Kind : uint8_t { None, Reference, Literal };
+    enum class Kind : uint8_t { None, Reference, Literal, Kept };
     Kind kind = Kind::None;
     std::string reference;
     std::vector<ChartValue> values;  // Literal

@@ -71,7 +71,7 @@ TextSize TitleSize(const ChartTitleModel& title, std::string_view automaticText)
 
 // Whether the axis runs up the chart: a value axis of columns and lines, a category axis of bars.
 bool Vertical(const ChartModel& chart, const AxisModel& axis) {
-    const bool horizontalBars = chart.Groups().front()->horizontal;
+    const bool horizontalBars = chart.GroupOnAxes(axis.group).horizontal;
     return (axis.type == xlValue) != horizontalBars;
 }
 

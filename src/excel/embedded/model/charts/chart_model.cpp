@@ -184,6 +184,15 @@ bool ChartModel::UsesAxisGroup(int32_t group) const {
     return std::any_of(groups_.begin(), groups_.end(), [group](const auto& g) { return g->axisGroup == group; });
 }
 
+const ChartGroupModel& ChartModel::GroupOnAxes(int32_t axisGroup) const {
+    for (const auto& group : groups_) {
+        if (group->axisGroup == axisGroup) {
+            return *group;
+        }
+    }
+    return *groups_.front();
+}
+
 std::shared_ptr<AxisModel> ChartModel::Axis(int32_t type, int32_t group) const {
     if ((type != xlCategory && type != xlValue) || (group != xlPrimary && group != xlSecondary)) {
         return nullptr;
@@ -212,6 +221,7 @@ std::shared_ptr<AxisModel> ChartModel::CrossingAxis(const AxisModel& axis) const
 }
 
 void ChartModel::SetHasTitle(bool has) {
+    automaticTitleOff = !has;
     if (!has) {
         title_ = nullptr;
     } else if (title_ == nullptr) {

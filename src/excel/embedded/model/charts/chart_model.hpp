@@ -55,6 +55,9 @@ public:
     // The other axis of the axis' group: the one that crosses it.
     std::shared_ptr<AxisModel> CrossingAxis(const AxisModel& axis) const;
     bool UsesAxisGroup(int32_t group) const;
+    // The first group drawn on the axis group's axes (the first group when none is): how its
+    // axes run and what they measure.
+    const ChartGroupModel& GroupOnAxes(int32_t axisGroup) const;
 
     bool HasTitle() const { return title_ != nullptr; }
     void SetHasTitle(bool has);
@@ -71,6 +74,9 @@ public:
     std::optional<ShapeBounds> plotAreaBounds;
     int32_t style = 2;
     bool roundedCorners = false;
+    // Without a title of its own: whether the automatic title (a single series' name) is off too,
+    // as a new chart's and one whose title was removed are.
+    bool automaticTitleOff = true;
     ShapeList shapes;  // text boxes placed from the chart area's corner
     // The chart as the opened file had it: what the model does not hold is written back from it.
     std::shared_ptr<const ooxml::ChartDocument> opened;

@@ -57,7 +57,7 @@ void AxisView::edit(const std::function<void(AxisModel&)>& change) {
 
 AxisModel& AxisView::valueAxis(const char* member) const {
     AxisModel& shown = axis();
-    const bool scatterX = type_ == xlCategory && chart_.Chart().Groups().front()->kind == ChartGroupKind::Scatter;
+    const bool scatterX = type_ == xlCategory && chart_.Chart().GroupOnAxes(group_).kind == ChartGroupKind::Scatter;
     if (type_ != xlValue && !scatterX) {
         ThrowRefused("Unable to get the " + std::string(member) + " property of the Axis class");
     }
