@@ -1,5 +1,7 @@
 #include "ooxml/chart/chart_children.hpp"
 
+#include "ooxml/document/chart_document.hpp"
+
 namespace ooxml {
 
 void WriteEmptyElement(XmlWriter& xml, std::string_view element) {
@@ -50,6 +52,35 @@ void ChartChildren::Number(std::string_view element, double value) {
     if (Next(element)) {
         WriteNumberElement(xml_, element, value);
     }
+}
+
+void WriteChartLayout(XmlWriter& xml, ChartChildren& children, const std::optional<ChartManualLayout>& layout) {
+    if (!layout) {
+        if (!children.Carries("layout")) {
+            children.Next("c:layout");
+            WriteEmptyElement(xml, "c:layout");
+        }
+        return;
+    }
+    children.Drop("layout");
+    children.Next("c:layout");
+    xml.StartElement("c:layout");
+    xml.StartElement("c:manualLayout");
+    if (!layout->target.empty()) {
+        WriteValueElement(xml, "c:layoutTarget", layout->target);
+    }
+    WriteValueElement(xml, "c:xMode", "edge");
+    WriteValueElement(xml, "c:yMode", "edge");
+    WriteNumberElement(xml, "c:x", layout->x);
+    WriteNumberElement(xml, "c:y", layout->y);
+    if (layout->width) {
+        WriteNumberElement(xml, "c:w", *layout->width);
+    }
+    if (layout->height) {
+        WriteNumberElement(xml, "c:h", *layout->height);
+    }
+    xml.EndElement();
+    xml.EndElement();
 }
 
 }  // namespace ooxml

@@ -5,6 +5,7 @@
 #include "ooxml/document/carried_content.hpp"
 #include "ooxml/xml/xml_writer.hpp"
 
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -18,6 +19,13 @@ void WriteValueElement(XmlWriter& xml, std::string_view element, std::string_vie
 void WriteFlagElement(XmlWriter& xml, std::string_view element, bool value);
 // Whole numbers are written without a fraction ("150").
 void WriteNumberElement(XmlWriter& xml, std::string_view element, double value);
+
+struct ChartManualLayout;
+class ChartChildren;
+
+// Writes an element's c:layout: the manual layout given (in place of the file's own), else the
+// file's when it is carried, else an automatic one.
+void WriteChartLayout(XmlWriter& xml, ChartChildren& children, const std::optional<ChartManualLayout>& layout);
 
 // The children of one chart element as its writer writes them: only those the element's kind
 // has (a line group has no gap width, a category axis no crossBetween), in its order, with the

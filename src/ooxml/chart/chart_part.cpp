@@ -106,7 +106,7 @@ private:
     void WritePlotArea(const ChartPlotArea& plotArea) {
         xml_.StartElement("c:plotArea");
         ChartChildren children(xml_, PlotAreaElementOrder, &plotArea.carried);
-        WriteLayout(children);
+        WriteChartLayout(xml_, children, plotArea.layout);
         for (const ChartGroup& group : plotArea.groups) {
             children.Next(group.type);
             WriteChartGroup(xml_, group);
@@ -125,7 +125,7 @@ private:
         xml_.StartElement("c:legend");
         ChartChildren children(xml_, LegendElementOrder, &legend.carried);
         children.Value("c:legendPos", legend.position);
-        WriteLayout(children);
+        WriteChartLayout(xml_, children, std::nullopt);
         children.Flag("c:overlay", legend.overlay);
         children.Next("c:spPr");
         WriteChartShapeProperties(xml_, legend.shape);
@@ -133,14 +133,6 @@ private:
         WriteChartTextProperties(xml_, legend.textProperties, chart_.language);
         children.Rest();
         xml_.EndElement();
-    }
-
-    // An automatic layout, unless the file's own (a manual one) is carried.
-    void WriteLayout(ChartChildren& children) {
-        if (!children.Carries("layout")) {
-            children.Next("c:layout");
-            WriteEmptyElement(xml_, "c:layout");
-        }
     }
 
     // The print settings Excel writes for a chart on a sheet.

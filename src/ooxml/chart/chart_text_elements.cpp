@@ -119,10 +119,7 @@ void WriteChartTitle(XmlWriter& xml, const ChartTitle& title, std::string_view l
         children.Next("c:tx");
         WriteChartData(xml, "c:tx", title.reference);
     }
-    if (!children.Carries("layout")) {
-        children.Next("c:layout");
-        WriteEmptyElement(xml, "c:layout");
-    }
+    WriteChartLayout(xml, children, title.layout);
     children.Flag("c:overlay", title.overlay);
     children.Next("c:spPr");
     WriteChartShapeProperties(xml, title.shape);

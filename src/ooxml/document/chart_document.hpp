@@ -112,6 +112,18 @@ struct ChartData {
     friend bool operator==(const ChartData&, const ChartData&) = default;
 };
 
+// A part of a chart placed by hand (c:manualLayout): its top-left corner, and for a plot area its
+// size, as fractions of the chart's width and height.
+struct ChartManualLayout {
+    std::string target;  // a plot area's: "inner" (the area inside the axes) or "outer"; "" not written
+    double x = 0.0;
+    double y = 0.0;
+    std::optional<double> width;
+    std::optional<double> height;
+
+    friend bool operator==(const ChartManualLayout&, const ChartManualLayout&) = default;
+};
+
 // A title (of the chart or of an axis).
 struct ChartTitle {
     // The title's own text: rich text runs (c:tx/c:rich), or a cell reference (c:tx/c:strRef). With
@@ -122,6 +134,7 @@ struct ChartTitle {
     std::string vertical;
     ChartFont paragraphFont;            // the paragraphs' default run properties (a:pPr/a:defRPr)
     std::string richMarkup;             // the file's c:rich children, written instead of the runs when not empty
+    std::optional<ChartManualLayout> layout;  // none: where Excel puts it (or the file's layout, when carried)
     bool overlay = false;
     ChartShapeProperties shape;
     ChartTextProperties textProperties;  // of an automatic title
@@ -224,6 +237,7 @@ struct ChartLegend {
 };
 
 struct ChartPlotArea {
+    std::optional<ChartManualLayout> layout;  // none: automatic (or the file's layout, when carried)
     std::vector<ChartGroup> groups;  // the primary axes' groups first
     std::vector<ChartAxis> axes;     // primary category, primary value, secondary value, secondary category
     ChartShapeProperties shape;

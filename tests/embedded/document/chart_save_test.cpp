@@ -135,4 +135,28 @@ TEST_F(ChartSaveTest, ScatterLineAndSecondaryAxisChartsPassTheCheckers) {
     EXPECT_TRUE(xml.child("c:chartSpace").child("c:userShapes"));
 }
 
+// A plot area or an axis title placed by hand keeps its place in the file: a manual layout of
+// fractions of the chart's size.
+TEST_F(ChartSaveTest, PlacesSetByHandAreSavedAsManualLayouts) {
+    auto chart = ColumnChart();
+    chart->Axes(xlValue)->SetHasTitle(true);
+    auto title = chart->Axes(xlValue)->AxisTitle();
+    const double left = title->Left();
+    title->SetTop(54);
+    chart->PlotArea()->SetHeight(150);
+    const double plotTop = chart->PlotArea()->Top();
+    book->SaveAs(PathOf("layout.xlsx"));
+    EXPECT_EQ(RunTool("validate-xlsx", PathOf("layout.xlsx")), 0);
+    const pugi::xml_document xml = ChartPart("layout.xlsx");
+    const auto plot = xml.child("c:chartSpace").child("c:chart").child("c:plotArea");
+    const auto manual = plot.child("c:layout").child("c:manualLayout");
+    EXPECT_STREQ(manual.child("c:layoutTarget").attribute("val").value(), "outer");
+    EXPECT_NEAR(manual.child("c:h").attribute("val").as_double(), 150.0 / 216.0, 1e-9);
+    EXPECT_NEAR(manual.child("c:y").attribute("val").as_double(), plotTop / 216.0, 1e-9);
+    const auto titleLayout = plot.child("c:valAx").child("c:title").child("c:layout").child("c:manualLayout");
+    EXPECT_NEAR(titleLayout.child("c:y").attribute("val").as_double(), 54.0 / 216.0, 1e-9);
+    EXPECT_NEAR(titleLayout.child("c:x").attribute("val").as_double(), left / 360.0, 1e-9);
+    EXPECT_FALSE(titleLayout.child("c:w"));
+}
+
 }  // namespace

@@ -66,6 +66,8 @@ public:
     }
 
     ooxml::ChartDocument Document(double width, double height) {
+        width_ = width;
+        height_ = height;
         ooxml::ChartDocument out;
         const ooxml::ChartDocument* opened = Opened(chart_.opened);
         if (opened != nullptr) {
@@ -82,7 +84,15 @@ public:
             out.title = DocumentTitle(*chart_.Title(), colors_);
         }
         out.autoTitleDeleted = !chart_.HasTitle() && chart_.automaticTitleOff;
+        if (out.title) {
+            out.title->layout = titleLayout(*chart_.Title(), width, height);
+        }
         writePlotArea(out.plotArea, opened ? &opened->plotArea : nullptr);
+        if (chart_.plotAreaBounds && width > 0.0 && height > 0.0) {
+            const ShapeBounds& bounds = *chart_.plotAreaBounds;
+            out.plotArea.layout = ooxml::ChartManualLayout{"outer", bounds.left / width, bounds.top / height,
+                                                           bounds.width / width, bounds.height / height};
+        }
         out.legend.reset();
         if (chart_.HasLegend()) {
             out.legend = legend(*chart_.Legend());
@@ -249,6 +259,7 @@ private:
         }
         if (axis.title) {
             out.title = DocumentTitle(*axis.title, colors_);
+            out.title->layout = titleLayout(*axis.title, width_, height_);
         }
         out.numberFormat = ooxml::ChartNumberFormat{axis.numberFormat, axis.numberFormatLinked};
         out.majorTickMark = WordOf(TickMarks, axis.majorTickMark);
@@ -280,6 +291,16 @@ private:
         return out;
     }
 
+    // A title moved by hand keeps its place: its corner as fractions of the chart's size.
+    static std::optional<ooxml::ChartManualLayout> titleLayout(const ChartTitleModel& title, double width,
+                                                               double height) {
+        if ((!title.left && !title.top) || width <= 0.0 || height <= 0.0) {
+            return std::nullopt;
+        }
+        return ooxml::ChartManualLayout{"", title.left.value_or(0.0) / width, title.top.value_or(0.0) / height,
+                                        std::nullopt, std::nullopt};
+    }
+
     void writeShapes(ooxml::ChartDocument& out, double width, double height) {
         for (const auto& shape : chart_.shapes.All()) {
             const ShapeBounds& bounds = shape->bounds;
@@ -300,6 +321,8 @@ private:
     const WorkbookColors& colors_;
     const ChartModel& chart_;
     std::array<uint32_t, 4> ids_{};
+    double width_ = 0.0;
+    double height_ = 0.0;
 };
 
 }  // namespace

@@ -102,9 +102,14 @@ double TitleView<Interface>::Left() {
     return bounds().left;
 }
 
+// Moving a title by hand fixes both its left and its top where they are.
 template <class Interface>
 void TitleView<Interface>::SetLeft(double points) {
-    edit([&](ChartTitleModel& changed) { changed.left = points; });
+    const ShapeBounds now = bounds();
+    edit([&](ChartTitleModel& changed) {
+        changed.left = points;
+        changed.top = changed.top.value_or(now.top);
+    });
 }
 
 template <class Interface>
@@ -114,7 +119,11 @@ double TitleView<Interface>::Top() {
 
 template <class Interface>
 void TitleView<Interface>::SetTop(double points) {
-    edit([&](ChartTitleModel& changed) { changed.top = points; });
+    const ShapeBounds now = bounds();
+    edit([&](ChartTitleModel& changed) {
+        changed.top = points;
+        changed.left = changed.left.value_or(now.left);
+    });
 }
 
 template <class Interface>
