@@ -127,10 +127,8 @@ Corners CornersOf(const WorksheetModel& sheet, const ShapeModel& shape) {
     return corners;
 }
 
-ooxml::DrawingShape TextBoxOf(const WorksheetModel& sheet, const ShapeModel& shape) {
-    const Corners corners = CornersOf(sheet, shape);
-    const WorkbookColors& colors = sheet.Book().Colors();
-    const TextMargins margins = shape.text.Margins();
+// What every drawing object has: its id and name, its anchor and place, its macro and visibility.
+ooxml::DrawingShape AnchoredObjectOf(const ShapeModel& shape, const Corners& corners) {
     ooxml::DrawingShape out;
     out.id = shape.id;
     out.name = shape.name;
@@ -141,6 +139,15 @@ ooxml::DrawingShape TextBoxOf(const WorksheetModel& sheet, const ShapeModel& sha
     out.y = Emu(corners.bounds.top);
     out.width = Emu(corners.bounds.width);
     out.height = Emu(corners.bounds.height);
+    out.macro = shape.onAction;
+    out.hidden = !shape.visible;
+    return out;
+}
+
+ooxml::DrawingShape TextBoxOf(const WorksheetModel& sheet, const ShapeModel& shape) {
+    const WorkbookColors& colors = sheet.Book().Colors();
+    const TextMargins margins = shape.text.Margins();
+    ooxml::DrawingShape out = AnchoredObjectOf(shape, CornersOf(sheet, shape));
     if (shape.fill.visible) {
         out.fill = DocumentColor(WithoutPalette(shape.fill.color.color, colors));
     }
@@ -157,8 +164,6 @@ ooxml::DrawingShape TextBoxOf(const WorksheetModel& sheet, const ShapeModel& sha
     out.autoFit = shape.text.autoSize;
     out.verticalAnchor = std::string(WordOf(VerticalAnchors, shape.text.verticalAlignment));
     out.alignment = std::string(WordOf(HorizontalAlignments, shape.text.horizontalAlignment));
-    out.macro = shape.onAction;
-    out.hidden = !shape.visible;
     out.text = SpelledOut(shape.text, &colors);
     return out;
 }
@@ -166,18 +171,7 @@ ooxml::DrawingShape TextBoxOf(const WorksheetModel& sheet, const ShapeModel& sha
 // A chart's frame: the anchor and the chart part it shows.
 ooxml::DrawingShape ChartFrameOf(const WorksheetModel& sheet, const ShapeModel& shape) {
     const Corners corners = CornersOf(sheet, shape);
-    ooxml::DrawingShape out;
-    out.id = shape.id;
-    out.name = shape.name;
-    out.editAs = std::string(WordOf(AnchorKinds, shape.placement));
-    out.from = AnchorOf(corners.from);
-    out.to = AnchorOf(corners.to);
-    out.x = Emu(corners.bounds.left);
-    out.y = Emu(corners.bounds.top);
-    out.width = Emu(corners.bounds.width);
-    out.height = Emu(corners.bounds.height);
-    out.macro = shape.onAction;
-    out.hidden = !shape.visible;
+    ooxml::DrawingShape out = AnchoredObjectOf(shape, corners);
     out.chart = std::make_shared<ooxml::ChartDocument>(
         DocumentChart(sheet, *shape.chart, corners.bounds.width, corners.bounds.height));
     return out;
@@ -234,20 +228,25 @@ void PlaceOpened(WorksheetModel& sheet, ShapeModel& shape, const ooxml::DrawingS
     }
 }
 
-void LoadChartFrame(WorksheetModel& sheet, const ooxml::DrawingShape& in) {
+// An opened drawing object of the type with what every one has, not yet placed.
+std::shared_ptr<ShapeModel> AnchoredObjectFromDocument(const ooxml::DrawingShape& in, int32_t type) {
     auto shape = std::make_shared<ShapeModel>();
     shape->id = in.id;
     shape->name = in.name;
-    shape->type = msoChart;
+    shape->type = type;
     shape->placement = ConstantOf(AnchorKinds, in.editAs);
     shape->visible = !in.hidden;
     shape->onAction = in.macro;
+    return shape;
+}
+
+void LoadChartFrame(WorksheetModel& sheet, const ooxml::DrawingShape& in) {
+    auto shape = AnchoredObjectFromDocument(in, msoChart);
     PlaceOpened(sheet, *shape, in);
     const ShapeBounds bounds = BoundsOf(sheet, *shape);
     shape->chart = ChartFromDocument(*in.chart, bounds.width, bounds.height);
     sheet.Shapes().AddOpened(std::move(shape));
 }
-
 
 void LoadTextBox(WorksheetModel& sheet, const ooxml::DrawingShape& in) {
     auto shape = TextBoxFromDocument(in);
@@ -286,12 +285,7 @@ ShapeColor ShapeColorFromDocument(const ooxml::Color& color) {
 }
 
 std::shared_ptr<ShapeModel> TextBoxFromDocument(const ooxml::DrawingShape& in) {
-    auto shape = std::make_shared<ShapeModel>();
-    shape->id = in.id;
-    shape->name = in.name;
-    shape->type = msoTextBox;
-    shape->placement = ConstantOf(AnchorKinds, in.editAs);
-    shape->visible = !in.hidden;
+    auto shape = AnchoredObjectFromDocument(in, msoTextBox);
     shape->fill.visible = in.fill.has_value();
     shape->fill.color = in.fill ? ShapeColorFromDocument(*in.fill) : ShapeColorFromRgb(0xFFFFFF);
     shape->fill.transparency = in.fillTransparency;
@@ -306,7 +300,6 @@ std::shared_ptr<ShapeModel> TextBoxFromDocument(const ooxml::DrawingShape& in) {
     text.autoSize = in.autoFit;
     text.verticalAlignment = ConstantOf(VerticalAnchors, in.verticalAnchor);
     text.horizontalAlignment = ConstantOf(HorizontalAlignments, in.alignment);
-    shape->onAction = in.macro;
     LoadText(text, in.text);
     return shape;
 }
