@@ -35,4 +35,25 @@ int RunReportWriter(int argc, char** argv, Write&& write, Check&& check) {
     });
 }
 
+// Opens the saved file and checks it with checkWorkbook(failures, book), saves it again as
+// FILE.resaved.xlsx beside it and checks that file the same way: what the engine opened it must
+// write again unchanged.
+template <class CheckWorkbook>
+void CheckReopenedAndResaved(excel::Application& app, const std::filesystem::path& file,
+                             CheckWorkbook&& checkWorkbook) {
+    Failures failures;
+    std::filesystem::path resaved = file;
+    resaved.replace_extension(".resaved.xlsx");
+    {
+        auto book = app.Workbooks()->Open(file.string());
+        checkWorkbook(failures, *book);
+        book->SaveAs(resaved.string());
+        book->Close(false);
+    }
+    auto again = app.Workbooks()->Open(resaved.string());
+    checkWorkbook(failures, *again);
+    again->Close(false);
+    failures.ThrowIfAny();
+}
+
 }  // namespace conformance

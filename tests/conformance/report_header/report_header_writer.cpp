@@ -120,19 +120,7 @@ void CheckWorkbook(conformance::Failures& failures, excel::Workbook& book) {
 }
 
 void CheckAfterReopening(vos::VosExcelReporting&, excel::Application& app, const std::filesystem::path& file) {
-    conformance::Failures failures;
-    std::filesystem::path resaved = file;
-    resaved.replace_extension(".resaved.xlsx");
-    {
-        auto book = app.Workbooks()->Open(file.string());
-        CheckWorkbook(failures, *book);
-        book->SaveAs(resaved.string());
-        book->Close(false);
-    }
-    auto again = app.Workbooks()->Open(resaved.string());
-    CheckWorkbook(failures, *again);
-    again->Close(false);
-    failures.ThrowIfAny();
+    conformance::CheckReopenedAndResaved(app, file, CheckWorkbook);
 }
 
 }  // namespace
