@@ -203,20 +203,23 @@ private:
         xml_.EndElement();
     }
 
-    // The theme's minor font is the shape's own (its style's font reference); a major-scheme font
+    // The theme's minor font is a sheet's text box's own (its style's font reference); a chart's text
+    // box has no style, so its runs refer to the theme's minor font themselves. A major-scheme font
     // refers to the theme, any other font is named.
     void WriteTypeface(const Font& font) {
-        if (font.scheme == "minor") {
+        if (font.scheme == "minor" && drawing_.styled) {
             return;
         }
         const bool major = font.scheme == "major";
-        if (!major && font.name.empty()) {
+        const bool minor = font.scheme == "minor";
+        if (!major && !minor && font.name.empty()) {
             return;
         }
         for (const std::string_view element : {"a:latin", "a:cs"}) {
             xml_.StartElement(element);
-            if (major) {
-                xml_.Attribute("typeface", element == "a:latin" ? "+mj-lt" : "+mj-cs");
+            if (major || minor) {
+                const bool latin = element == "a:latin";
+                xml_.Attribute("typeface", major ? (latin ? "+mj-lt" : "+mj-cs") : (latin ? "+mn-lt" : "+mn-cs"));
             } else {
                 xml_.Attribute("typeface", font.name);
                 if (font.family > 0) {

@@ -76,6 +76,24 @@ TEST_F(ChartOpenTest, AChartSavedByTheEngineOpensAsItWasMade) {
     EXPECT_NEAR(opened->Shapes()->Item(1)->Top(), 40, 0.01);
 }
 
+// A one-colour gradient opens as the gradient it was made: its style, variant and degree come back
+// from its angle and its two stops.
+TEST_F(ChartOpenTest, AOneColourGradientOpensWithItsStyleAndDegree) {
+    At("A1:A3")->SetValue(Variant(std::vector<double>{1, 2, 3}));
+    auto chart = sheet->Shapes()->AddChart(xlColumnClustered, 0, 0, 300, 200)->Chart();
+    auto series = chart->SeriesCollection()->NewSeries();
+    series->SetValues(Variant(At("A1:A3")));
+    series->Interior()->SetColor(10040115);
+    series->Fill()->OneColorGradient(msoGradientDiagonalDown, 1, 0.231372549019608);
+    auto reopened = SaveAndReopen("gradient.xlsx");
+    auto fill = reopened->Worksheets(1)->ChartObjects(1)->Chart()->SeriesCollection(1)->Fill();
+    EXPECT_EQ(fill->Type(), msoFillGradient);
+    EXPECT_EQ(fill->GradientStyle(), msoGradientDiagonalDown);
+    EXPECT_EQ(fill->GradientVariant(), 1);
+    EXPECT_NEAR(fill->GradientDegree(), 0.231372549019608, 0.01);
+    EXPECT_EQ(fill->ForeColor()->RGB(), 10040115);
+}
+
 // Charts Excel wrote open into the model; changed and saved again they pass the checkers.
 TEST_F(ChartOpenTest, ChartsExcelWroteOpenIntoTheModel) {
     auto column = OpenCorpus("charts-xlsxwriter/xw__chart_column01.xlsx");

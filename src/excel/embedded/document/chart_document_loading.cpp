@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string>
 
 // Opening a chart part into the chart model (declared in chart_document_conversion.hpp).
 
@@ -17,6 +18,42 @@ constexpr double EmuPerPoint = 12700.0;
 constexpr int32_t RotationPerDegree = 60000;
 // Excel's chart title font when the file names none: the chart's text at 18 points, bold.
 constexpr double DefaultTitleSize = 18.0;
+
+uint32_t Channel(uint32_t rgb, int shift) {
+    return (rgb >> shift) & 0xFF;
+}
+
+// A gradient as a one-colour gradient of its first stop: the style its angle gives, variant 3
+// when it mirrors from the middle, and the degree of black or white its second stop holds.
+ChartFill GradientFromDocument(const ooxml::ChartFill& fill) {
+    ChartFill out;
+    out.kind = ChartFill::Kind::Gradient;
+    if (fill.stops.empty()) {
+        return out;
+    }
+    out.color = ShapeColorFromDocument(fill.stops.front().color);
+    out.gradientStyle = ConstantOf(GradientAngles, std::to_string(fill.angle));
+    out.gradientVariant = fill.stops.size() == 3 ? 3 : 1;
+    const ooxml::Color& first = fill.stops.front().color;
+    const ooxml::Color& second = fill.stops[fill.stops.size() == 3 ? 1 : fill.stops.size() - 1].color;
+    if (first.kind != ooxml::Color::Kind::Rgb || second.kind != ooxml::Color::Kind::Rgb) {
+        return out;
+    }
+    // The channel that moved most says how far towards black or white the second stop went.
+    double darkest = 0.0;
+    double lightest = 0.0;
+    for (const int shift : {16, 8, 0}) {
+        const double from = Channel(first.argb, shift);
+        const double to = Channel(second.argb, shift);
+        if (to < from && from > 0.0) {
+            darkest = std::max(darkest, 1.0 - to / from);
+        } else if (to > from && from < 255.0) {
+            lightest = std::max(lightest, (to - from) / (255.0 - from));
+        }
+    }
+    out.gradientDegree = darkest >= lightest ? (1.0 - darkest) / 2.0 : 1.0 - (1.0 - lightest) / 2.0;
+    return out;
+}
 
 ChartFill FillFromDocument(const ooxml::ChartFill& fill) {
     ChartFill out;
@@ -31,10 +68,7 @@ ChartFill FillFromDocument(const ooxml::ChartFill& fill) {
             out.color = ShapeColorFromDocument(fill.color);
             break;
         case ooxml::ChartFill::Kind::Gradient:
-            out.kind = ChartFill::Kind::Gradient;
-            if (!fill.stops.empty()) {
-                out.color = ShapeColorFromDocument(fill.stops.front().color);
-            }
+            out = GradientFromDocument(fill);
             break;
     }
     return out;

@@ -1,9 +1,11 @@
 #include "excel/embedded/document/chart_format_document_conversion.hpp"
 
+#include "excel/embedded/document/chart_words.hpp"
 #include "excel/embedded/document/format_document_conversion.hpp"
 #include "excel/embedded/format/color_conversion.hpp"
 #include "excel/embedded/format/color_model.hpp"
 
+#include <charconv>
 #include <cmath>
 
 namespace excel::embedded {
@@ -53,20 +55,6 @@ uint32_t SecondStop(uint32_t rrggbb, double degree) {
     return result;
 }
 
-// The direction of a gradient style, variant 1: colour one to colour two.
-int32_t AngleOf(int32_t style) {
-    switch (style) {
-        case msoGradientVertical:
-            return 0;
-        case msoGradientDiagonalUp:
-            return 2700000;
-        case msoGradientDiagonalDown:
-            return 8100000;
-        default:
-            return QuarterTurn;
-    }
-}
-
 ooxml::ChartFill DocumentFill(const ChartFill& fill, const WorkbookColors& colors) {
     ooxml::ChartFill out;
     switch (fill.kind) {
@@ -93,7 +81,8 @@ ooxml::ChartFill DocumentFill(const ChartFill& fill, const WorkbookColors& color
             } else {
                 out.stops = {{0, start}, {FullStop, end}};
             }
-            out.angle = AngleOf(fill.gradientStyle);
+            const std::string_view angle = WordOf(GradientAngles, fill.gradientStyle);
+            std::from_chars(angle.data(), angle.data() + angle.size(), out.angle);
             out.scaled = true;
             out.rotateWithShape = true;
             break;

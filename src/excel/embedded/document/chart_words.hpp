@@ -33,4 +33,11 @@ inline constexpr WordTable<5> LegendPositions{{{xlLegendPositionRight, "r"},
 inline constexpr WordTable<3> Crossings{
     {{xlAxisCrossesAutomatic, "autoZero"}, {xlAxisCrossesMaximum, "max"}, {xlAxisCrossesMinimum, "min"}}};
 
+// The direction of a one-colour gradient's style, variant 1 (colour one to colour two), as a
+// linear gradient's angle in 60,000ths of a degree.
+inline constexpr WordTable<4> GradientAngles{{{msoGradientHorizontal, "5400000"},
+                                              {msoGradientVertical, "0"},
+                                              {msoGradientDiagonalUp, "2700000"},
+                                              {msoGradientDiagonalDown, "8100000"}}};
+
 }  // namespace excel::embedded

@@ -202,3 +202,24 @@ TEST_F(SeriesTest, ReferencesFollowCellsAndSheets) {
 }
 
 }  // namespace
+
+namespace {
+
+// When the last series of the primary axes goes, the secondary series and their axes take their
+// place, as Excel moves them.
+TEST_F(SeriesTest, TheSecondaryAxesBecomePrimaryWhenThePrimarySeriesGo) {
+    auto chart = AddChart(xlLine);
+    auto first = AddSeries(chart, "B2:B5");
+    auto second = AddSeries(chart, "C2:C5");
+    second->SetAxisGroup(xlSecondary);
+    chart->Axes(xlValue, xlSecondary)->SetMaximumScale(99);
+    first->Delete();
+    EXPECT_EQ(second->AxisGroup(), xlPrimary);
+    EXPECT_EQ(chart->ChartGroups()->Count(), 1);
+    EXPECT_TRUE(chart->HasAxis(xlCategory, xlPrimary));
+    EXPECT_FALSE(chart->HasAxis(xlValue, xlSecondary));
+    EXPECT_DOUBLE_EQ(chart->Axes(xlValue, xlPrimary)->MaximumScale(), 99);
+    EXPECT_EQ(chart->Axes(xlValue, xlPrimary)->AxisGroup(), xlPrimary);
+}
+
+}  // namespace

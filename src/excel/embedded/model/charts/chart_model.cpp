@@ -170,9 +170,15 @@ void ChartModel::dropEmptyGroups() {
         return group->series.empty() && (group->axisGroup == xlSecondary || groups_.size() > 1);
     });
     if (groups_.front()->axisGroup == xlSecondary) {
+        // The last primary series went: the secondary group and its axes become the primary ones.
         groups_.front()->axisGroup = xlPrimary;
         axes_[0] = axes_[2];
         axes_[1] = axes_[3];
+        for (const std::size_t slot : {0u, 1u}) {
+            axes_[slot].axis->group = xlPrimary;
+        }
+        axes_[0].shown = true;
+        axes_[0].axis->crosses = xlAxisCrossesAutomatic;  // the value axis back at the left
     }
     if (!UsesAxisGroup(xlSecondary)) {
         axes_[2] = AxisSlot{};
