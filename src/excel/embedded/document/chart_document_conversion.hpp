@@ -17,7 +17,8 @@ ooxml::ChartDocument DocumentChart(const WorksheetModel& sheet, const ChartModel
                                    double height);
 
 // An opened chart of that size (in points): the model's parts from the document's, each keeping
-// its part of the document for what the model does not hold.
-std::shared_ptr<ChartModel> ChartFromDocument(const ooxml::ChartDocument& chart, double width, double height);
+// its piece of the document (which they share) for what the model does not hold.
+std::shared_ptr<ChartModel> ChartFromDocument(std::shared_ptr<const ooxml::ChartDocument> chart, double width,
+                                              double height);
 
 }  // namespace excel::embedded

@@ -134,7 +134,15 @@ ChartTextFormat TextFromDocument(const ooxml::ChartTextProperties& text) {
     return out;
 }
 
-ChartTitleModel TitleFromDocument(const ooxml::ChartTitle& title, FontFormat base) {
+// The opened chart's piece of a part: it shares the chart document, which it lives in.
+using OpenedChart = std::shared_ptr<const ooxml::ChartDocument>;
+
+template <class Part>
+std::shared_ptr<const Part> PieceOf(const OpenedChart& chart, const Part& part) {
+    return std::shared_ptr<const Part>(chart, &part);
+}
+
+ChartTitleModel TitleFromDocument(const OpenedChart& chart, const ooxml::ChartTitle& title, FontFormat base) {
     ChartTitleModel out;
     out.font = FontFromChartFont(title.paragraphFont, FontFromChartFont(title.textProperties.font, base));
     for (const ooxml::ChartTextRun& run : title.runs) {
@@ -147,7 +155,7 @@ ChartTitleModel TitleFromDocument(const ooxml::ChartTitle& title, FontFormat bas
     out.orientation = OrientationOf(title.rotation, xlHorizontal);
     out.format = FormatFromDocument(title.shape);
     out.textFromFile = true;
-    out.opened = std::make_shared<const ooxml::ChartTitle>(title);
+    out.opened = PieceOf(chart, title);
     return out;
 }
 
@@ -164,7 +172,7 @@ ChartTypeTraits GroupTraits(const ooxml::ChartGroup& group) {
     return traits;
 }
 
-std::shared_ptr<SeriesModel> SeriesFromDocument(const ooxml::ChartSeries& series) {
+std::shared_ptr<SeriesModel> SeriesFromDocument(const OpenedChart& chart, const ooxml::ChartSeries& series) {
     auto out = std::make_shared<SeriesModel>();
     out->index = series.index;
     out->nameText = series.nameText;
@@ -182,13 +190,13 @@ std::shared_ptr<SeriesModel> SeriesFromDocument(const ooxml::ChartSeries& series
     }
     out->smooth = series.smooth;
     out->invertIfNegative = series.invertIfNegative;
-    out->opened = std::make_shared<const ooxml::ChartSeries>(series);
+    out->opened = PieceOf(chart, series);
     return out;
 }
 
 class ChartLoader {
 public:
-    explicit ChartLoader(const ooxml::ChartDocument& chart) : chart_(chart) {}
+    explicit ChartLoader(OpenedChart chart) : document_(std::move(chart)), chart_(*document_) {}
 
     std::shared_ptr<ChartModel> Load(double width, double height) {
         const ooxml::ChartGroup& first = chart_.plotArea.groups.front();
@@ -202,7 +210,7 @@ public:
             FontFormat base = DefaultChartFont();
             base.size = DefaultTitleSize;
             base.bold = true;
-            model->SetOpenedTitle(std::make_shared<ChartTitleModel>(TitleFromDocument(*chart_.title, base)));
+            model->SetOpenedTitle(std::make_shared<ChartTitleModel>(TitleFromDocument(document_, *chart_.title, base)));
         }
         model->SetOpenedLegend(chart_.legend ? legendOf(*chart_.legend) : nullptr);
         model->automaticTitleOff = chart_.autoTitleDeleted;
@@ -218,7 +226,7 @@ public:
                                       (placed.toX - placed.fromX) * width, (placed.toY - placed.fromY) * height};
             model->shapes.AddOpened(std::move(box));
         }
-        model->opened = std::make_shared<const ooxml::ChartDocument>(chart_);
+        model->opened = document_;
         return model;
     }
 
@@ -235,14 +243,14 @@ private:
         out->overlap = group.overlap.value_or(out->overlap);
         out->showMarkers = group.showMarkers;
         for (const ooxml::ChartSeries& series : group.series) {
-            out->series.push_back(SeriesFromDocument(series));
+            out->series.push_back(SeriesFromDocument(document_, series));
         }
         const bool pointed = traits.kind == ChartGroupKind::Line || traits.kind == ChartGroupKind::Scatter;
         const SeriesModel* look = out->series.empty() ? nullptr : out->series.front().get();
         const bool markers = look ? look->marker.style != xlMarkerStyleNone : pointed;
         const bool lines = look ? look->format.line.kind != ChartLine::Kind::None : true;
         out->type = ChartTypeOf(traits.kind, traits.horizontal, traits.grouping, markers, lines, look && look->smooth);
-        out->opened = std::make_shared<const ooxml::ChartGroup>(group);
+        out->opened = PieceOf(document_, group);
         for (std::size_t i = 0; i < group.axisIds.size() && i < 2; ++i) {
             axisSlots_.emplace_back(group.axisIds[i], std::pair(i == 0 ? xlCategory : xlValue, axisGroup));
         }
@@ -306,7 +314,7 @@ private:
         if (axis.title) {
             FontFormat base = DefaultChartFont();
             base.bold = true;
-            out->title = TitleFromDocument(*axis.title, base);
+            out->title = TitleFromDocument(document_, *axis.title, base);
         }
         if (axis.numberFormat) {
             out->numberFormat = axis.numberFormat->code;
@@ -317,7 +325,7 @@ private:
         out->tickLabelPosition = ConstantOf(TickLabelPositions, axis.tickLabelPosition);
         out->tickLabels = TextFromDocument(axis.textProperties);
         out->format = FormatFromDocument(axis.shape);
-        out->opened = std::make_shared<const ooxml::ChartAxis>(axis);
+        out->opened = PieceOf(document_, axis);
         return out;
     }
 
@@ -327,18 +335,20 @@ private:
         out->includeInLayout = !legend.overlay;
         out->text = TextFromDocument(legend.textProperties);
         out->format = FormatFromDocument(legend.shape);
-        out->opened = std::make_shared<const ooxml::ChartLegend>(legend);
+        out->opened = PieceOf(document_, legend);
         return out;
     }
 
+    OpenedChart document_;
     const ooxml::ChartDocument& chart_;
     std::vector<std::pair<uint32_t, std::pair<int32_t, int32_t>>> axisSlots_;  // axis id -> type, group
 };
 
 }  // namespace
 
-std::shared_ptr<ChartModel> ChartFromDocument(const ooxml::ChartDocument& chart, double width, double height) {
-    return ChartLoader(chart).Load(width, height);
+std::shared_ptr<ChartModel> ChartFromDocument(std::shared_ptr<const ooxml::ChartDocument> chart, double width,
+                                              double height) {
+    return ChartLoader(std::move(chart)).Load(width, height);
 }
 
 }  // namespace excel::embedded

@@ -244,7 +244,7 @@ void LoadChartFrame(WorksheetModel& sheet, const ooxml::DrawingShape& in) {
     auto shape = AnchoredObjectFromDocument(in, msoChart);
     PlaceOpened(sheet, *shape, in);
     const ShapeBounds bounds = BoundsOf(sheet, *shape);
-    shape->chart = ChartFromDocument(*in.chart, bounds.width, bounds.height);
+    shape->chart = ChartFromDocument(in.chart, bounds.width, bounds.height);
     sheet.Shapes().AddOpened(std::move(shape));
 }
 
