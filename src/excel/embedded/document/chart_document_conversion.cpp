@@ -224,8 +224,11 @@ private:
         const std::size_t slot = ChartModel::SlotOf(axis.type, axis.group);
         out.id = ids_[slot];
         const bool vertical = (axis.type == xlValue) != horizontalBars;
-        const bool secondary = axis.group == xlSecondary;
-        out.position = vertical ? (secondary ? "r" : "l") : (secondary && axis.type == xlValue ? "t" : "b");
+        // The axis sits where the other axis is crossed: at that one's far end when it is crossed at
+        // its maximum, or runs reversed (the secondary value axis, crossed at the maximum, on the right).
+        const auto crossed = chart_.CrossingAxis(axis);
+        const bool farEnd = (crossed->crosses == xlAxisCrossesMaximum) != crossed->reversed;
+        out.position = vertical ? (farEnd ? "r" : "l") : (farEnd ? "t" : "b");
         // The file's side of the axis holds while the axis still runs the same way.
         if (opened != nullptr && (opened->position == "l" || opened->position == "r") == vertical) {
             out.position = opened->position;
@@ -267,7 +270,6 @@ private:
         out.tickLabelPosition = WordOf(TickLabelPositions, axis.tickLabelPosition);
         out.shape = DocumentShapeProperties(axis.format, colors_, opened ? &opened->shape : nullptr);
         out.textProperties = DocumentTextProperties(axis.tickLabels, opened ? &opened->textProperties : nullptr);
-        const auto crossed = chart_.CrossingAxis(axis);
         out.crossAxisId = ids_[ChartModel::SlotOf(crossed->type, crossed->group)];
         // The file keeps on this axis where it crosses the other: the other axis' Crosses.
         if (crossed->crosses == xlAxisCrossesCustom) {
