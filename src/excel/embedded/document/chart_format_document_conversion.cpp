@@ -213,6 +213,9 @@ ooxml::ChartTitle DocumentTitle(const ChartTitleModel& title, const WorkbookColo
     }
     out.rotation = DocumentRotation(title.orientation == xlHorizontal ? xlTickLabelOrientationAutomatic
                                                                       : title.orientation);
+    if (out.rotation) {
+        out.vertical = "horz";  // Excel names the text's direction beside its rotation
+    }
     out.shape = DocumentShapeProperties(title.format, colors, title.opened ? &title.opened->shape : nullptr);
     if (title.opened != nullptr) {
         out.carried = title.opened->carried;

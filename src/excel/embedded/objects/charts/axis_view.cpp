@@ -77,12 +77,15 @@ bool AxisView::HasTitle() {
 }
 
 void AxisView::SetHasTitle(bool has) {
+    // The title of an axis that runs up the chart reads upward: the value axis of columns and
+    // lines, the category axis of bars.
+    const bool vertical = (type_ == xlValue) != chart_.Chart().GroupOnAxes(group_).horizontal;
     edit([&](AxisModel& changed) {
         if (!has) {
             changed.title.reset();
         } else if (!changed.title) {
             changed.title = NewAxisTitle();
-            if (changed.type == xlValue) {
+            if (vertical) {
                 changed.title->orientation = xlUpward;
             }
         }
