@@ -11,7 +11,7 @@ namespace excel {
 // The fill of a chart element: solid, or a gradient of one colour.
 class ChartFillFormat : public Object {
 public:
-    virtual int32_t Type() = 0;  // an MsoFillType
+    virtual int32_t Type() = 0;     // an MsoFillType
     virtual int32_t Visible() = 0;  // an MsoTriState
     virtual void SetVisible(int32_t visible) = 0;
     virtual std::shared_ptr<excel::ColorFormat> ForeColor() = 0;

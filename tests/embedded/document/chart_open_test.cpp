@@ -41,7 +41,11 @@ TEST_F(ChartOpenTest, AChartSavedByTheEngineOpensAsItWasMade) {
     y->TickLabels()->SetNumberFormat("0.0");
     chart->Axes(xlCategory)->SetCrosses(xlAxisCrossesMaximum);
     chart->Legend()->SetPosition(xlLegendPositionBottom);
-    chart->Shapes()->AddTextbox(msoTextOrientationHorizontal, 20, 40, 100, 30)->TextFrame()->Characters()->SetText("Note");
+    chart->Shapes()
+        ->AddTextbox(msoTextOrientationHorizontal, 20, 40, 100, 30)
+        ->TextFrame()
+        ->Characters()
+        ->SetText("Note");
 
     auto reopened = SaveAndReopen("chart.xlsx");
     auto openedSheet = reopened->Worksheets(1);

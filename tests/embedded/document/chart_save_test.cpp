@@ -71,8 +71,9 @@ TEST_F(ChartSaveTest, AColumnChartIsSavedAsAChartPartThatPassesTheCheckers) {
     drawing.load_string(parts.at("xl/drawings/drawing1.xml").c_str());
     const auto anchor = drawing.child("xdr:wsDr").child("xdr:twoCellAnchor");
     EXPECT_STREQ(anchor.attribute("editAs").value(), "oneCell");
-    EXPECT_STREQ(anchor.child("xdr:graphicFrame").child("xdr:nvGraphicFramePr").child("xdr:cNvPr").attribute("name").value(),
-                 "Chart 1");
+    EXPECT_STREQ(
+        anchor.child("xdr:graphicFrame").child("xdr:nvGraphicFramePr").child("xdr:cNvPr").attribute("name").value(),
+        "Chart 1");
 
     const pugi::xml_document xml = ChartPart("column.xlsx");
     const auto plot = xml.child("c:chartSpace").child("c:chart").child("c:plotArea");
@@ -97,7 +98,8 @@ TEST_F(ChartSaveTest, AColumnChartIsSavedAsAChartPartThatPassesTheCheckers) {
     EXPECT_STREQ(value.child("c:scaling").child("c:max").attribute("val").value(), "60");
     EXPECT_STREQ(value.child("c:majorUnit").attribute("val").value(), "20");
     EXPECT_STREQ(value.child("c:numFmt").attribute("formatCode").value(), "0.0");
-    const auto runs = xml.child("c:chartSpace").child("c:chart").child("c:title").child("c:tx").child("c:rich").child("a:p");
+    const auto runs =
+        xml.child("c:chartSpace").child("c:chart").child("c:title").child("c:tx").child("c:rich").child("a:p");
     const auto second = runs.child("a:r").next_sibling("a:r");
     EXPECT_STREQ(second.child_value("a:t"), "\nBy month ");
     EXPECT_STREQ(second.child("a:rPr").attribute("b").value(), "0");
@@ -118,7 +120,11 @@ TEST_F(ChartSaveTest, ScatterLineAndSecondaryAxisChartsPassTheCheckers) {
     right->SetValues(Variant(std::vector<double>{1, 2.5, 3, 4}));
     right->SetAxisGroup(xlSecondary);
     line->Axes(xlValue, xlSecondary)->SetHasTitle(true);
-    line->Shapes()->AddTextbox(msoTextOrientationHorizontal, 20, 75, 260, 50)->TextFrame()->Characters()->SetText("Draft");
+    line->Shapes()
+        ->AddTextbox(msoTextOrientationHorizontal, 20, 75, 260, 50)
+        ->TextFrame()
+        ->Characters()
+        ->SetText("Draft");
     book->SaveAs(PathOf("charts.xlsx"));
     EXPECT_EQ(RunTool("validate-xlsx", PathOf("charts.xlsx")), 0);
     EXPECT_EQ(RunTool("check-xlsx", PathOf("charts.xlsx")), 0);
@@ -130,8 +136,9 @@ TEST_F(ChartSaveTest, ScatterLineAndSecondaryAxisChartsPassTheCheckers) {
         ++lineGroups;
     }
     EXPECT_EQ(lineGroups, 2);
-    EXPECT_STREQ(plot.child("c:lineChart").next_sibling("c:lineChart").child("c:ser").child("c:val").first_child().name(),
-                 "c:numLit");
+    EXPECT_STREQ(
+        plot.child("c:lineChart").next_sibling("c:lineChart").child("c:ser").child("c:val").first_child().name(),
+        "c:numLit");
     EXPECT_TRUE(xml.child("c:chartSpace").child("c:userShapes"));
 }
 

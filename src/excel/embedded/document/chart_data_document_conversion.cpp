@@ -78,8 +78,8 @@ ChartData ChartDataFromDocument(const ooxml::ChartData& data) {
                 }
                 double number = 0.0;
                 const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-                const bool numeric = data.kind == Kind::NumberLiteral && error == std::errc() &&
-                                     end == text.data() + text.size();
+                const bool numeric =
+                    data.kind == Kind::NumberLiteral && error == std::errc() && end == text.data() + text.size();
                 values[index] = numeric ? ChartValue(number) : ChartValue(text);
             }
             return LiteralData(std::move(values));

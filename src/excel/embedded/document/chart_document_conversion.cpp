@@ -170,7 +170,8 @@ private:
         out.order = order;
         out.nameText = series.nameText;
         if (series.nameReference.kind == ChartData::Kind::Reference) {
-            out.nameReference = DocumentChartData(book_, series.nameReference, opened ? &opened->nameReference : nullptr);
+            out.nameReference =
+                DocumentChartData(book_, series.nameReference, opened ? &opened->nameReference : nullptr);
             out.nameReference.kind = ooxml::ChartData::Kind::StringReference;
             out.nameReference.formatCode.clear();
         }
@@ -219,8 +220,8 @@ private:
         const bool valueAxis = axis.type == xlValue || scatter;
         // A date or series axis of the file stays one.
         out.type = opened != nullptr && opened->type != "valAx" && opened->type != "catAx" ? opened->type
-                   : valueAxis                                                            ? "valAx"
-                                                                                          : "catAx";
+                   : valueAxis                                                             ? "valAx"
+                                                                                           : "catAx";
         const std::size_t slot = ChartModel::SlotOf(axis.type, axis.group);
         out.id = ids_[slot];
         const bool vertical = (axis.type == xlValue) != horizontalBars;
@@ -329,8 +330,7 @@ private:
 
 }  // namespace
 
-ooxml::ChartDocument DocumentChart(const WorksheetModel& sheet, const ChartModel& chart, double width,
-                                   double height) {
+ooxml::ChartDocument DocumentChart(const WorksheetModel& sheet, const ChartModel& chart, double width, double height) {
     return ChartWriter(sheet, chart).Document(width, height);
 }
 

@@ -13,8 +13,7 @@ class WorksheetModel;
 // the workbook holds them now, axes with their ids and crossings (a crossing kept on the axis that
 // crosses, as the file keeps it), and its text boxes placed by fractions of its size (in points).
 // What an opened chart held beyond the model is written back from it.
-ooxml::ChartDocument DocumentChart(const WorksheetModel& sheet, const ChartModel& chart, double width,
-                                   double height);
+ooxml::ChartDocument DocumentChart(const WorksheetModel& sheet, const ChartModel& chart, double width, double height);
 
 // An opened chart of that size (in points): the model's parts from the document's, each keeping
 // its piece of the document (which they share) for what the model does not hold.

@@ -101,9 +101,9 @@ FontFormat FontFromChartFont(const ooxml::ChartFont& font, FontFormat base) {
     base.italic = font.italic.value_or(base.italic);
     base.strikethrough = font.strike.value_or(base.strikethrough);
     if (font.underline) {
-        base.underline = *font.underline == "none" ? Underline::None
+        base.underline = *font.underline == "none"  ? Underline::None
                          : *font.underline == "dbl" ? Underline::Double
-                                                     : Underline::Single;
+                                                    : Underline::Single;
     }
     if (font.color) {
         base.color = ShapeColorFromDocument(*font.color).color;
@@ -222,8 +222,8 @@ public:
         for (const ooxml::ChartShape& placed : chart_.shapes) {
             auto box = TextBoxFromDocument(placed.shape);
             box->inChart = true;
-            box->bounds = ShapeBounds{placed.fromX * width, placed.fromY * height,
-                                      (placed.toX - placed.fromX) * width, (placed.toY - placed.fromY) * height};
+            box->bounds = ShapeBounds{placed.fromX * width, placed.fromY * height, (placed.toX - placed.fromX) * width,
+                                      (placed.toY - placed.fromY) * height};
             model->shapes.AddOpened(std::move(box));
         }
         model->opened = document_;

@@ -71,7 +71,8 @@ ooxml::ChartFill DocumentFill(const ChartFill& fill, const WorkbookColors& color
             out.kind = ooxml::ChartFill::Kind::Gradient;
             const uint32_t first = ArgbFromRgbLong(RgbOf(fill.color.color, colors, 0)) & 0xFFFFFF;
             const ooxml::Color one{ooxml::Color::Kind::Rgb, 0xFF000000 | first, 0, 0.0};
-            const ooxml::Color two{ooxml::Color::Kind::Rgb, 0xFF000000 | SecondStop(first, fill.gradientDegree), 0, 0.0};
+            const ooxml::Color two{ooxml::Color::Kind::Rgb, 0xFF000000 | SecondStop(first, fill.gradientDegree), 0,
+                                   0.0};
             // Variants 2 and 4 run the other way; 3 and 4 mirror from the middle.
             const bool reversed = fill.gradientVariant == 2 || fill.gradientVariant == 4;
             const ooxml::Color& start = reversed ? two : one;
@@ -211,8 +212,8 @@ ooxml::ChartTitle DocumentTitle(const ChartTitleModel& title, const WorkbookColo
     } else {
         out.textProperties.font = out.paragraphFont;
     }
-    out.rotation = DocumentRotation(title.orientation == xlHorizontal ? xlTickLabelOrientationAutomatic
-                                                                      : title.orientation);
+    out.rotation =
+        DocumentRotation(title.orientation == xlHorizontal ? xlTickLabelOrientationAutomatic : title.orientation);
     if (out.rotation) {
         out.vertical = "horz";  // Excel names the text's direction beside its rotation
     }

@@ -35,17 +35,16 @@ uint32_t Pixels(double points) {
 }
 
 constexpr WordTable<5> HorizontalAlignments{{{xlHAlignLeft, "l"},
-                                                                                    {xlHAlignCenter, "ctr"},
-                                                                                    {xlHAlignRight, "r"},
-                                                                                    {xlHAlignJustify, "just"},
-                                                                                    {xlHAlignDistributed, "dist"}}};
+                                             {xlHAlignCenter, "ctr"},
+                                             {xlHAlignRight, "r"},
+                                             {xlHAlignJustify, "just"},
+                                             {xlHAlignDistributed, "dist"}}};
 constexpr WordTable<5> VerticalAnchors{{{xlVAlignTop, "t"},
-                                                                               {xlVAlignCenter, "ctr"},
-                                                                               {xlVAlignBottom, "b"},
-                                                                               {xlVAlignJustify, "just"},
-                                                                               {xlVAlignDistributed, "dist"}}};
-constexpr WordTable<3> AnchorKinds{
-    {{xlMoveAndSize, "twoCell"}, {xlMove, "oneCell"}, {xlFreeFloating, "absolute"}}};
+                                        {xlVAlignCenter, "ctr"},
+                                        {xlVAlignBottom, "b"},
+                                        {xlVAlignJustify, "just"},
+                                        {xlVAlignDistributed, "dist"}}};
+constexpr WordTable<3> AnchorKinds{{{xlMoveAndSize, "twoCell"}, {xlMove, "oneCell"}, {xlFreeFloating, "absolute"}}};
 
 CellPoint CellPointOf(const ooxml::CellAnchor& anchor) {
     return CellPoint{static_cast<int32_t>(anchor.column + 1), PointsFromEmu(anchor.columnOffset),
@@ -95,7 +94,6 @@ void LoadText(ShapeText& frame, const ooxml::SharedString& text) {
         frame.text.runs.clear();
     }
 }
-
 
 // 0x00BBGGRR <-> the legacy drawing's 0x00RRGGBB.
 uint32_t RrggbbOf(uint32_t rgbLong) {

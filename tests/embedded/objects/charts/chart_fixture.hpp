@@ -16,8 +16,8 @@ protected:
         }
     }
 
-    std::shared_ptr<excel::Chart> AddChart(int32_t type = excel::xlColumnClustered, double left = 100,
-                                           double top = 50, double width = 360, double height = 216) {
+    std::shared_ptr<excel::Chart> AddChart(int32_t type = excel::xlColumnClustered, double left = 100, double top = 50,
+                                           double width = 360, double height = 216) {
         return sheet->Shapes()->AddChart(type, left, top, width, height)->Chart();
     }
 

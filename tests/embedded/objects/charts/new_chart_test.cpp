@@ -53,8 +53,8 @@ TEST_F(NewChartTest, TheContainerHasTheGeometryGivenAndItsCells) {
 }
 
 TEST_F(NewChartTest, EveryDrawnTypeIsKeptAndOthersAreRefused) {
-    for (const int32_t type : {xlColumnClustered, xlColumnStacked, xlBarClustered, xlBarStacked, xlLine,
-                               xlLineMarkers, xlXYScatter, xlXYScatterLines, xlXYScatterLinesNoMarkers, xlArea}) {
+    for (const int32_t type : {xlColumnClustered, xlColumnStacked, xlBarClustered, xlBarStacked, xlLine, xlLineMarkers,
+                               xlXYScatter, xlXYScatterLines, xlXYScatterLinesNoMarkers, xlArea}) {
         EXPECT_EQ(AddChart(type)->ChartType(), type) << type;
     }
     EXPECT_EQ(ErrorCodeOf([&] { AddChart(-4102); }), kRefused);  // xl3DPie

@@ -48,8 +48,10 @@ AxisScale ScaleOf(const AxisModel& axis, double dataMinimum, double dataMaximum)
     AxisScale scale;
     scale.majorUnit = axis.majorUnit.value_or(NiceUnit(std::abs(high - low)));
     const double room = Headroom * std::abs(high - low);
-    scale.minimum = axis.minimum.value_or(low == 0.0 ? 0.0 : std::floor((low - room) / scale.majorUnit) * scale.majorUnit);
-    scale.maximum = axis.maximum.value_or(high == 0.0 ? 0.0 : std::ceil((high + room) / scale.majorUnit) * scale.majorUnit);
+    scale.minimum =
+        axis.minimum.value_or(low == 0.0 ? 0.0 : std::floor((low - room) / scale.majorUnit) * scale.majorUnit);
+    scale.maximum =
+        axis.maximum.value_or(high == 0.0 ? 0.0 : std::ceil((high + room) / scale.majorUnit) * scale.majorUnit);
     scale.minorUnit = axis.minorUnit.value_or(scale.majorUnit / MinorPerMajor);
     return scale;
 }

@@ -1,9 +1,9 @@
 #include "excel/embedded/model/charts/chart_data_cells.hpp"
 
 #include "excel/embedded/model/cell_address.hpp"
-#include "excel/embedded/model/charts/chart_model.hpp"
 #include "excel/embedded/model/cells/cell_content.hpp"
 #include "excel/embedded/model/cells/cell_text.hpp"
+#include "excel/embedded/model/charts/chart_model.hpp"
 #include "excel/embedded/model/workbook_model.hpp"
 #include "excel/embedded/model/worksheet_model.hpp"
 #include "excel/embedded/text/general_format.hpp"
@@ -73,9 +73,8 @@ ChartPoints PointsOf(const WorkbookModel& book, const ChartData& data) {
 }
 
 bool AllNumbers(const ChartPoints& points) {
-    return std::all_of(points.values.begin(), points.values.end(), [](const ChartValue& value) {
-        return !std::holds_alternative<std::string>(value);
-    });
+    return std::all_of(points.values.begin(), points.values.end(),
+                       [](const ChartValue& value) { return !std::holds_alternative<std::string>(value); });
 }
 
 ValueRange DataRangeOf(const WorkbookModel& book, const ChartModel& chart, const AxisModel& axis) {

@@ -18,7 +18,7 @@ struct ChartPoints {
     std::vector<ChartValue> values;
     std::vector<std::string> texts;
     std::string numberFormat = "General";  // of the first cell
-    bool resolved = true;                   // false: the reference names no worksheet or no cells
+    bool resolved = true;                  // false: the reference names no worksheet or no cells
 };
 
 ChartPoints PointsOf(const WorkbookModel& book, const ChartData& data);

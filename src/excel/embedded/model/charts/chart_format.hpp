@@ -17,8 +17,8 @@ struct ChartFill {
     Kind kind = Kind::Automatic;
     ShapeColor color;
     int32_t gradientStyle = msoGradientHorizontal;  // an MsoGradientStyle
-    int32_t gradientVariant = 1;                     // 1..4
-    double gradientDegree = 0.0;                     // 0 (towards black) .. 1 (towards white)
+    int32_t gradientVariant = 1;                    // 1..4
+    double gradientDegree = 0.0;                    // 0 (towards black) .. 1 (towards white)
 
     friend bool operator==(const ChartFill&, const ChartFill&) = default;
 };

@@ -100,8 +100,8 @@ ChartLayout LayOutChart(const ChartModel& chart, double width, double height) {
             entryWidth = std::max(entryWidth, TextAdvance(name, font));
         }
         const double w = entryWidth + LegendKeyWidth + 2 * TextPadding;
-        const double h = static_cast<double>(std::max<std::size_t>(series.size(), 1)) * LineHeight(font) +
-                         2 * TextPadding;
+        const double h =
+            static_cast<double>(std::max<std::size_t>(series.size(), 1)) * LineHeight(font) + 2 * TextPadding;
         switch (legend->position) {
             case xlLegendPositionBottom:
                 layout.legend = ShapeBounds{(width - w) / 2, height - Margin - h, w, h};
@@ -121,8 +121,8 @@ ChartLayout LayOutChart(const ChartModel& chart, double width, double height) {
                 break;
         }
     }
-    layout.plotArea = chart.plotAreaBounds.value_or(
-        ShapeBounds{left, top, std::max(right - left, 0.0), std::max(bottom - top, 0.0)});
+    layout.plotArea =
+        chart.plotAreaBounds.value_or(ShapeBounds{left, top, std::max(right - left, 0.0), std::max(bottom - top, 0.0)});
 
     // Each shown axis takes a band of the plot area for its tick marks, labels and title.
     ShapeBounds inside = layout.plotArea;
@@ -174,19 +174,19 @@ ChartLayout LayOutChart(const ChartModel& chart, double width, double height) {
             const bool vertical = Vertical(chart, *axis);
             const bool far = group == xlSecondary;
             const double band = bands[slot];
-            layout.axes[slot] = vertical ? ShapeBounds{far ? inside.left + inside.width : inside.left - band,
-                                                       inside.top, band, inside.height}
-                                         : ShapeBounds{inside.left, far ? inside.top - band : inside.top + inside.height,
-                                                       inside.width, band};
+            layout.axes[slot] = vertical
+                                    ? ShapeBounds{far ? inside.left + inside.width : inside.left - band, inside.top,
+                                                  band, inside.height}
+                                    : ShapeBounds{inside.left, far ? inside.top - band : inside.top + inside.height,
+                                                  inside.width, band};
             if (axis->title) {
                 const TextSize size = TitleSize(*axis->title, "Axis Title");
                 const ShapeBounds& at = layout.axes[slot];
-                ShapeBounds placed = vertical ? ShapeBounds{far ? at.left + at.width - size.height : at.left,
-                                                            at.top + (at.height - size.width) / 2, size.height,
-                                                            size.width}
-                                              : ShapeBounds{at.left + (at.width - size.width) / 2,
-                                                            far ? at.top : at.top + at.height - size.height,
-                                                            size.width, size.height};
+                ShapeBounds placed =
+                    vertical ? ShapeBounds{far ? at.left + at.width - size.height : at.left,
+                                           at.top + (at.height - size.width) / 2, size.height, size.width}
+                             : ShapeBounds{at.left + (at.width - size.width) / 2,
+                                           far ? at.top : at.top + at.height - size.height, size.width, size.height};
                 placed.left = axis->title->left.value_or(placed.left);
                 placed.top = axis->title->top.value_or(placed.top);
                 layout.axisTitles[slot] = placed;

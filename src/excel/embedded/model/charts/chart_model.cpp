@@ -27,8 +27,12 @@ void ApplyGroupTraits(ChartGroupModel& group, const ChartTypeTraits& traits) {
     }
 }
 
-bool ShowsMarkers(const SeriesModel& series) { return series.marker.style != xlMarkerStyleNone; }
-bool ShowsLine(const SeriesModel& series) { return series.format.line.kind != ChartLine::Kind::None; }
+bool ShowsMarkers(const SeriesModel& series) {
+    return series.marker.style != xlMarkerStyleNone;
+}
+bool ShowsLine(const SeriesModel& series) {
+    return series.format.line.kind != ChartLine::Kind::None;
+}
 
 }  // namespace
 

@@ -8,10 +8,10 @@
 #include <array>
 #include <cstdint>
 #include <functional>
-#include <string>
-#include <string_view>
 #include <memory>
 #include <optional>
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace ooxml {

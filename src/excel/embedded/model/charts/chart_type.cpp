@@ -58,8 +58,7 @@ int32_t ChartTypeOf(ChartGroupKind kind, bool horizontal, ChartGrouping grouping
                 return t.markers == markers;
             case K::Scatter:
                 // Points without lines are a scatter of markers, smoothed or not.
-                return t.markers == markers && (lines ? t.lines && t.smooth == smooth : !t.lines) &&
-                       (markers || lines);
+                return t.markers == markers && (lines ? t.lines && t.smooth == smooth : !t.lines) && (markers || lines);
             case K::Area:
                 return true;
         }

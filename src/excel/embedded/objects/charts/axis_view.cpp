@@ -159,8 +159,7 @@ double AxisView::scaleValue(double AxisScale::*member) {
 void AxisView::setScaleValue(std::optional<double> AxisModel::*member, double value, const char* name) {
     AxisModel& shown = valueAxis(name);
     const bool unit = member == &AxisModel::majorUnit || member == &AxisModel::minorUnit;
-    if (!std::isfinite(value) || (unit && value <= 0.0) ||
-        (shown.scaleType == xlScaleLogarithmic && value <= 0.0)) {
+    if (!std::isfinite(value) || (unit && value <= 0.0) || (shown.scaleType == xlScaleLogarithmic && value <= 0.0)) {
         RefuseSet(name);
     }
     shown.*member = value;

@@ -67,8 +67,8 @@ void ChartBorderView::setColor(const ShapeColor& color) {
 
 Variant ChartBorderView::LineStyle() {
     const ChartLine& line = target_.Format().line;
-    const bool shown = line.kind == ChartLine::Kind::Solid ||
-                       (line.kind == ChartLine::Kind::Automatic && target_.automaticLineShown);
+    const bool shown =
+        line.kind == ChartLine::Kind::Solid || (line.kind == ChartLine::Kind::Automatic && target_.automaticLineShown);
     return Variant(shown ? line.style : xlLineStyleNone);
 }
 

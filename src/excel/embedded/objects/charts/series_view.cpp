@@ -248,8 +248,8 @@ void SeriesView::SetMarkerSize(int32_t points) {
 
 int32_t SeriesView::MarkerForegroundColor() {
     const ChartMarker& shown = marker("MarkerForegroundColor");
-    const ShapeColor color = shown.foreground.kind == ChartLine::Kind::Solid ? shown.foreground.color
-                                                                             : AutomaticSeriesColor(series_->index);
+    const ShapeColor color =
+        shown.foreground.kind == ChartLine::Kind::Solid ? shown.foreground.color : AutomaticSeriesColor(series_->index);
     return static_cast<int32_t>(RgbOf(color.color, chart_.Colors(), 0));
 }
 
@@ -281,8 +281,8 @@ void SeriesView::SetMarkerForegroundColorIndex(int32_t index) {
 
 int32_t SeriesView::MarkerBackgroundColor() {
     const ChartMarker& shown = marker("MarkerBackgroundColor");
-    const ShapeColor color = shown.background.kind == ChartFill::Kind::Solid ? shown.background.color
-                                                                             : AutomaticSeriesColor(series_->index);
+    const ShapeColor color =
+        shown.background.kind == ChartFill::Kind::Solid ? shown.background.color : AutomaticSeriesColor(series_->index);
     return static_cast<int32_t>(RgbOf(color.color, chart_.Colors(), 0));
 }
 

@@ -40,9 +40,8 @@ std::shared_ptr<excel::Font> TickLabelsView::Font() {
     const int32_t type = type_;
     const int32_t group = group_;
     return std::make_shared<FontView>(std::make_shared<ChartTextFontTarget>(
-        chart_, [type, group](ChartModel& chart) -> ChartTextFormat& {
-            return ShownAxis(chart, type, group).tickLabels;
-        }));
+        chart_,
+        [type, group](ChartModel& chart) -> ChartTextFormat& { return ShownAxis(chart, type, group).tickLabels; }));
 }
 
 std::string TickLabelsView::NumberFormat() {

@@ -9,7 +9,8 @@ namespace excel::embedded {
 // The labels of an axis while the chart shows it.
 class TickLabelsView final : public excel::TickLabels {
 public:
-    TickLabelsView(ChartHandle chart, int32_t type, int32_t group) : chart_(std::move(chart)), type_(type), group_(group) {}
+    TickLabelsView(ChartHandle chart, int32_t type, int32_t group)
+        : chart_(std::move(chart)), type_(type), group_(group) {}
 
     bool AutoScaleFont() override;
     void SetAutoScaleFont(bool automatic) override;

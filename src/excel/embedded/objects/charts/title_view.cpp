@@ -56,7 +56,8 @@ template <class Interface>
 std::shared_ptr<excel::Characters> TitleView<Interface>::Characters(int32_t start, int32_t length) {
     title();
     if (start < 1 || length < -1) {
-        ThrowRefused("Unable to get the Characters property of the " + std::string(std::is_same_v<Interface, excel::ChartTitle> ? "ChartTitle" : "AxisTitle") + " class");
+        const std::string owner = std::is_same_v<Interface, excel::ChartTitle> ? "ChartTitle" : "AxisTitle";
+        ThrowRefused("Unable to get the Characters property of the " + owner + " class");
     }
     return std::make_shared<CharactersView>(std::make_shared<TitleRichText>(chart_, find_), start, length);
 }
@@ -140,18 +141,18 @@ template <class Interface>
 std::shared_ptr<excel::Border> TitleView<Interface>::Border() {
     title();
     auto find = find_;
-    return std::make_shared<ChartBorderView>(ChartFormatTarget{
-        chart_, [find](ChartModel& chart) -> ChartElementFormat& { return find(chart).format; },
-        [](ChartModel&) { return ShapeColorFromRgb(TextBlack); }, false, false});
+    return std::make_shared<ChartBorderView>(
+        ChartFormatTarget{chart_, [find](ChartModel& chart) -> ChartElementFormat& { return find(chart).format; },
+                          [](ChartModel&) { return ShapeColorFromRgb(TextBlack); }, false, false});
 }
 
 template <class Interface>
 std::shared_ptr<excel::Interior> TitleView<Interface>::Interior() {
     title();
     auto find = find_;
-    return std::make_shared<ChartInteriorView>(ChartFormatTarget{
-        chart_, [find](ChartModel& chart) -> ChartElementFormat& { return find(chart).format; },
-        [](ChartModel&) { return ShapeColorFromRgb(0xFFFFFF); }, false, false});
+    return std::make_shared<ChartInteriorView>(
+        ChartFormatTarget{chart_, [find](ChartModel& chart) -> ChartElementFormat& { return find(chart).format; },
+                          [](ChartModel&) { return ShapeColorFromRgb(0xFFFFFF); }, false, false});
 }
 
 template <class Interface>
