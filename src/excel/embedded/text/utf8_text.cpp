@@ -129,4 +129,14 @@ bool EqualsIgnoringCase(std::string_view a, std::string_view b) {
     return positionA == a.size() && positionB == b.size();
 }
 
+std::string_view TrimSpaces(std::string_view text) {
+    while (!text.empty() && text.front() == ' ') {
+        text.remove_prefix(1);
+    }
+    while (!text.empty() && text.back() == ' ') {
+        text.remove_suffix(1);
+    }
+    return text;
+}
+
 }  // namespace excel::embedded

@@ -23,4 +23,7 @@ bool IsNameLetter(char32_t codePoint);
 // UTF-8 strings equal once case is folded.
 bool EqualsIgnoringCase(std::string_view a, std::string_view b);
 
+// The text without its leading and trailing spaces (U+0020 only, as the automation runtime's Trim).
+std::string_view TrimSpaces(std::string_view text);
+
 }  // namespace excel::embedded

@@ -1,5 +1,7 @@
 #include "excel/embedded/model/charts/chart_data.hpp"
 
+#include "excel/embedded/text/utf8_text.hpp"
+
 #include <charconv>
 
 namespace excel::embedded {
@@ -19,16 +21,6 @@ ChartData LiteralData(std::vector<ChartValue> values) {
 }
 
 namespace {
-
-std::string_view Trimmed(std::string_view text) {
-    while (!text.empty() && text.front() == ' ') {
-        text.remove_prefix(1);
-    }
-    while (!text.empty() && text.back() == ' ') {
-        text.remove_suffix(1);
-    }
-    return text;
-}
 
 // A quoted text with doubled quotes inside, from its opening quote; none when it does not close.
 std::optional<std::string> QuotedText(std::string_view text, std::size_t& position) {
@@ -62,15 +54,15 @@ std::optional<double> Number(std::string_view text) {
 }  // namespace
 
 std::optional<std::vector<ChartValue>> ParseLiteralList(std::string_view text) {
-    text = Trimmed(text);
+    text = TrimSpaces(text);
     if (!text.empty() && text.front() == '=') {
-        text = Trimmed(text.substr(1));
+        text = TrimSpaces(text.substr(1));
     }
     if (!text.empty() && text.front() == '{') {
         if (text.back() != '}') {
             return std::nullopt;
         }
-        text = Trimmed(text.substr(1, text.size() - 2));
+        text = TrimSpaces(text.substr(1, text.size() - 2));
     }
     if (text.empty()) {
         return std::nullopt;
@@ -92,7 +84,7 @@ std::optional<std::vector<ChartValue>> ParseLiteralList(std::string_view text) {
             }
         } else {
             const std::size_t end = std::min(text.find(',', position), text.size());
-            const auto number = Number(Trimmed(text.substr(position, end - position)));
+            const auto number = Number(TrimSpaces(text.substr(position, end - position)));
             if (!number) {
                 return std::nullopt;
             }

@@ -6,6 +6,8 @@
 #include "excel/embedded/objects/range/range_view.hpp"
 #include "excel/embedded/text/text_entry.hpp"
 
+#include "excel/embedded/text/utf8_text.hpp"
+
 #include <excel/constants.hpp>
 
 #include <cctype>
@@ -17,16 +19,6 @@ namespace excel::embedded {
 namespace {
 
 constexpr int maxNameDepth = 32;
-
-std::string_view Trimmed(std::string_view text) {
-    while (!text.empty() && text.front() == ' ') {
-        text.remove_prefix(1);
-    }
-    while (!text.empty() && text.back() == ' ') {
-        text.remove_suffix(1);
-    }
-    return text;
-}
 
 Variant Error(int32_t number) {
     return Variant(ErrorValue{ErrorValueCode(number)});
@@ -69,9 +61,9 @@ std::string Uppercase(std::string_view text) {
 }
 
 Variant Evaluate(const std::shared_ptr<WorksheetModel>& sheet, std::string_view expression, int depth) {
-    std::string_view text = Trimmed(expression);
+    std::string_view text = TrimSpaces(expression);
     if (text.starts_with("=")) {
-        text = Trimmed(text.substr(1));
+        text = TrimSpaces(text.substr(1));
     }
     if (text.empty()) {
         return Error(xlErrValue);
