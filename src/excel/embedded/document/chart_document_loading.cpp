@@ -84,7 +84,7 @@ ChartLine LineFromDocument(const ooxml::ChartLine& line) {
     } else if (line.kind == ooxml::ChartLine::Kind::Solid) {
         out.kind = ChartLine::Kind::Solid;
         out.color = ShapeColorFromDocument(line.color);
-        out.style = line.dash.empty() || line.dash == "solid" ? xlContinuous : xlDash;
+        out.style = ConstantOf(LineDashes, line.dash);
     }
     return out;
 }
@@ -200,12 +200,11 @@ public:
 
     std::shared_ptr<ChartModel> Load(double width, double height) {
         const ooxml::ChartGroup& first = chart_.plotArea.groups.front();
-        auto model = std::make_shared<ChartModel>(xlColumnClustered);
+        auto model = std::make_shared<ChartModel>(ChartModel::OpenedChart{});
         for (const ooxml::ChartGroup& group : chart_.plotArea.groups) {
             model->AddOpenedGroup(groupOf(group, group.axisIds == first.axisIds ? xlPrimary : xlSecondary));
         }
         loadAxes(*model);
-        model->SetOpenedTitle(nullptr);
         if (chart_.title) {
             FontFormat base = DefaultChartFont();
             base.size = DefaultTitleSize;

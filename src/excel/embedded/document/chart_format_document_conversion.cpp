@@ -20,24 +20,6 @@ constexpr int32_t FullStop = 100000;
 // degree scale and lightened towards white above it, as Excel works it out.
 constexpr double GradientScale = 510.0;
 
-// The DrawingML dash of an XlLineStyle; "" for a solid line, which needs none.
-std::string DashOf(int32_t style) {
-    switch (style) {
-        case xlDash:
-            return "dash";
-        case xlDot:
-            return "sysDot";
-        case xlDashDot:
-            return "dashDot";
-        case xlDashDotDot:
-            return "lgDashDotDot";
-        case xlSlantDashDot:
-            return "lgDashDot";
-        default:
-            return "solid";
-    }
-}
-
 uint32_t Channel(uint32_t rgb, int shift) {
     return (rgb >> shift) & 0xFF;
 }
@@ -106,7 +88,7 @@ ooxml::ChartLine DocumentLine(const ChartLine& line, const WorkbookColors& color
         case ChartLine::Kind::Solid:
             out.kind = ooxml::ChartLine::Kind::Solid;
             out.color = DocumentShapeColor(line.color, colors);
-            out.dash = DashOf(line.style);
+            out.dash = WordOf(LineDashes, line.style);
             break;
     }
     return out;

@@ -29,6 +29,13 @@ inline constexpr WordTable<5> LegendPositions{{{xlLegendPositionRight, "r"},
                                                {xlLegendPositionCorner, "tr"},
                                                {xlLegendPositionLeft, "l"},
                                                {xlLegendPositionTop, "t"}}};
+// A line's XlLineStyle as its DrawingML dash.
+inline constexpr WordTable<6> LineDashes{{{xlContinuous, "solid"},
+                                          {xlDash, "dash"},
+                                          {xlDot, "sysDot"},
+                                          {xlDashDot, "dashDot"},
+                                          {xlDashDotDot, "lgDashDotDot"},
+                                          {xlSlantDashDot, "lgDashDot"}}};
 // Where the other axis crosses an axis, as the crossing axis' element says.
 inline constexpr WordTable<3> Crossings{
     {{xlAxisCrossesAutomatic, "autoZero"}, {xlAxisCrossesMaximum, "max"}, {xlAxisCrossesMinimum, "min"}}};

@@ -57,6 +57,8 @@ ChartModel::ChartModel(int32_t type) {
     legend_ = std::make_shared<LegendModel>();
 }
 
+ChartModel::ChartModel(OpenedChart) {}
+
 std::size_t ChartModel::SlotOf(int32_t type, int32_t group) {
     return (group == xlSecondary ? 2u : 0u) + (type == xlValue ? 1u : 0u);
 }
@@ -68,9 +70,6 @@ void ChartModel::addAxes(int32_t group) {
         slot.axis->type = type;
         slot.axis->group = group;
         slot.shown = true;
-        if (type == xlCategory) {
-            slot.axis->majorTickMark = xlTickMarkOutside;
-        }
     }
     if (group == xlSecondary) {
         // The secondary value axis stands at the right, where it crosses its hidden category axis.
@@ -263,9 +262,6 @@ void ChartModel::RewriteReferences(const std::function<std::string(std::string_v
 void ChartModel::AddOpenedGroup(std::shared_ptr<ChartGroupModel> group) {
     for (const auto& series : group->series) {
         nextSeriesIndex_ = std::max(nextSeriesIndex_, series->index + 1);
-    }
-    if (groups_.size() == 1 && groups_.front()->series.empty() && groups_.front()->opened == nullptr) {
-        groups_.clear();
     }
     groups_.push_back(std::move(group));
 }

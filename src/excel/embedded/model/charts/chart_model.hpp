@@ -28,6 +28,10 @@ public:
     // Excel's new chart of the type, without series: primary axes with major gridlines on the value
     // axis, a legend at the right, no title. Refused for a type the engine does not draw.
     explicit ChartModel(int32_t type);
+    // An opened chart, empty until its loader adds the file's groups (one at least), the axes they
+    // are drawn on, its title and its legend.
+    struct OpenedChart {};
+    explicit ChartModel(OpenedChart);
 
     // The type the first group shows with its first series' look (without series: the type given).
     int32_t Type() const;
