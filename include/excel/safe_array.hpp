@@ -28,6 +28,8 @@ public:
 
     // A rows x columns array with lower bounds 1, the shape Excel's Range.Value uses.
     static SafeArray Matrix(VarType elementType, uint32_t rows, uint32_t columns);
+    // A one-dimensional array of doubles from lowerBound on, as VBA's "Dim a(1 To n) As Double".
+    static SafeArray Doubles(std::span<const double> values, int32_t lowerBound = 1);
 
     VarType ElementType() const { return elementType_; }
     int32_t Dimensions() const { return static_cast<int32_t>(bounds_.size()); }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <vos/chart_type.hpp>
 #include <vos/table_inside_border_type.hpp>
+#include <vos/vos_excel_chart.hpp>
 #include <vos/vos_excel_table.hpp>
 
 #include <excel/fwd.hpp>
@@ -56,6 +58,11 @@ public:
                                                     int16_t NumHeaderRows, int16_t NumHeaderColumns,
                                                     const std::string& mainTitle = "",
                                                     const std::string& subTitle = "") = 0;
+    // A chart of that type and size in points, its top-left corner at the cursor. It must end inside
+    // the limiting range; it is stretched or trimmed to end half a point above a row boundary, and
+    // the cursor moves to the row after the one its bottom-right corner was in.
+    virtual std::shared_ptr<VosExcelChart> AddChart(VosChartType ChartType, double chartWidth = 428.0,
+                                                    double chartHeight = 300.0) = 0;
     // The height in points that a tornado chart of that many bars reads well at: 300 up to nine
     // bars, 16 more for each further bar up to sixteen.
     virtual double RecommendedTornadoChartHeight(int16_t numBars) = 0;

@@ -120,6 +120,13 @@ SafeArray SafeArray::Matrix(VarType elementType, uint32_t rows, uint32_t columns
     return SafeArray(elementType, {SafeArrayBound{1, rows}, SafeArrayBound{1, columns}});
 }
 
+SafeArray SafeArray::Doubles(std::span<const double> values, int32_t lowerBound) {
+    SafeArray array(VarType::Double, {SafeArrayBound{lowerBound, static_cast<uint32_t>(values.size())}});
+    for (size_t i = 0; i < values.size(); ++i)
+        array.Put(static_cast<uint32_t>(i), 0, Variant(values[i]));
+    return array;
+}
+
 int32_t SafeArray::LowerBound(int32_t dimension) const {
     if (dimension < 1 || dimension > Dimensions())
         ThrowRuntimeError(SubscriptOutOfRangeError);

@@ -19,6 +19,12 @@ public:
     // Lower bound of the first dimension. An empty array has none: asking fails with the
     // runtime's "Subscript out of range", as LBound does.
     int32_t LowerBound(const excel::Variant& value) const;
+
+    // The same checks on a typed array passed by itself, as arrays of doubles are.
+    bool IsEmpty(const excel::SafeArray& array) const;
+    int32_t Dimensions(const excel::SafeArray& array) const;
+    size_t ElementCount(const excel::SafeArray& array) const;
+    int32_t LowerBound(const excel::SafeArray& array) const;
 };
 
 }  // namespace vos

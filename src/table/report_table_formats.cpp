@@ -1,5 +1,6 @@
 #include "table/report_table.hpp"
 
+#include "support/language_font_size.hpp"
 #include "support/report_theme_colors.hpp"
 #include "support/support_services.hpp"
 #include "support/workbook_range_theme.hpp"
@@ -16,7 +17,6 @@ namespace vos {
 
 namespace {
 
-constexpr int32_t SimplifiedChinese = 4;
 constexpr int32_t TitleFillColorIndex = 15;
 
 void SetEdge(const std::shared_ptr<excel::Range>& range, int32_t edge, int32_t weight) {
@@ -58,13 +58,12 @@ void FormatTitleRow(const std::shared_ptr<excel::Range>& row, double fontSize, b
 
 }  // namespace
 
-// Chinese text needs larger type to stay legible.
 double ReportTable::LargeFontSize() const {
-    return language_ == SimplifiedChinese ? 12.0 : 10.0;
+    return SizeForLanguage(language_, 12.0, 10.0);
 }
 
 double ReportTable::SmallFontSize() const {
-    return language_ == SimplifiedChinese ? 10.0 : 8.0;
+    return SizeForLanguage(language_, 10.0, 8.0);
 }
 
 void ReportTable::FormatTitleRows() const {

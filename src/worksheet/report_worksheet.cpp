@@ -133,7 +133,11 @@ bool ReportWorksheet::CursorStaysInsideAfter(int32_t numRows, int32_t numColumns
 
 void ReportWorksheet::RequireAvailableSpace(int32_t numRows, int32_t numColumns) {
     if (!HasAvailableSpace(numRows, numColumns))
-        RaiseLibraryError(error_code::NotAllowedNow, "Requested report element can not fit in available space.");
+        RaiseNoRoomForElement();
+}
+
+void ReportWorksheet::RaiseNoRoomForElement() {
+    RaiseLibraryError(error_code::NotAllowedNow, "Requested report element can not fit in available space.");
 }
 
 }  // namespace vos

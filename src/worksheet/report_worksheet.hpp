@@ -13,8 +13,8 @@ class ReportWorkbook;
 // The report sheet behind VosExcelReportWorksheet: the sheet, its layout cursor and the space
 // test every placement runs, with the members the library's other classes call.
 // Defined in report_worksheet.cpp (cursor, space test, separators, comments),
-// report_worksheet_header.cpp (the header block), report_worksheet_placement.cpp (tables, and the
-// height a tornado chart needs) and report_worksheet_themes.cpp (theme colours and range themes).
+// report_worksheet_header.cpp (the header block), report_worksheet_placement.cpp (tables, charts and
+// the height a tornado chart needs) and report_worksheet_themes.cpp (theme colours and range themes).
 class ReportWorksheet final : public VosExcelReportWorksheet {
 public:
     // Prepares a new report sheet: cursor at A1, the whole sheet as limiting range, creation tag,
@@ -39,6 +39,8 @@ public:
     std::shared_ptr<VosExcelTable> AddTable(int32_t numInteriorRows, int32_t numInteriorColumns, int16_t NumHeaderRows,
                                             int16_t NumHeaderColumns, const std::string& mainTitle = "",
                                             const std::string& subTitle = "") override;
+    std::shared_ptr<VosExcelChart> AddChart(VosChartType ChartType, double chartWidth = 428.0,
+                                            double chartHeight = 300.0) override;
     double RecommendedTornadoChartHeight(int16_t numBars) override;
     void AddSpacingColumn() override;
     std::shared_ptr<excel::Comment> AddComment(const std::shared_ptr<excel::Range>& whichCell,
@@ -57,6 +59,7 @@ public:
     void AdvanceCurrentCell(int32_t numRows, int32_t numColumns);
     // Refuses, with NotAllowedNow, an element that does not fit at the cursor.
     void RequireAvailableSpace(int32_t numRows, int32_t numColumns);
+    [[noreturn]] static void RaiseNoRoomForElement();
 
 private:
     bool CursorStaysInsideAfter(int32_t numRows, int32_t numColumns) const;

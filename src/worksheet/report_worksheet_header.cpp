@@ -2,11 +2,13 @@
 
 #include "support/character_count.hpp"
 #include "support/ignoring_excel_errors.hpp"
+#include "support/language_font_size.hpp"
 #include "support/library_error.hpp"
 #include "support/text_margins.hpp"
 #include "support/trim_blanks.hpp"
 #include "workbook/report_workbook.hpp"
 #include "worksheet/header_lines.hpp"
+#include "worksheet/row_boundary.hpp"
 #include "worksheet/shape_text.hpp"
 
 #include <vos/theme_property_type.hpp>
@@ -36,11 +38,10 @@ constexpr int32_t ThemedHeaderColumns = 9;
 constexpr int32_t Silver = 0xC0C0C0;
 constexpr int32_t Black = 0;
 constexpr const char* HeaderFontName = "Tahoma";
-constexpr int32_t ChineseLanguage = 4;
 constexpr int32_t FrenchLanguage = 12;
 constexpr double TitleSize = 14.0;
 constexpr double LineSize = 8.0;
-constexpr double ChineseLineSize = 10.0;  // Chinese characters need the larger size to stay legible
+constexpr double ChineseLineSize = 10.0;
 
 // A text box needs this much room at the cursor whatever its number of lines.
 constexpr int32_t TextBoxRows = 3;
@@ -54,8 +55,6 @@ constexpr double TextBoxOutlineWeight = 1.5;
 constexpr double TextBoxMargin = 7.0;
 constexpr double TextBoxTitleSize = 12.0;
 constexpr double TextBoxLineSize = 8.0;
-// Shapes that end on a row boundary would touch the next row's element; they stop this far above.
-constexpr double GapAboveRowBoundary = 0.5;
 
 }  // namespace
 
@@ -77,7 +76,7 @@ std::shared_ptr<excel::Range> ReportWorksheet::AddHeaderRange(const std::string&
         block->Interior()->SetColor(Silver);
     }
     block->Font()->SetName(HeaderFontName);
-    block->Font()->SetSize(defaultLanguage_ == ChineseLanguage ? ChineseLineSize : LineSize);
+    block->Font()->SetSize(SizeForLanguage(defaultLanguage_, ChineseLineSize, LineSize));
     block->Rows(1)->Font()->SetSize(TitleSize);
     block->Rows(1)->Font()->SetBold(true);
     if (!themed) {
@@ -140,10 +139,8 @@ std::shared_ptr<excel::Shape> ReportWorksheet::AddHeader(const std::string& main
 
     shape->TextFrame()->SetAutoSize(true);
     shape->SetWidth(TextBoxWidth);
-    if (roundToRowBoundaries_) {
-        const auto lastCell = shape->BottomRightCell();
-        shape->SetHeight(lastCell->Top() + lastCell->Height() - shape->Top() - GapAboveRowBoundary);
-    }
+    if (roundToRowBoundaries_)
+        EndAboveRowBoundary(*shape);
     // Set directly, without the limiting-range test of a cursor move.
     currentCell_ = excelWorksheet_->Cells(shape->BottomRightCell()->Row() + 1, currentCell_->Column());
     return shape;

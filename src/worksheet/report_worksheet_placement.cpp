@@ -1,11 +1,16 @@
 #include "worksheet/report_worksheet.hpp"
 
+#include "chart/report_chart.hpp"
+#include "entry/chart_type_check.hpp"
 #include "support/checked_sum.hpp"
 #include "support/library_error.hpp"
 #include "support/support_services.hpp"
 #include "table/report_table.hpp"
 #include "workbook/report_workbook.hpp"
+#include "worksheet/row_boundary.hpp"
 
+#include <excel/chart.hpp>
+#include <excel/chart_object.hpp>
 #include <excel/range.hpp>
 
 #include <algorithm>
@@ -45,6 +50,31 @@ std::shared_ptr<VosExcelTable> ReportWorksheet::AddTable(int32_t numInteriorRows
                            defaultLanguage_);
     AdvanceCurrentCell(rows, 0);
     return table;
+}
+
+std::shared_ptr<VosExcelChart> ReportWorksheet::AddChart(VosChartType ChartType, double chartWidth,
+                                                         double chartHeight) {
+    CheckChartType(ChartType, "chartType");
+    // Written so that a width or height that is not a number is refused too.
+    if (!(chartWidth > 0))
+        RaiseLibraryError(error_code::OutOfRange, "chartWidth");
+    if (!(chartHeight > 0))
+        RaiseLibraryError(error_code::OutOfRange, "chartHeight");
+    RequireAvailableSpace(1, 1);
+
+    const auto& ranges = Support().Ranges();
+    const auto cornerCell = ranges.CellAtPoint(excelWorksheet_, currentCell_->Left() + chartWidth,
+                                               currentCell_->Top() + chartHeight);
+    if (!cornerCell || !ranges.IsRangeWithinRange(cornerCell, limitingRange_))
+        RaiseNoRoomForElement();
+
+    auto chart = std::make_shared<ReportChart>();
+    chart->InitializeChart(parentWorkbook_, defaultLanguage_, ChartType, currentCell_, chartWidth, chartHeight);
+    if (roundToRowBoundaries_)
+        EndAboveRowBoundary(*chart->Chart()->Parent());
+    // The corner found before the trim decides where the cursor goes.
+    AdvanceCurrentCell(cornerCell->Row() - currentCell_->Row() + 1, 0);
+    return chart;
 }
 
 double ReportWorksheet::RecommendedTornadoChartHeight(int16_t numBars) {
