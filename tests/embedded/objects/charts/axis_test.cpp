@@ -58,6 +58,26 @@ TEST_F(AxisTest, ScalesAreAutomaticUntilSetAndAutomaticAgainOnRequest) {
     EXPECT_EQ(ErrorCodeOf([&] { chart->Axes(xlCategory)->MinimumScale(); }), kRefused);
 }
 
+TEST_F(AxisTest, ACategoryAxisRefusesReadingAndWritingAScaleInExcelsWords) {
+    const auto category = chart->Axes(xlCategory);
+    const auto textOf = [](auto&& statement) {
+        try {
+            statement();
+        } catch (const excel::AutomationError& error) {
+            return std::string(error.what());
+        }
+        return std::string("no error");
+    };
+    EXPECT_EQ(textOf([&] { category->MajorUnitIsAuto(); }),
+              "Unable to get the MajorUnitIsAuto property of the Axis class");
+    EXPECT_EQ(textOf([&] { category->SetMajorUnitIsAuto(true); }),
+              "Unable to set the MajorUnitIsAuto property of the Axis class");
+    EXPECT_EQ(textOf([&] { category->SetMaximumScale(5); }),
+              "Unable to set the MaximumScale property of the Axis class");
+    EXPECT_EQ(textOf([&] { category->SetScaleType(xlScaleLinear); }),
+              "Unable to set the ScaleType property of the Axis class");
+}
+
 // Crosses and CrossesAt belong to the axis that is crossed: they say where the other axis of the
 // group crosses it (the file keeps them on that other axis).
 TEST_F(AxisTest, CrossingIsAPropertyOfTheCrossedAxis) {

@@ -55,10 +55,13 @@ void AxisView::edit(const std::function<void(AxisModel&)>& change) {
     chart_.Changed();
 }
 
-AxisModel& AxisView::valueAxis(const char* member) const {
+AxisModel& AxisView::valueAxis(const char* member, Access access) const {
     AxisModel& shown = axis();
     const bool scatterX = type_ == xlCategory && chart_.Chart().GroupOnAxes(group_).kind == ChartGroupKind::Scatter;
     if (type_ != xlValue && !scatterX) {
+        if (access == Access::Set) {
+            RefuseSet(member);
+        }
         ThrowRefused("Unable to get the " + std::string(member) + " property of the Axis class");
     }
     return shown;
@@ -157,7 +160,7 @@ double AxisView::scaleValue(double AxisScale::*member) {
 }
 
 void AxisView::setScaleValue(std::optional<double> AxisModel::*member, double value, const char* name) {
-    AxisModel& shown = valueAxis(name);
+    AxisModel& shown = valueAxis(name, Access::Set);
     const bool unit = member == &AxisModel::majorUnit || member == &AxisModel::minorUnit;
     if (!std::isfinite(value) || (unit && value <= 0.0) || (shown.scaleType == xlScaleLogarithmic && value <= 0.0)) {
         RefuseSet(name);
@@ -190,7 +193,7 @@ bool AxisView::MinimumScaleIsAuto() {
 }
 
 void AxisView::SetMinimumScaleIsAuto(bool automatic) {
-    valueAxis("MinimumScaleIsAuto");
+    valueAxis("MinimumScaleIsAuto", Access::Set);
     setScaleAuto(&AxisModel::minimum, &AxisScale::minimum, automatic);
 }
 
@@ -208,7 +211,7 @@ bool AxisView::MaximumScaleIsAuto() {
 }
 
 void AxisView::SetMaximumScaleIsAuto(bool automatic) {
-    valueAxis("MaximumScaleIsAuto");
+    valueAxis("MaximumScaleIsAuto", Access::Set);
     setScaleAuto(&AxisModel::maximum, &AxisScale::maximum, automatic);
 }
 
@@ -226,7 +229,7 @@ bool AxisView::MajorUnitIsAuto() {
 }
 
 void AxisView::SetMajorUnitIsAuto(bool automatic) {
-    valueAxis("MajorUnitIsAuto");
+    valueAxis("MajorUnitIsAuto", Access::Set);
     setScaleAuto(&AxisModel::majorUnit, &AxisScale::majorUnit, automatic);
 }
 
@@ -244,7 +247,7 @@ bool AxisView::MinorUnitIsAuto() {
 }
 
 void AxisView::SetMinorUnitIsAuto(bool automatic) {
-    valueAxis("MinorUnitIsAuto");
+    valueAxis("MinorUnitIsAuto", Access::Set);
     setScaleAuto(&AxisModel::minorUnit, &AxisScale::minorUnit, automatic);
 }
 
@@ -253,7 +256,7 @@ int32_t AxisView::ScaleType() {
 }
 
 void AxisView::SetScaleType(int32_t type) {
-    valueAxis("ScaleType");
+    valueAxis("ScaleType", Access::Set);
     if (type != xlScaleLinear && type != xlScaleLogarithmic) {
         RefuseSet("ScaleType");
     }

@@ -72,8 +72,10 @@ public:
 private:
     AxisModel& axis() const;
     void edit(const std::function<void(AxisModel&)>& change);
-    // Scale members belong to value axes (a scatter chart's X axis is one).
-    AxisModel& valueAxis(const char* member) const;
+    // Scale members belong to value axes (a scatter chart's X axis is one); others refuse reading or
+    // writing the member, as Excel words it.
+    enum class Access { Get, Set };
+    AxisModel& valueAxis(const char* member, Access access = Access::Get) const;
     double scaleValue(double AxisScale::*member);
     void setScaleValue(std::optional<double> AxisModel::*member, double value, const char* name);
     void setScaleAuto(std::optional<double> AxisModel::*member, double AxisScale::*shown, bool automatic);
