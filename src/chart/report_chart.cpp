@@ -1,6 +1,6 @@
 #include "chart/report_chart.hpp"
 
-#include "entry/chart_type_check.hpp"
+#include "support/chart_type_check.hpp"
 #include "support/language_font_size.hpp"
 #include "support/library_error.hpp"
 

@@ -1,7 +1,7 @@
 #include "worksheet/report_worksheet.hpp"
 
 #include "chart/report_chart.hpp"
-#include "entry/chart_type_check.hpp"
+#include "support/chart_type_check.hpp"
 #include "support/checked_sum.hpp"
 #include "support/library_error.hpp"
 #include "support/support_services.hpp"
@@ -63,8 +63,8 @@ std::shared_ptr<VosExcelChart> ReportWorksheet::AddChart(VosChartType ChartType,
     RequireAvailableSpace(1, 1);
 
     const auto& ranges = Support().Ranges();
-    const auto cornerCell = ranges.CellAtPoint(excelWorksheet_, currentCell_->Left() + chartWidth,
-                                               currentCell_->Top() + chartHeight);
+    const auto cornerCell =
+        ranges.CellAtPoint(excelWorksheet_, currentCell_->Left() + chartWidth, currentCell_->Top() + chartHeight);
     if (!cornerCell || !ranges.IsRangeWithinRange(cornerCell, limitingRange_))
         RaiseNoRoomForElement();
 

@@ -1,17 +1,18 @@
 #include "report_fixture.hpp"
 
-#include "entry/chart_type_check.hpp"
+#include "support/chart_type_check.hpp"
 
 TEST(CheckChartType, AcceptsEveryChartType) {
-    for (int32_t type : {vos::VosChartCustom, vos::VosChartColumn, vos::VosChartXYMarkers, vos::VosChartXYLine,
-                         vos::VosChartXYMarkersAndLine, vos::VosChartLine, vos::VosChartLineWithMarkers,
-                         vos::VosChartTornado})
+    for (int32_t type :
+         {vos::VosChartCustom, vos::VosChartColumn, vos::VosChartXYMarkers, vos::VosChartXYLine,
+          vos::VosChartXYMarkersAndLine, vos::VosChartLine, vos::VosChartLineWithMarkers, vos::VosChartTornado})
         EXPECT_NO_THROW(vos::CheckChartType(type, "chartType")) << type;
 }
 
 TEST(CheckChartType, RejectsOtherValuesNamingTheArgument) {
     for (int32_t type : {1, 17, 65, -1, 35})
-        ExpectAutomationError([&] { vos::CheckChartType(type, "chartType"); }, vos::error_code::OutOfRange, "chartType");
+        ExpectAutomationError([&] { vos::CheckChartType(type, "chartType"); }, vos::error_code::OutOfRange,
+                              "chartType");
     ExpectAutomationError([] { vos::CheckChartType(17, "p_ChartType"); }, vos::error_code::OutOfRange, "p_ChartType");
 }
 

@@ -1,4 +1,4 @@
-#include "entry/chart_type_check.hpp"
+#include "support/chart_type_check.hpp"
 
 #include "support/library_error.hpp"
 
