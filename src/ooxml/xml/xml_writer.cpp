@@ -1,5 +1,6 @@
 #include "ooxml/xml/xml_writer.hpp"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstring>
@@ -204,6 +205,8 @@ void XmlWriter::PutNumber(double value) {
         auto [end, error] = std::to_chars(digits, digits + kPositionalNumberLimit, value, std::chars_format::fixed);
         if (error != std::errc{}) {
             end = std::to_chars(digits, digits + sizeof digits, value).ptr;
+            // Excel writes the exponent with a capital: "1E+300", "5.2192066805845511E-2".
+            std::replace(digits, end, 'e', 'E');
         }
         Put(std::string_view(digits, static_cast<std::size_t>(end - digits)));
     }

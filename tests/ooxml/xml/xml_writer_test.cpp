@@ -89,8 +89,8 @@ TEST(XmlWriter, WritesRoundNumbersWithoutExponent) {
     EXPECT_EQ(WriteToString([](XmlWriter& writer) { writer.Number(400000.0); }), "400000");
     EXPECT_EQ(WriteToString([](XmlWriter& writer) { writer.Number(-1e15); }), "-1000000000000000");
     EXPECT_EQ(WriteToString([](XmlWriter& writer) { writer.Number(0.00001); }), "0.00001");
-    EXPECT_EQ(WriteToString([](XmlWriter& writer) { writer.Number(1e-300); }), "1e-300");
-    EXPECT_EQ(WriteToString([](XmlWriter& writer) { writer.Number(2.5e21); }), "2.5e+21");
+    EXPECT_EQ(WriteToString([](XmlWriter& writer) { writer.Number(1e-300); }), "1E-300");
+    EXPECT_EQ(WriteToString([](XmlWriter& writer) { writer.Number(2.5e21); }), "2.5E+21");  // as Excel writes exponents
 }
 
 TEST(XmlWriter, WritesNonFiniteNumbersInXmlSchemaForm) {
