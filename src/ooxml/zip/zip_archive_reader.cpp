@@ -56,45 +56,58 @@ ZipArchiveReader::ZipArchiveReader(const std::string& path) : path_(path) {
 
 ZipArchiveReader::~ZipArchiveReader() = default;
 
-bool ZipArchiveReader::Contains(std::string_view entryName) const {
+int64_t ZipArchiveReader::Locate(std::string_view entryName) const {
     const std::string name(entryName);
-    return zip_name_locate(archive_.get(), name.c_str(), ZIP_FL_NOCASE) >= 0;
+    const zip_int64_t exact = zip_name_locate(archive_.get(), name.c_str(), 0);
+    if (exact >= 0) {
+        return exact;
+    }
+    return zip_name_locate(archive_.get(), name.c_str(), ZIP_FL_NOCASE);
+}
+
+bool ZipArchiveReader::Contains(std::string_view entryName) const {
+    return Locate(entryName) >= 0;
 }
 
 std::optional<ZipEntryReader> ZipArchiveReader::Open(std::string_view entryName) const {
-    const std::string name(entryName);
-    const zip_int64_t index = zip_name_locate(archive_.get(), name.c_str(), ZIP_FL_NOCASE);
+    const int64_t index = Locate(entryName);
     if (index < 0) {
         return std::nullopt;
     }
-    zip_file_t* file = zip_fopen_index(archive_.get(), static_cast<zip_uint64_t>(index), 0);
-    if (file == nullptr) {
-        throw PackageError(PackageError::Reason::Corrupt, "Cannot open entry " + name + " in " + path_);
-    }
-    return std::optional<ZipEntryReader>(std::in_place, file, name + " in " + path_);
+    return OpenAt(index, entryName);
 }
 
-std::optional<std::size_t> ZipArchiveReader::StatedSize(std::string_view entryName) const {
-    const std::string name(entryName);
+ZipEntryReader ZipArchiveReader::OpenAt(int64_t index, std::string_view entryName) const {
+    const std::string where = std::string(entryName) + " in " + path_;
+    zip_file_t* file = zip_fopen_index(archive_.get(), static_cast<zip_uint64_t>(index), 0);
+    if (file == nullptr) {
+        throw PackageError(PackageError::Reason::Corrupt, "Cannot open entry " + where);
+    }
+    return ZipEntryReader(file, where);
+}
+
+std::optional<std::size_t> ZipArchiveReader::StatedSize(int64_t index) const {
     zip_stat_t stat;
     zip_stat_init(&stat);
-    if (zip_stat(archive_.get(), name.c_str(), ZIP_FL_NOCASE, &stat) != 0 || (stat.valid & ZIP_STAT_SIZE) == 0) {
+    if (zip_stat_index(archive_.get(), static_cast<zip_uint64_t>(index), 0, &stat) != 0 ||
+        (stat.valid & ZIP_STAT_SIZE) == 0) {
         return std::nullopt;
     }
     return static_cast<std::size_t>(stat.size);
 }
 
 std::optional<std::string> ZipArchiveReader::Read(std::string_view entryName) const {
-    std::optional<ZipEntryReader> entry = Open(entryName);
-    if (!entry) {
+    const int64_t index = Locate(entryName);
+    if (index < 0) {
         return std::nullopt;
     }
+    ZipEntryReader entry = OpenAt(index, entryName);
     std::string bytes;
-    if (const std::optional<std::size_t> size = StatedSize(entryName); size && *size <= ZipEntryReader::MaxSize) {
+    if (const std::optional<std::size_t> size = StatedSize(index); size && *size <= ZipEntryReader::MaxSize) {
         bytes.reserve(*size);
     }
     char buffer[64 * 1024];
-    while (const std::size_t count = entry->Read(buffer, sizeof buffer)) {
+    while (const std::size_t count = entry.Read(buffer, sizeof buffer)) {
         bytes.append(buffer, count);
     }
     return bytes;

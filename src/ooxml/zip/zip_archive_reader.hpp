@@ -28,8 +28,12 @@ public:
     std::optional<ZipEntryReader> Open(std::string_view entryName) const;
 
 private:
+    // The index of the entry of that name, matched exactly or else ignoring case; negative when
+    // there is none. The exact match is a hash lookup, the other a scan of every entry.
+    int64_t Locate(std::string_view entryName) const;
+    ZipEntryReader OpenAt(int64_t index, std::string_view entryName) const;
     // The entry's size as the directory states it, which a hostile file may have made up.
-    std::optional<std::size_t> StatedSize(std::string_view entryName) const;
+    std::optional<std::size_t> StatedSize(int64_t index) const;
 
     struct Closer {
         void operator()(zip* archive) const;
