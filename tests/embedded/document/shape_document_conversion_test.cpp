@@ -107,7 +107,7 @@ TEST_F(ShapeDocumentConversion, TextBoxFormattingAndText) {
     EXPECT_TRUE(box.autoFit);
     EXPECT_EQ(box.verticalAnchor, "ctr");
     EXPECT_EQ(box.alignment, "r");
-    EXPECT_EQ(box.macro, "Refresh");
+    EXPECT_EQ(box.macro, "[0]!Refresh");  // a procedure of the workbook itself, as Excel names it
     EXPECT_EQ(box.text.text, "Title\nBody");
     ASSERT_EQ(box.text.runs.size(), 2u);
     EXPECT_TRUE(box.text.runs[0].font->bold);
@@ -282,6 +282,26 @@ TEST_F(ShapeDocumentConversion, SavingAgainGivesTheSameShapes) {
     ASSERT_EQ(second.comments.size(), 1u);
     EXPECT_EQ(second.comments[0].text, first.comments[0].text);
     EXPECT_EQ(second.comments[0].anchor, first.comments[0].anchor);
+}
+
+// Excel writes a procedure of the workbook's own modules as "[0]!Name"; a procedure of a sheet's
+// module keeps its qualified name ("Detailed_report.IM_AppRecus" in an Excel-made file).
+TEST_F(ShapeDocumentConversion, MacrosOfTheWorkbookItselfAreNamedAsExcelNamesThem) {
+    AddBox(10, 10, 50, 20)->SetOnAction("objClick");
+    AddBox(10, 40, 50, 20)->SetOnAction("Sheet1.Refresh");
+    AddBox(10, 70, 50, 20)->SetOnAction("'Other.xlsm'!Go");
+    AddBox(10, 100, 50, 20);
+    const auto& boxes = Saved().shapes;
+    ASSERT_EQ(boxes.size(), 4u);
+    EXPECT_EQ(boxes[0].macro, "[0]!objClick");
+    EXPECT_EQ(boxes[1].macro, "Sheet1.Refresh");
+    EXPECT_EQ(boxes[2].macro, "'Other.xlsm'!Go");
+    EXPECT_EQ(boxes[3].macro, "");
+    const auto back = Reopened()->Shapes();
+    EXPECT_EQ(back->Item(1)->OnAction(), "objClick");
+    EXPECT_EQ(back->Item(2)->OnAction(), "Sheet1.Refresh");
+    EXPECT_EQ(back->Item(3)->OnAction(), "'Other.xlsm'!Go");
+    EXPECT_EQ(back->Item(4)->OnAction(), "");
 }
 
 }  // namespace

@@ -30,6 +30,22 @@ double PointsFromEmu(int64_t emu) {
     return static_cast<double>(emu) / EmuPerPoint;
 }
 
+// A procedure of the workbook's own standard modules is "[0]!Name" in the file ([0] being the
+// workbook itself); the object model shows the bare name. A qualified name ("Sheet1.Name", or one
+// of another workbook with its "!") is written as it is.
+constexpr std::string_view OwnWorkbookMacro = "[0]!";
+
+std::string MacroOfOnAction(const std::string& onAction) {
+    if (onAction.empty() || onAction.find_first_of("!.") != std::string::npos) {
+        return onAction;
+    }
+    return std::string(OwnWorkbookMacro) + onAction;
+}
+
+std::string OnActionOfMacro(const std::string& macro) {
+    return macro.starts_with(OwnWorkbookMacro) ? macro.substr(OwnWorkbookMacro.size()) : macro;
+}
+
 uint32_t Pixels(double points) {
     return static_cast<uint32_t>(std::lround(points / PointsPerPixel));
 }
@@ -137,7 +153,7 @@ ooxml::DrawingShape AnchoredObjectOf(const ShapeModel& shape, const Corners& cor
     out.y = Emu(corners.bounds.top);
     out.width = Emu(corners.bounds.width);
     out.height = Emu(corners.bounds.height);
-    out.macro = shape.onAction;
+    out.macro = MacroOfOnAction(shape.onAction);
     out.hidden = !shape.visible;
     return out;
 }
@@ -234,7 +250,7 @@ std::shared_ptr<ShapeModel> AnchoredObjectFromDocument(const ooxml::DrawingShape
     shape->type = type;
     shape->placement = ConstantOf(AnchorKinds, in.editAs);
     shape->visible = !in.hidden;
-    shape->onAction = in.macro;
+    shape->onAction = OnActionOfMacro(in.macro);
     return shape;
 }
 
