@@ -98,6 +98,31 @@ TEST_F(ChartOpenTest, AOneColourGradientOpensWithItsStyleAndDegree) {
     EXPECT_EQ(fill->ForeColor()->RGB(), 10040115);
 }
 
+// Every orientation of tick labels and titles opens as it was set: horizontal stays horizontal
+// rather than 0 degrees, stacked letters stay vertical.
+TEST_F(ChartOpenTest, TextOrientationsOpenAsTheyWereSet) {
+    At("A1:A3")->SetValue(Variant(std::vector<double>{1, 2, 3}));
+    const int32_t orientations[] = {xlHorizontal, xlVertical, xlUpward, xlDownward, 45, -30, xlAutomatic};
+    for (const int32_t orientation : orientations) {
+        auto chart = sheet->Shapes()->AddChart(xlColumnClustered, 0, 0, 300, 200)->Chart();
+        chart->SeriesCollection()->NewSeries()->SetValues(Variant(At("A1:A3")));
+        chart->Axes(xlCategory)->TickLabels()->SetOrientation(orientation);
+        chart->SetHasTitle(true);
+        chart->ChartTitle()->SetText("Title");
+        if (orientation != xlAutomatic) {
+            chart->ChartTitle()->SetOrientation(orientation);
+        }
+    }
+    auto reopened = SaveAndReopen("orientations.xlsx")->Worksheets(1);
+    for (int32_t i = 1; i <= 7; ++i) {
+        const int32_t orientation = orientations[i - 1];
+        auto chart = reopened->ChartObjects(i)->Chart();
+        EXPECT_EQ(chart->Axes(xlCategory)->TickLabels()->Orientation(), orientation) << orientation;
+        EXPECT_EQ(chart->ChartTitle()->Orientation(), orientation == xlAutomatic ? xlHorizontal : orientation)
+            << orientation;
+    }
+}
+
 // Charts Excel wrote open into the model; changed and saved again they pass the checkers.
 TEST_F(ChartOpenTest, ChartsExcelWroteOpenIntoTheModel) {
     auto column = OpenCorpus("charts-xlsxwriter/xw__chart_column01.xlsx");

@@ -1,5 +1,6 @@
 #include "excel/embedded/document/chart_data_document_conversion.hpp"
 #include "excel/embedded/document/chart_document_conversion.hpp"
+#include "excel/embedded/document/chart_text_direction.hpp"
 #include "excel/embedded/document/chart_words.hpp"
 #include "excel/embedded/document/format_document_conversion.hpp"
 #include "excel/embedded/document/shape_document_conversion.hpp"
@@ -15,7 +16,6 @@ namespace excel::embedded {
 namespace {
 
 constexpr double EmuPerPoint = 12700.0;
-constexpr int32_t RotationPerDegree = 60000;
 // Excel's chart title font when the file names none: the chart's text at 18 points, bold.
 constexpr double DefaultTitleSize = 18.0;
 
@@ -111,25 +111,12 @@ FontFormat FontFromChartFont(const ooxml::ChartFont& font, FontFormat base) {
     return base;
 }
 
-int32_t OrientationOf(const std::optional<int32_t>& rotation, int32_t automatic) {
-    if (!rotation) {
-        return automatic;
-    }
-    if (*rotation == -90 * RotationPerDegree) {
-        return xlUpward;
-    }
-    if (*rotation == 90 * RotationPerDegree) {
-        return xlDownward;
-    }
-    return std::clamp(-*rotation / RotationPerDegree, -90, 90);
-}
-
 ChartTextFormat TextFromDocument(const ooxml::ChartTextProperties& text) {
     ChartTextFormat out;
     if (text.font != ooxml::ChartFont{}) {
         out.font = FontFromChartFont(text.font, DefaultChartFont());
     }
-    out.orientation = OrientationOf(text.rotation, xlTickLabelOrientationAutomatic);
+    out.orientation = OrientationOfDirection(text.rotation, text.vertical, xlTickLabelOrientationAutomatic);
     out.fromFile = true;
     return out;
 }
@@ -152,7 +139,7 @@ ChartTitleModel TitleFromDocument(const OpenedChart& chart, const ooxml::ChartTi
     if (title.runs.empty() && !title.reference.points.empty()) {
         out.text.text = title.reference.points.front().second;
     }
-    out.orientation = OrientationOf(title.rotation, xlHorizontal);
+    out.orientation = OrientationOfDirection(title.rotation, title.vertical, xlHorizontal);
     out.format = FormatFromDocument(title.shape);
     out.textFromFile = true;
     out.opened = PieceOf(chart, title);

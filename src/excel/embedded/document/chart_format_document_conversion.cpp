@@ -1,5 +1,6 @@
 #include "excel/embedded/document/chart_format_document_conversion.hpp"
 
+#include "excel/embedded/document/chart_text_direction.hpp"
 #include "excel/embedded/document/chart_words.hpp"
 #include "excel/embedded/document/format_document_conversion.hpp"
 #include "excel/embedded/format/color_conversion.hpp"
@@ -13,8 +14,6 @@ namespace excel::embedded {
 namespace {
 
 constexpr double EmuPerPoint = 12700.0;
-constexpr int32_t RotationPerDegree = 60000;
-constexpr int32_t QuarterTurn = 90 * RotationPerDegree;
 constexpr int32_t FullStop = 100000;
 // A one-colour gradient's second stop: the colour darkened towards black below the middle of the
 // degree scale and lightened towards white above it, as Excel works it out.
@@ -136,32 +135,15 @@ ooxml::ChartFont DocumentChartFont(const FontFormat& font, const WorkbookColors&
     return out;
 }
 
-std::optional<int32_t> DocumentRotation(int32_t orientation) {
-    switch (orientation) {
-        case xlTickLabelOrientationAutomatic:
-            return std::nullopt;
-        case xlUpward:
-            return -QuarterTurn;
-        case xlDownward:
-            return QuarterTurn;
-        case xlHorizontal:
-        case xlVertical:
-            return 0;
-        default:
-            return -orientation * RotationPerDegree;
-    }
-}
-
 ooxml::ChartTextProperties DocumentTextProperties(const ChartTextFormat& text,
                                                   const ooxml::ChartTextProperties* opened) {
     if (text.fromFile && opened != nullptr) {
         return *opened;
     }
     ooxml::ChartTextProperties out;
-    out.rotation = DocumentRotation(text.orientation);
-    if (out.rotation || text.orientation == xlVertical) {
-        out.vertical = text.orientation == xlVertical ? "wordArtVert" : "horz";
-    }
+    ChartTextDirection direction = DirectionOfOrientation(text.orientation, xlTickLabelOrientationAutomatic);
+    out.rotation = direction.rotation;
+    out.vertical = std::move(direction.vertical);
     if (text.font) {
         // Text properties name only size, weight and slant, unless the font was changed otherwise.
         out.font.size = text.font->size;
@@ -194,11 +176,9 @@ ooxml::ChartTitle DocumentTitle(const ChartTitleModel& title, const WorkbookColo
     } else {
         out.textProperties.font = out.paragraphFont;
     }
-    out.rotation =
-        DocumentRotation(title.orientation == xlHorizontal ? xlTickLabelOrientationAutomatic : title.orientation);
-    if (out.rotation) {
-        out.vertical = "horz";  // Excel names the text's direction beside its rotation
-    }
+    ChartTextDirection direction = DirectionOfOrientation(title.orientation, xlHorizontal);
+    out.rotation = direction.rotation;
+    out.vertical = std::move(direction.vertical);
     out.shape = DocumentShapeProperties(title.format, colors, title.opened ? &title.opened->shape : nullptr);
     if (title.opened != nullptr) {
         out.carried = title.opened->carried;

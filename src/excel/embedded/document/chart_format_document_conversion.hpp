@@ -15,8 +15,6 @@ ooxml::ChartShapeProperties DocumentShapeProperties(const ChartElementFormat& fo
 ooxml::ChartTextProperties DocumentTextProperties(const ChartTextFormat& text,
                                                   const ooxml::ChartTextProperties* opened);
 ooxml::ChartFont DocumentChartFont(const FontFormat& font, const WorkbookColors& colors);
-// An XlTickLabelOrientation or degrees as a text body's rotation; none for automatic.
-std::optional<int32_t> DocumentRotation(int32_t orientation);
 ooxml::ChartTitle DocumentTitle(const ChartTitleModel& title, const WorkbookColors& colors);
 ooxml::Color DocumentShapeColor(const ShapeColor& color, const WorkbookColors& colors);
 
