@@ -85,6 +85,27 @@ TEST_F(TitleTest, TheChartAreaBorderAndThePlotAreaFormats) {
     EXPECT_EQ(plot->Interior()->ColorIndex().ToInt(), xlColorIndexAutomatic);
 }
 
+// The plot area takes in the axes' tick labels but not their titles, which stand beside it; its
+// inside leaves room for the labels.
+TEST_F(TitleTest, AxisTitlesStandOutsideThePlotArea) {
+    auto value = chart->Axes(xlValue);
+    auto category = chart->Axes(xlCategory);
+    value->SetHasTitle(true);
+    value->AxisTitle()->SetText("Amount");
+    category->SetHasTitle(true);
+    category->AxisTitle()->SetText("Month");
+    auto plot = chart->PlotArea();
+    const auto valueTitle = value->AxisTitle();
+    const auto categoryTitle = category->AxisTitle();
+    EXPECT_LE(valueTitle->Left() + valueTitle->Width(), plot->Left() + 0.001);
+    EXPECT_GE(categoryTitle->Top(), plot->Top() + plot->Height() - 0.001);
+    EXPECT_GT(plot->InsideLeft(), plot->Left());
+    EXPECT_LT(plot->InsideTop() + plot->InsideHeight(), plot->Top() + plot->Height());
+    // A plot area set by hand keeps the titles beside it.
+    plot->SetHeight(plot->Height() - 30);
+    EXPECT_GE(category->AxisTitle()->Top(), plot->Top() + plot->Height() - 0.001);
+}
+
 // A chart's text boxes are its own shapes, placed from its chart area's corner; they are not
 // shapes of the sheet.
 TEST_F(TitleTest, AChartsTextBoxesLiveInTheChart) {

@@ -121,49 +121,76 @@ ChartLayout LayOutChart(const ChartModel& chart, double width, double height) {
                 break;
         }
     }
-    layout.plotArea =
-        chart.plotAreaBounds.value_or(ShapeBounds{left, top, std::max(right - left, 0.0), std::max(bottom - top, 0.0)});
-
-    // Each shown axis takes a band of the plot area for its tick marks, labels and title.
-    ShapeBounds inside = layout.plotArea;
-    std::array<double, 4> bands{};
+    // Each shown axis takes a band for its tick marks and labels inside the plot area, and one for
+    // its title outside it: the plot area's bounds take in the labels but not the axis titles.
+    struct AxisBands {
+        double labels = 0.0;
+        std::optional<TextSize> title;
+        bool vertical = false;
+        bool far = false;  // the secondary axes stand right of or above the plot
+    };
+    std::array<std::optional<AxisBands>, 4> shown;
     for (const int32_t group : {xlPrimary, xlSecondary}) {
         for (const int32_t type : {xlCategory, xlValue}) {
             const auto axis = chart.Axis(type, group);
             if (axis == nullptr || !chart.HasAxis(type, group)) {
                 continue;
             }
-            const bool vertical = Vertical(chart, *axis);
-            const FontFormat font = FontOf(axis->tickLabels);
-            const TextSize label = SizeOfText(TypicalLabel, font);
-            double band = axis->tickLabelPosition == xlTickLabelPositionNone
-                              ? 0.0
-                              : Across(label, axis->tickLabels.orientation, vertical) + TextPadding;
+            AxisBands bands;
+            bands.vertical = Vertical(chart, *axis);
+            bands.far = group == xlSecondary;
+            const TextSize label = SizeOfText(TypicalLabel, FontOf(axis->tickLabels));
+            bands.labels = axis->tickLabelPosition == xlTickLabelPositionNone
+                               ? 0.0
+                               : Across(label, axis->tickLabels.orientation, bands.vertical) + TextPadding;
             if (axis->majorTickMark == xlTickMarkOutside || axis->majorTickMark == xlTickMarkCross) {
-                band += TickLength;
+                bands.labels += TickLength;
             }
-            const std::size_t slot = ChartModel::SlotOf(type, group);
             if (axis->title) {
-                band += TitleSize(*axis->title, "Axis Title").height;
+                bands.title = TitleSize(*axis->title, "Axis Title");
             }
-            bands[slot] = band;
-            const bool far = group == xlSecondary;
-            if (vertical) {
-                inside.width -= band;
-                if (!far) {
-                    inside.left += band;
-                }
-            } else {
-                inside.height -= band;
-                if (far) {
-                    inside.top += band;
-                }
+            shown[ChartModel::SlotOf(type, group)] = bands;
+        }
+    }
+    // Takes a band off one side of the box: the near or far side, across or along the axis.
+    const auto takeBand = [](ShapeBounds& box, double band, bool vertical, bool far) {
+        if (vertical) {
+            box.width -= band;
+            if (!far) {
+                box.left += band;
             }
+        } else {
+            box.height -= band;
+            if (far) {
+                box.top += band;
+            }
+        }
+    };
+
+    if (chart.plotAreaBounds) {
+        layout.plotArea = *chart.plotAreaBounds;
+    } else {
+        ShapeBounds plot{left, top, std::max(right - left, 0.0), std::max(bottom - top, 0.0)};
+        for (const auto& bands : shown) {
+            if (bands && bands->title) {
+                takeBand(plot, bands->title->height, bands->vertical, bands->far);
+            }
+        }
+        plot.width = std::max(plot.width, 0.0);
+        plot.height = std::max(plot.height, 0.0);
+        layout.plotArea = plot;
+    }
+    ShapeBounds inside = layout.plotArea;
+    for (const auto& bands : shown) {
+        if (bands) {
+            takeBand(inside, bands->labels, bands->vertical, bands->far);
         }
     }
     inside.width = std::max(inside.width, 0.0);
     inside.height = std::max(inside.height, 0.0);
     layout.plotInside = inside;
+
+    const ShapeBounds& plot = layout.plotArea;
     for (const int32_t group : {xlPrimary, xlSecondary}) {
         for (const int32_t type : {xlCategory, xlValue}) {
             const auto axis = chart.Axis(type, group);
@@ -171,22 +198,23 @@ ChartLayout LayOutChart(const ChartModel& chart, double width, double height) {
                 continue;
             }
             const std::size_t slot = ChartModel::SlotOf(type, group);
-            const bool vertical = Vertical(chart, *axis);
-            const bool far = group == xlSecondary;
-            const double band = bands[slot];
-            layout.axes[slot] = vertical
-                                    ? ShapeBounds{far ? inside.left + inside.width : inside.left - band, inside.top,
-                                                  band, inside.height}
-                                    : ShapeBounds{inside.left, far ? inside.top - band : inside.top + inside.height,
-                                                  inside.width, band};
+            const AxisBands bands =
+                shown[slot].value_or(AxisBands{0.0, std::nullopt, Vertical(chart, *axis), group == xlSecondary});
+            const double band = bands.labels;
+            layout.axes[slot] =
+                bands.vertical ? ShapeBounds{bands.far ? inside.left + inside.width : inside.left - band, inside.top,
+                                             band, inside.height}
+                               : ShapeBounds{inside.left, bands.far ? inside.top - band : inside.top + inside.height,
+                                             inside.width, band};
             if (axis->title) {
+                // Beside the plot area, centred on the plot itself.
                 const TextSize size = TitleSize(*axis->title, "Axis Title");
-                const ShapeBounds& at = layout.axes[slot];
                 ShapeBounds placed =
-                    vertical ? ShapeBounds{far ? at.left + at.width - size.height : at.left,
-                                           at.top + (at.height - size.width) / 2, size.height, size.width}
-                             : ShapeBounds{at.left + (at.width - size.width) / 2,
-                                           far ? at.top : at.top + at.height - size.height, size.width, size.height};
+                    bands.vertical ? ShapeBounds{bands.far ? plot.left + plot.width : plot.left - size.height,
+                                                 inside.top + (inside.height - size.width) / 2, size.height, size.width}
+                                   : ShapeBounds{inside.left + (inside.width - size.width) / 2,
+                                                 bands.far ? plot.top - size.height : plot.top + plot.height,
+                                                 size.width, size.height};
                 placed.left = axis->title->left.value_or(placed.left);
                 placed.top = axis->title->top.value_or(placed.top);
                 layout.axisTitles[slot] = placed;

@@ -9,8 +9,8 @@ namespace excel::embedded {
 
 // Where a chart's parts are, in points from the chart area's top-left corner: Excel's automatic
 // layout, approximated from the parts' fonts (a title at the top, a legend at its side, the plot
-// area in the rest, each shown axis taking a band of the plot area for its labels and title), and
-// the places set by hand.
+// area in the rest, each shown axis taking a band of the plot area for its labels and one beside the
+// plot area for its title), and the places set by hand.
 struct ChartLayout {
     std::optional<ShapeBounds> title;
     std::optional<ShapeBounds> legend;
