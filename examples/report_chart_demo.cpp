@@ -201,10 +201,12 @@ void AddExceedanceCurves(vos::VosExcelReportWorksheet& sheet, const ReportTexts&
     chart->AddTitle(texts.curveTitle);
     chart->AddSubTitle(texts.curveSubtitle);
     chart->AddLegend(false);
-    const auto [lowYear, highYear] = std::minmax_element(kReturnYears.begin(), kReturnYears.end());
-    chart->AddValueXAxisWithNiceTicks(*lowYear, *highYear, false, true, texts.returnPeriodAxis, "0", true);
+    // The vertical axis first: upright labels below give the plot area back its height last, with
+    // both axes in place.
     chart->AddValueYAxisWithNiceTicks(0, *std::max_element(kGrossLoss.begin(), kGrossLoss.end()), false, true,
                                       texts.lossAxis, "#,##0");
+    const auto [lowYear, highYear] = std::minmax_element(kReturnYears.begin(), kReturnYears.end());
+    chart->AddValueXAxisWithNiceTicks(*lowYear, *highYear, false, true, texts.returnPeriodAxis, "0", true);
 }
 
 // Premium on the left axis, loss ratio on a secondary axis at the right.

@@ -205,8 +205,10 @@ void AddExceedanceCurves(vos::VosExcelReportWorksheet& sheet) {
     chart->AddTitle(kCurveTitle);
     chart->AddSubTitle(kCurveSubtitle);
     chart->AddLegend(false);
-    chart->AddValueXAxisWithNiceTicks(10, 500, false, true, "Return period (years)", "0", true);
+    // The vertical axis first: upright labels below give the plot area back its height last, with
+    // both axes in place.
     chart->AddValueYAxisWithNiceTicks(0, 3070, false, true, "Loss (USD m)", "#,##0");
+    chart->AddValueXAxisWithNiceTicks(10, 500, false, true, "Return period (years)", "0", true);
     sheet.AddSeparatorRows(1);
 }
 
