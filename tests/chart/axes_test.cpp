@@ -57,6 +57,17 @@ TEST_F(AxesTest, AllThreeScaleValuesOmittedGiveAnAutomaticAxis) {
     EXPECT_EQ(axis->MaximumScale(), 60.0);  // Excel's own scale over 10 to 50
 }
 
+TEST_F(AxesTest, AScaleAboveTheDataIsKeptAsGiven) {
+    // The data run from 10 to 50; Excel's own scale would end at 60, below the minimum given.
+    const auto axis = ChartWithSeries(vos::VosChartColumn)->AddValueYAxis("", 100, 200.0, 20);
+    EXPECT_EQ(axis->MinimumScale(), 100.0);
+    EXPECT_EQ(axis->MaximumScale(), 200.0);
+    EXPECT_EQ(axis->MajorUnit(), 20.0);
+    const auto below = ChartWithSeries(vos::VosChartColumn)->AddValueYAxis("", -200, -100.0, 25);
+    EXPECT_EQ(below->MinimumScale(), -200.0);
+    EXPECT_EQ(below->MaximumScale(), -100.0);
+}
+
 TEST_F(AxesTest, EqualEndsAreAccepted) {
     const auto axis = ChartWithSeries(vos::VosChartXYMarkers)->AddValueYAxis("", 5, 5.0, 1);
     EXPECT_FALSE(axis->MinimumScaleIsAuto());
