@@ -12,8 +12,9 @@ namespace {
 
 constexpr std::array<const char*, 7> DayNames = {"Sunday",   "Monday", "Tuesday", "Wednesday",
                                                  "Thursday", "Friday", "Saturday"};
-constexpr std::array<const char*, 12> MonthNames = {"January", "February", "March",     "April",   "May",      "June",
-                                                    "July",    "August",   "September", "October", "November", "December"};
+constexpr std::array<const char*, 12> MonthNames = {"January",   "February", "March",    "April",
+                                                    "May",       "June",     "July",     "August",
+                                                    "September", "October",  "November", "December"};
 
 // Hours on the 12-hour clock: midnight and noon are 12.
 int TwelveHour(int hour) {
@@ -32,7 +33,11 @@ std::string LongDateTimeText(const std::tm& moment) {
 std::string CurrentLongDateTimeText() {
     const std::time_t now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
     std::tm local{};
+#ifdef _WIN32
+    localtime_s(&local, &now);
+#else
     localtime_r(&now, &local);
+#endif
     return LongDateTimeText(local);
 }
 

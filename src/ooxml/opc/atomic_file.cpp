@@ -1,3 +1,6 @@
+// The POSIX file system's atomic save; atomic_file_windows.cpp is Windows'.
+#ifndef _WIN32
+
 #include "ooxml/opc/atomic_file.hpp"
 
 #include "ooxml/write_error.hpp"
@@ -39,7 +42,8 @@ AtomicFile::AtomicFile(const std::string& targetPath) : targetPath_(targetPath),
 
     const std::string baseName = std::filesystem::path(targetPath_).filename().string();
     std::random_device randomDevice;
-    std::mt19937_64 random((static_cast<uint64_t>(randomDevice()) << 32) ^ randomDevice() ^ static_cast<uint64_t>(getpid()));
+    std::mt19937_64 random((static_cast<uint64_t>(randomDevice()) << 32) ^ randomDevice() ^
+                           static_cast<uint64_t>(getpid()));
     for (;;) {
         temporaryPath_ = fmt::format("{}/.~{}.{:016x}.tmp", folder_, baseName, random());
         // The umask applies to the mode, as it would to a file created in place.
@@ -87,3 +91,5 @@ void AtomicFile::Commit() {
 }
 
 }  // namespace ooxml
+
+#endif  // _WIN32

@@ -1,8 +1,8 @@
 #include "ooxml/properties/document_properties_part.hpp"
 
-#include "ooxml/carried/carried_attributes.hpp"
 #include <ctime>
 #include <string>
+#include "ooxml/carried/carried_attributes.hpp"
 
 namespace ooxml {
 
@@ -10,7 +10,11 @@ namespace {
 
 std::string W3cUtcTime(std::time_t time) {
     std::tm utc{};
+#ifdef _WIN32
+    gmtime_s(&utc, &time);
+#else
     gmtime_r(&time, &utc);
+#endif
     char text[32];
     const std::size_t length = std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%SZ", &utc);
     return std::string(text, length);

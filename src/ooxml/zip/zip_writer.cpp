@@ -1,12 +1,11 @@
 #include "ooxml/zip/zip_writer.hpp"
 
-#include "ooxml/write_error.hpp"
+#include "ooxml/file_descriptor_writes.hpp"
+#include "ooxml/package_error.hpp"
 
 #include <libdeflate.h>
-#include <unistd.h>
 #include <zlib.h>
 
-#include <cerrno>
 #include <algorithm>
 #include <limits>
 
@@ -24,7 +23,7 @@ constexpr uint32_t kCentralHeaderSignature = 0x02014b50;
 constexpr uint32_t kEndOfCentralDirectorySignature = 0x06054b50;
 constexpr uint16_t kVersion = 20;  // 2.0: deflate
 constexpr uint16_t kMethodDeflate = 8;
-constexpr uint16_t kDosTime = 0;                      // 00:00:00
+constexpr uint16_t kDosTime = 0;                        // 00:00:00
 constexpr uint16_t kDosDate = (0 << 9) | (1 << 5) | 1;  // 1980-01-01
 constexpr std::size_t kLocalHeaderSize = 30;
 constexpr std::size_t kLocalHeaderCrcOffset = 14;
@@ -36,7 +35,9 @@ public:
         bytes_.push_back(static_cast<unsigned char>(value >> 8));
         return *this;
     }
-    LittleEndian& U32(uint32_t value) { return U16(static_cast<uint16_t>(value)).U16(static_cast<uint16_t>(value >> 16)); }
+    LittleEndian& U32(uint32_t value) {
+        return U16(static_cast<uint16_t>(value)).U16(static_cast<uint16_t>(value >> 16));
+    }
     LittleEndian& Bytes(const std::string& text) {
         bytes_.insert(bytes_.end(), text.begin(), text.end());
         return *this;
@@ -102,10 +103,8 @@ void ZipWriter::EndEntry() {
     LittleEndian patch;
     patch.U32(entry.crc).U32(Narrow32(entry.compressedSize)).U32(Narrow32(entry.uncompressedSize));
     FlushOutput();
-    const auto offset = static_cast<off_t>(entry.headerOffset + kLocalHeaderCrcOffset);
-    if (pwrite(fd_, patch.Result().data(), patch.Result().size(), offset) != static_cast<ssize_t>(patch.Result().size())) {
-        throw WriteError(errno, "writing the package");
-    }
+    WriteAt(fd_, reinterpret_cast<const char*>(patch.Result().data()), patch.Result().size(),
+            entry.headerOffset + kLocalHeaderCrcOffset, "writing the package");
 }
 
 void ZipWriter::Finish() {
@@ -165,17 +164,7 @@ void ZipWriter::PutBytes(const void* data, std::size_t size) {
 }
 
 void ZipWriter::FlushOutput() {
-    std::size_t written = 0;
-    while (written < used_) {
-        const ssize_t result = ::write(fd_, output_.data() + written, used_ - written);
-        if (result < 0) {
-            if (errno == EINTR) {
-                continue;
-            }
-            throw WriteError(errno, "writing the package");
-        }
-        written += static_cast<std::size_t>(result);
-    }
+    WriteAll(fd_, reinterpret_cast<const char*>(output_.data()), used_, "writing the package");
     flushed_ += used_;
     used_ = 0;
 }

@@ -10,7 +10,11 @@
 namespace excel::embedded {
 
 ApplicationModel::ApplicationModel() {
+    // The login name: USER on POSIX systems, USERNAME on Windows.
     const char* user = std::getenv("USER");
+    if (user == nullptr || *user == '\0') {
+        user = std::getenv("USERNAME");
+    }
     userName = user != nullptr && *user != '\0' ? user : "User";
 }
 
