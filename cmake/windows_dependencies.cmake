@@ -51,3 +51,14 @@ foreach(target zip vos_libdeflate pugixml-static fmt)
 endforeach()
 
 set(vos_dependencies zip vos_libdeflate ZLIB::ZLIB pugixml::pugixml fmt::fmt)
+
+# GoogleTest, for the test programs that run under Wine.
+if(VOS_BUILD_WINDOWS_TEST_PROGRAMS)
+  set(INSTALL_GTEST OFF CACHE BOOL "" FORCE)
+  set(BUILD_GMOCK OFF CACHE BOOL "" FORCE)
+  FetchContent_Declare(googletest
+    URL ${debian_pool}/g/googletest/googletest_1.12.1.orig.tar.gz
+    URL_HASH SHA256=81964fe578e9bd7c94dfdb09c8e4d6e6759e19967e397dbea48d1c10e45d0df2)
+  FetchContent_MakeAvailable(googletest)
+  target_compile_options(gtest PRIVATE -w)
+endif()

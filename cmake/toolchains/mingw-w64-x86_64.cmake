@@ -1,10 +1,11 @@
-# Cross-compiles for 64-bit Windows with Debian's mingw-w64 (g++-mingw-w64-x86-64-win32), and runs the
-# programs it builds, tests included, under Wine.
+# Cross-compiles for 64-bit Windows with Debian's mingw-w64, and runs the programs it builds, tests
+# included, under Wine. The compilers are the POSIX-threads flavour (g++-mingw-w64-x86-64-posix):
+# the win32 flavour's C++ library has no std::mutex or std::thread, which GoogleTest needs.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 set(mingw_triplet x86_64-w64-mingw32)
-set(CMAKE_C_COMPILER ${mingw_triplet}-gcc)
-set(CMAKE_CXX_COMPILER ${mingw_triplet}-g++)
+set(CMAKE_C_COMPILER ${mingw_triplet}-gcc-posix)
+set(CMAKE_CXX_COMPILER ${mingw_triplet}-g++-posix)
 set(CMAKE_RC_COMPILER ${mingw_triplet}-windres)
 
 # Libraries and headers come from the mingw tree (zlib from libz-mingw-w64-dev) or are built from

@@ -76,8 +76,8 @@ void AddSheet(vos::VosExcelReportWorkbook& report, const std::string& name, cons
                             excel::SafeArray::Doubles(std::vector<double>{52, 30, 16, -5}));
     tornado->AddTornadoYAxis(table->LeftHeaderRange());
     tornado->AddTitle("Sensitivity");
-    tornado->AddValueXAxis("Change", vos::AutomaticAxisScale, vos::AutomaticAxisScale, vos::AutomaticAxisScale,
-                           "#,##0", false);
+    tornado->AddValueXAxis("Change", vos::AutomaticAxisScale, vos::AutomaticAxisScale, vos::AutomaticAxisScale, "#,##0",
+                           false);
 }
 
 }  // namespace
