@@ -34,6 +34,12 @@ std::string_view RuntimeErrorText(int32_t number) {
             return "Resource not found";
         case 424:
             return "Object required";
+        case 438:
+            return "Object doesn't support this property or method";
+        case 449:
+            return "Argument not optional";
+        case 450:
+            return "Wrong number of arguments or invalid property assignment";
         default:
             return "Application-defined or object-defined error";
     }

@@ -1,0 +1,58 @@
+#pragma once
+
+#ifdef _WIN32
+
+#include "excel/com/variant_conversion.hpp"
+
+#include <excel/variant.hpp>
+
+#include <windows.h>
+// windows.h first: the OLE headers build on its types.
+#include <oaidl.h>
+
+#include <optional>
+#include <span>
+#include <string_view>
+
+namespace excel::com {
+
+// One argument of a late-bound call; an omitted optional argument is none.
+using Argument = std::optional<Variant>;
+
+// Late-bound calls on an automation object by member name, made as Excel's own clients make them:
+// locale 1033, the arguments in order and an omitted one as "parameter not found", a property put
+// with the named argument automation requires. A member's dispatch id is looked up once for all
+// objects of one interface. Failures arrive as AutomationError: the object's own code and text
+// (Excel's "Unable to set ..." with 0x800A03EC), or the automation runtime's for a member the
+// object lacks (438), a wrong type (13), a missing argument (449) or a wrong count (450).
+class DispatchCaller {
+public:
+    // Takes a reference to the object, released when the caller goes.
+    DispatchCaller(IDispatch* dispatch, const ObjectBridge& objects);
+    ~DispatchCaller();
+    DispatchCaller(const DispatchCaller&) = delete;
+    DispatchCaller& operator=(const DispatchCaller&) = delete;
+
+    IDispatch* Dispatch() const { return dispatch_; }
+
+    // A property's value; with arguments, a parameterised property (Cells(1, 2)).
+    Variant Get(std::string_view member, std::span<const Argument> arguments = {}) const;
+    // A method, and what it returns.
+    Variant Call(std::string_view member, std::span<const Argument> arguments = {}) const;
+    void Put(std::string_view member, const Variant& value, std::span<const Argument> arguments = {}) const;
+
+private:
+    Variant Invoke(std::string_view member, WORD flags, std::span<const Argument> arguments,
+                   const Variant* value) const;
+
+    IDispatch* dispatch_;
+    const ObjectBridge& objects_;
+};
+
+// The dispatch id of the member: from the ids of the object's interface already looked up, or
+// asked of the object (by IDispatchEx when it has no GetIDsOfNames, as script objects under Wine).
+DISPID DispatchIdOf(IDispatch* dispatch, std::string_view member);
+
+}  // namespace excel::com
+
+#endif  // _WIN32

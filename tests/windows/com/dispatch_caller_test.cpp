@@ -1,0 +1,243 @@
+#include "excel/com/dispatch_caller.hpp"
+#include "excel/com/wide_text.hpp"
+
+#include <excel/automation_error.hpp>
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+using excel::Variant;
+using excel::com::Argument;
+using excel::com::DispatchCaller;
+
+// Objects cross as nothing here: the host takes and gives no objects.
+class NoObjects : public excel::com::ObjectBridge {
+public:
+    std::shared_ptr<excel::Object> Wrap(IDispatch*) const override { return nullptr; }
+    IDispatch* Unwrap(const std::shared_ptr<excel::Object>&) const override { return nullptr; }
+};
+const NoObjects objects;
+
+// Type information that only names its interface, as the caller asks of it.
+class InterfaceOnlyTypeInfo : public ITypeInfo {
+public:
+    explicit InterfaceOnlyTypeInfo(const GUID& id) { attributes_.guid = id; }
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID, void**) override { return E_NOINTERFACE; }
+    ULONG STDMETHODCALLTYPE AddRef() override { return 2; }
+    ULONG STDMETHODCALLTYPE Release() override { return 1; }
+    HRESULT STDMETHODCALLTYPE GetTypeAttr(TYPEATTR** attributes) override {
+        *attributes = &attributes_;
+        return S_OK;
+    }
+    void STDMETHODCALLTYPE ReleaseTypeAttr(TYPEATTR*) override {}
+    HRESULT STDMETHODCALLTYPE GetTypeComp(ITypeComp**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetFuncDesc(UINT, FUNCDESC**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetVarDesc(UINT, VARDESC**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetNames(MEMBERID, BSTR*, UINT, UINT*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetRefTypeOfImplType(UINT, HREFTYPE*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetImplTypeFlags(UINT, INT*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetIDsOfNames(LPOLESTR*, UINT, MEMBERID*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE Invoke(PVOID, MEMBERID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override {
+        return E_NOTIMPL;
+    }
+    HRESULT STDMETHODCALLTYPE GetDocumentation(MEMBERID, BSTR*, BSTR*, DWORD*, BSTR*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetDllEntry(MEMBERID, INVOKEKIND, BSTR*, BSTR*, WORD*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetRefTypeInfo(HREFTYPE, ITypeInfo**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE AddressOfMember(MEMBERID, INVOKEKIND, PVOID*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown*, REFIID, PVOID*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetMops(MEMBERID, BSTR*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetContainingTypeLib(ITypeLib**, UINT*) override { return E_NOTIMPL; }
+    void STDMETHODCALLTYPE ReleaseFuncDesc(FUNCDESC*) override {}
+    void STDMETHODCALLTYPE ReleaseVarDesc(VARDESC*) override {}
+
+private:
+    TYPEATTR attributes_{};
+};
+
+// An automation object that the test scripts, recording how it is called: Value (a property),
+// Cells(row, column) (a parameterised property), Greet(name, [suffix]) (a method), Refuse (fails
+// as Excel refuses) and Mistyped (fails as automation does).
+class Host : public IDispatch {
+public:
+    explicit Host(ITypeInfo* typeInfo = nullptr) : typeInfo_(typeInfo) {}
+
+    int namesAsked = 0;
+    LCID lastLocale = 0;
+    WORD lastFlags = 0;
+    UINT lastNamedCount = 0;
+    DISPID lastNamed = 0;
+    bool lastHadResult = false;
+    std::vector<VARTYPE> lastTypes;
+    double value = 0;
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
+        if (iid == IID_IUnknown || iid == IID_IDispatch) {
+            *object = static_cast<IDispatch*>(this);
+            return S_OK;
+        }
+        *object = nullptr;
+        return E_NOINTERFACE;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
+    ULONG STDMETHODCALLTYPE Release() override { return --references_; }
+    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override {
+        *count = typeInfo_ != nullptr ? 1 : 0;
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo** info) override {
+        *info = typeInfo_;
+        return typeInfo_ != nullptr ? S_OK : E_NOTIMPL;
+    }
+    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) override {
+        ++namesAsked;
+        const std::wstring name(names[0]);
+        const wchar_t* known[] = {L"Value", L"Cells", L"Greet", L"Refuse", L"Mistyped"};
+        for (DISPID id = 0; id < 5; ++id) {
+            if (_wcsicmp(name.c_str(), known[id]) == 0) {
+                ids[0] = id + 1;
+                return S_OK;
+            }
+        }
+        return DISP_E_UNKNOWNNAME;
+    }
+    HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID locale, WORD flags, DISPPARAMS* parameters,
+                                     VARIANT* result, EXCEPINFO* exception, UINT*) override {
+        lastLocale = locale;
+        lastFlags = flags;
+        lastNamedCount = parameters->cNamedArgs;
+        lastNamed = parameters->cNamedArgs > 0 ? parameters->rgdispidNamedArgs[0] : 0;
+        lastHadResult = result != nullptr;
+        lastTypes.clear();
+        for (UINT i = 0; i < parameters->cArgs; ++i) {
+            lastTypes.push_back(parameters->rgvarg[i].vt);
+        }
+        VARIANT* args = parameters->rgvarg;  // the last argument first
+        switch (id) {
+            case 1:
+                if ((flags & DISPATCH_PROPERTYPUT) != 0) {
+                    value = args[0].dblVal;
+                    return S_OK;
+                }
+                result->vt = VT_R8;
+                result->dblVal = value;
+                return S_OK;
+            case 2:
+                result->vt = VT_I4;
+                result->lVal = args[1].lVal * 100 + args[0].lVal;
+                return S_OK;
+            case 3: {
+                const bool suffixGiven = !(args[0].vt == VT_ERROR && args[0].scode == DISP_E_PARAMNOTFOUND);
+                std::string text = "Hello, " + excel::com::Utf8FromBstr(args[1].bstrVal) + (suffixGiven ? "!" : "");
+                result->vt = VT_BSTR;
+                result->bstrVal = excel::com::NewBstr(text);
+                return S_OK;
+            }
+            case 4:
+                exception->scode = static_cast<SCODE>(0x800A03EC);
+                exception->bstrDescription = excel::com::NewBstr("Unable to set the Value property of the Range class");
+                return DISP_E_EXCEPTION;
+            default:
+                return DISP_E_TYPEMISMATCH;
+        }
+    }
+
+private:
+    ITypeInfo* typeInfo_;
+    ULONG references_ = 1;
+};
+
+template <class Call>
+void ExpectError(Call&& call, uint32_t code, const std::string& text) {
+    try {
+        call();
+        ADD_FAILURE() << "expected an automation error";
+    } catch (const excel::AutomationError& error) {
+        EXPECT_EQ(static_cast<uint32_t>(error.code()), code);
+        EXPECT_EQ(std::string(error.what()), text);
+    }
+}
+
+TEST(DispatchCaller, PutsAndGetsAProperty) {
+    Host host;
+    DispatchCaller caller(&host, objects);
+    caller.Put("Value", Variant(2.5));
+    EXPECT_EQ(host.value, 2.5);
+    EXPECT_EQ(host.lastFlags, DISPATCH_PROPERTYPUT);
+    EXPECT_EQ(host.lastNamedCount, 1u);
+    EXPECT_EQ(host.lastNamed, DISPID_PROPERTYPUT);
+    EXPECT_FALSE(host.lastHadResult);
+    EXPECT_EQ(host.lastLocale, 1033u);
+    EXPECT_EQ(caller.Get("value"), Variant(2.5));
+    EXPECT_EQ(host.lastFlags, DISPATCH_PROPERTYGET | DISPATCH_METHOD);
+    EXPECT_EQ(host.lastNamedCount, 0u);
+}
+
+TEST(DispatchCaller, HandsTheArgumentsOverInTheirOrder) {
+    Host host;
+    DispatchCaller caller(&host, objects);
+    const Argument cell[] = {Variant(int32_t{3}), Variant(int32_t{7})};
+    EXPECT_EQ(caller.Get("Cells", cell), Variant(int32_t{307}));
+}
+
+TEST(DispatchCaller, AnOmittedArgumentIsParameterNotFound) {
+    Host host;
+    DispatchCaller caller(&host, objects);
+    const Argument both[] = {Variant("World"), Variant("!")};
+    EXPECT_EQ(caller.Call("Greet", both), Variant("Hello, World!"));
+    EXPECT_EQ(host.lastFlags, DISPATCH_METHOD);
+    const Argument nameOnly[] = {Variant("World"), std::nullopt};
+    EXPECT_EQ(caller.Call("Greet", nameOnly), Variant("Hello, World"));
+    EXPECT_EQ(host.lastTypes.front(), VT_ERROR);
+}
+
+TEST(DispatchCaller, AnObjectsExceptionKeepsItsCodeAndText) {
+    Host host;
+    DispatchCaller caller(&host, objects);
+    ExpectError([&] { caller.Call("Refuse"); }, 0x800A03ECu, "Unable to set the Value property of the Range class");
+}
+
+TEST(DispatchCaller, AutomationsFailuresAreTheRuntimesErrors) {
+    Host host;
+    DispatchCaller caller(&host, objects);
+    ExpectError([&] { caller.Get("Colour"); }, 0x800A01B6u, "Object doesn't support this property or method");
+    ExpectError([&] { caller.Get("Mistyped"); }, 0x800A000Du, "Type mismatch");
+}
+
+TEST(DispatchCaller, LooksEachNameUpOncePerInterface) {
+    GUID rangeInterface{0x12345678, 0x1234, 0x5678, {1, 2, 3, 4, 5, 6, 7, 8}};
+    InterfaceOnlyTypeInfo typeInfo(rangeInterface);
+    Host first(&typeInfo);
+    Host second(&typeInfo);
+    DispatchCaller one(&first, objects);
+    DispatchCaller other(&second, objects);
+    one.Get("Value");
+    one.Get("VALUE");
+    other.Get("Value");
+    other.Put("Value", Variant(1.0));
+    EXPECT_EQ(first.namesAsked + second.namesAsked, 1);
+    // Without type information every call asks.
+    Host plain;
+    DispatchCaller unknown(&plain, objects);
+    unknown.Get("Value");
+    unknown.Get("Value");
+    EXPECT_EQ(plain.namesAsked, 2);
+}
+
+TEST(DispatchCaller, HoldsAReferenceWhileItLives) {
+    struct Counting : Host {
+        ULONG references = 1;
+        ULONG STDMETHODCALLTYPE AddRef() override { return ++references; }
+        ULONG STDMETHODCALLTYPE Release() override { return --references; }
+    } host;
+    {
+        DispatchCaller caller(&host, objects);
+        EXPECT_EQ(host.references, 2u);
+    }
+    EXPECT_EQ(host.references, 1u);
+}
+
+}  // namespace
