@@ -104,6 +104,10 @@ TEST_F(TitleTest, AxisTitlesStandOutsideThePlotArea) {
     // A plot area set by hand keeps the titles beside it.
     plot->SetHeight(plot->Height() - 30);
     EXPECT_GE(category->AxisTitle()->Top(), plot->Top() + plot->Height() - 0.001);
+    // With no room left beside it, a title stays inside the chart area.
+    plot->SetLeft(0);
+    EXPECT_GE(value->AxisTitle()->Left(), 0.0);
+    EXPECT_LE(value->AxisTitle()->Left() + value->AxisTitle()->Width(), chart->ChartArea()->Width());
 }
 
 // A chart's text boxes are its own shapes, placed from its chart area's corner; they are not

@@ -215,6 +215,9 @@ ChartLayout LayOutChart(const ChartModel& chart, double width, double height) {
                                    : ShapeBounds{inside.left + (inside.width - size.width) / 2,
                                                  bands.far ? plot.top - size.height : plot.top + plot.height,
                                                  size.width, size.height};
+                // Kept inside the chart area, as when the plot area set by hand leaves no room beside it.
+                placed.left = std::clamp(placed.left, 0.0, std::max(width - placed.width, 0.0));
+                placed.top = std::clamp(placed.top, 0.0, std::max(height - placed.height, 0.0));
                 placed.left = axis->title->left.value_or(placed.left);
                 placed.top = axis->title->top.value_or(placed.top);
                 layout.axisTitles[slot] = placed;
