@@ -20,7 +20,7 @@ public:
         if (object == nullptr) {
             return nullptr;
         }
-        const auto automation = std::dynamic_pointer_cast<ComObject>(object);
+        const auto automation = std::dynamic_pointer_cast<DispatchHolder>(object);
         if (automation == nullptr) {
             ThrowRuntimeError(TypeMismatch);  // an object of another backend has no dispatch pointer
         }
@@ -31,13 +31,13 @@ public:
 
 }  // namespace
 
-ComObject::ComObject(IDispatch* dispatch) : caller_(dispatch, ComObjects()) {
+DispatchHolder::DispatchHolder(IDispatch* dispatch) : caller_(dispatch, ComObjects()) {
     // The canonical IUnknown is what COM compares objects by; the dispatch pointer may differ
     // between two references to one object.
     dispatch->QueryInterface(IID_IUnknown, reinterpret_cast<void**>(&identity_));
 }
 
-ComObject::~ComObject() {
+DispatchHolder::~DispatchHolder() {
     if (identity_ != nullptr) {
         identity_->Release();
     }

@@ -9,20 +9,21 @@
 
 namespace excel::com {
 
-// An automation object seen through the boundary: every member is a call by name on its dispatch
-// pointer. The boundary's typed objects (a range, a worksheet, ...) stand on it; an object whose
-// type the caller does not know stays a plain ComObject.
-class ComObject : public virtual Object {
+// What every object of the boundary over automation has: the automation object's dispatch pointer,
+// with the calls by name made on it, and its IUnknown, by which COM tells objects apart. The typed
+// objects (a range, a worksheet, ...) derive from their interface of the object model and from this;
+// the interfaces already derive from Object, so this does not.
+class DispatchHolder {
 public:
-    // Takes a reference to the object, released when the last wrapper goes.
-    explicit ComObject(IDispatch* dispatch);
-    ~ComObject() override;
-    ComObject(const ComObject&) = delete;
-    ComObject& operator=(const ComObject&) = delete;
+    // Takes a reference to the object, released when the holder goes.
+    explicit DispatchHolder(IDispatch* dispatch);
+    virtual ~DispatchHolder();
+    DispatchHolder(const DispatchHolder&) = delete;
+    DispatchHolder& operator=(const DispatchHolder&) = delete;
 
     IDispatch* Dispatch() const { return caller_.Dispatch(); }
-    // The object's IUnknown: two wrappers of one automation object are the same object.
-    const void* Identity() const override { return identity_; }
+    // The object's IUnknown: two holders of one automation object answer the same.
+    const void* DispatchIdentity() const { return identity_; }
 
 protected:
     const DispatchCaller& Caller() const { return caller_; }
@@ -32,8 +33,15 @@ private:
     DispatchCaller caller_;
 };
 
+// An automation object whose type the boundary does not know, as a value in a Variant.
+class ComObject final : public Object, public DispatchHolder {
+public:
+    explicit ComObject(IDispatch* dispatch) : DispatchHolder(dispatch) {}
+    const void* Identity() const override { return DispatchIdentity(); }
+};
+
 // How objects cross between the boundary and automation: a dispatch pointer becomes a ComObject,
-// and only a ComObject has a dispatch pointer to hand back.
+// and only an object of this boundary has a dispatch pointer to hand back.
 const ObjectBridge& ComObjects();
 
 }  // namespace excel::com

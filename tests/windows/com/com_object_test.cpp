@@ -101,10 +101,22 @@ TEST(ComObject, ObjectsACallReturnsComeWrapped) {
     EXPECT_EQ(caller.Get("Parent").ToObject(), nullptr);
 }
 
+// A typed object of the boundary, as a workbook's would be: its interface and the holder.
+class TypedBook : public excel::Object, public excel::com::DispatchHolder {
+public:
+    explicit TypedBook(IDispatch* dispatch) : DispatchHolder(dispatch) {}
+    const void* Identity() const override { return DispatchIdentity(); }
+};
+
 TEST(ComObject, OnlyAutomationObjectsCrossBackToAutomation) {
     Node book("Book1", nullptr);
     const auto wrapper = std::make_shared<ComObject>(&book);
     IDispatch* handed = ComObjects().Unwrap(wrapper);
+    EXPECT_EQ(handed, &book);
+    handed->Release();
+    const auto typed = std::make_shared<TypedBook>(&book);
+    EXPECT_TRUE(excel::IsSameObject(typed, wrapper));
+    handed = ComObjects().Unwrap(typed);
     EXPECT_EQ(handed, &book);
     handed->Release();
     EXPECT_EQ(ComObjects().Unwrap(nullptr), nullptr);
