@@ -1,4 +1,5 @@
 #include "excel/com/com_object.hpp"
+#include "com/counted_dispatch.hpp"
 #include "excel/com/wide_text.hpp"
 
 #include <excel/automation_error.hpp>
@@ -14,28 +15,10 @@ using excel::com::ComObject;
 using excel::com::ComObjects;
 
 // An automation object with a parent: Parent (an object) and Name (a text), counting references.
-class Node : public IDispatch {
+class Node : public CountedDispatch {
 public:
     Node(std::string name, Node* parent) : name_(std::move(name)), parent_(parent) {}
 
-    ULONG references = 1;
-
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
-        if (iid == IID_IUnknown || iid == IID_IDispatch) {
-            *object = static_cast<IDispatch*>(this);
-            AddRef();
-            return S_OK;
-        }
-        *object = nullptr;
-        return E_NOINTERFACE;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++references; }
-    ULONG STDMETHODCALLTYPE Release() override { return --references; }
-    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override {
-        *count = 0;
-        return S_OK;
-    }
-    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) override {
         const std::wstring name(names[0]);
         if (name == L"Parent" || name == L"Name") {

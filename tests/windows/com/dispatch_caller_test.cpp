@@ -1,4 +1,5 @@
 #include "excel/com/dispatch_caller.hpp"
+#include "com/counted_dispatch.hpp"
 #include "excel/com/wide_text.hpp"
 
 #include <excel/automation_error.hpp>
@@ -61,7 +62,7 @@ private:
 // An automation object that the test scripts, recording how it is called: Value (a property),
 // Cells(row, column) (a parameterised property), Greet(name, [suffix]) (a method), Refuse (fails
 // as Excel refuses) and Mistyped (fails as automation does).
-class Host : public IDispatch {
+class Host : public CountedDispatch {
 public:
     explicit Host(ITypeInfo* typeInfo = nullptr) : typeInfo_(typeInfo) {}
 
@@ -74,16 +75,6 @@ public:
     std::vector<VARTYPE> lastTypes;
     double value = 0;
 
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
-        if (iid == IID_IUnknown || iid == IID_IDispatch) {
-            *object = static_cast<IDispatch*>(this);
-            return S_OK;
-        }
-        *object = nullptr;
-        return E_NOINTERFACE;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-    ULONG STDMETHODCALLTYPE Release() override { return --references_; }
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override {
         *count = typeInfo_ != nullptr ? 1 : 0;
         return S_OK;
@@ -147,7 +138,6 @@ public:
 
 private:
     ITypeInfo* typeInfo_;
-    ULONG references_ = 1;
 };
 
 template <class Call>
@@ -228,11 +218,7 @@ TEST(DispatchCaller, LooksEachNameUpOncePerInterface) {
 }
 
 TEST(DispatchCaller, HoldsAReferenceWhileItLives) {
-    struct Counting : Host {
-        ULONG references = 1;
-        ULONG STDMETHODCALLTYPE AddRef() override { return ++references; }
-        ULONG STDMETHODCALLTYPE Release() override { return --references; }
-    } host;
+    Host host;
     {
         DispatchCaller caller(&host, objects);
         EXPECT_EQ(host.references, 2u);

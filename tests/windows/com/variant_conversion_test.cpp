@@ -1,4 +1,5 @@
 #include "excel/com/variant_conversion.hpp"
+#include "com/counted_dispatch.hpp"
 #include "excel/com/wide_text.hpp"
 
 #include <excel/automation_error.hpp>
@@ -16,30 +17,6 @@ using excel::VarType;
 using excel::com::FromVariant;
 using excel::com::OwnedVariant;
 using excel::com::ToVariant;
-
-// A dispatch object that only counts its references.
-class CountedDispatch : public IDispatch {
-public:
-    ULONG references = 1;
-
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
-        if (iid == IID_IUnknown || iid == IID_IDispatch) {
-            *object = static_cast<IDispatch*>(this);
-            AddRef();
-            return S_OK;
-        }
-        *object = nullptr;
-        return E_NOINTERFACE;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++references; }
-    ULONG STDMETHODCALLTYPE Release() override { return --references; }
-    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override {
-        return E_NOTIMPL;
-    }
-};
 
 // An object of the library that stands for a dispatch pointer, holding a reference to it.
 class Held : public excel::Object {
