@@ -9,6 +9,7 @@
 // Usage: engine_charts_writer write|check FILE.xlsx
 //        (check also writes FILE.resaved.xlsx beside FILE)
 
+#include "chart_expectations.hpp"
 #include "report_writer_main.hpp"
 
 #include <excel/embedded.hpp>
@@ -304,16 +305,6 @@ void WriteChartWorkbook(vos::VosExcelReporting&, const std::shared_ptr<excel::Ap
     book->Close(false);
 }
 
-std::string Numbers(const std::vector<double>& numbers) {
-    std::string text = "{";
-    for (double number : numbers) {
-        char buffer[32];
-        std::snprintf(buffer, sizeof buffer, "%s%g", text.size() > 1 ? "," : "", number);
-        text += buffer;
-    }
-    return text + "}";
-}
-
 // "" when the object stands in the frame, else what was expected and found.
 template <class Placed>
 std::string Misplaced(const Frame& frame, Placed& object) {
@@ -321,48 +312,21 @@ std::string Misplaced(const Frame& frame, Placed& object) {
     const std::vector<double> expected{frame.left, frame.top, frame.width, frame.height};
     for (std::size_t i = 0; i < found.size(); ++i) {
         if (std::abs(found[i] - expected[i]) >= 0.01)
-            return "placed at " + Numbers(expected) + ", found " + Numbers(found);
+            return "placed at " + conformance::NumbersText(expected) + ", found " + conformance::NumbersText(found);
     }
     return "";
 }
 
-// What one chart reads back, each expectation named after the chart.
-class ChartCheck {
+// What one chart reads back, each expectation named after the chart, and where it stands.
+class ChartCheck : public conformance::ChartExpectations {
 public:
-    ChartCheck(conformance::Failures& failures, excel::Worksheet& sheet, int32_t index, int32_t type, const Frame& frame)
-        : failures_(failures), name_(sheet.Name() + " chart " + std::to_string(index)) {
-        const int32_t count = sheet.ChartObjects()->Count();
-        Expect(index <= count, "exists (" + std::to_string(count) + " charts)");
-        if (index > count)
+    ChartCheck(conformance::Failures& failures, excel::Worksheet& sheet, int32_t index, int32_t type,
+               const Frame& frame)
+        : ChartExpectations(failures, sheet, index, type) {
+        if (!*this)
             return;
-        object_ = sheet.ChartObjects(Variant(index));
-        chart_ = object_->Chart();
-        Expect(chart_->ChartType() == type, "type " + std::to_string(type) + ", found " +
-                                                std::to_string(chart_->ChartType()));
         const std::string misplaced = Misplaced(frame, *object_);
         Expect(misplaced.empty(), misplaced);
-    }
-
-    explicit operator bool() const { return chart_ != nullptr; }
-    excel::ChartObject& Object() { return *object_; }
-    excel::Chart& Chart() { return *chart_; }
-
-    void Expect(bool holds, const std::string& expectation) { failures_.Expect(holds, name_ + ": " + expectation); }
-
-    // The series at position, by its formula, its name and its values.
-    std::shared_ptr<excel::Series> Series(int32_t position, const std::string& formula, const std::string& name,
-                                          const std::vector<double>& values) {
-        const int32_t count = chart_->SeriesCollection()->Count();
-        const std::string where = "series " + std::to_string(position);
-        Expect(position <= count, where + " exists (" + std::to_string(count) + " series)");
-        if (position > count)
-            return nullptr;
-        auto series = chart_->SeriesCollection(Variant(position));
-        Expect(series->Formula() == formula, where + " formula " + formula + ", found " + series->Formula());
-        Expect(series->Name() == name, where + " name '" + name + "', found '" + series->Name() + "'");
-        const auto found = Elements(series->Values());
-        Expect(found == values, where + " values " + Numbers(values) + ", found " + Numbers(found));
-        return series;
     }
 
     void Scale(int32_t type, int32_t group, double minimum, double maximum, double major) {
@@ -370,11 +334,12 @@ public:
         const std::string where = "axis " + std::to_string(type) + "/" + std::to_string(group);
         Expect(!axis->MinimumScaleIsAuto() && !axis->MaximumScaleIsAuto(), where + " fixed minimum and maximum");
         Expect(axis->MinimumScale() == minimum && axis->MaximumScale() == maximum,
-               where + " from " + Numbers({minimum, maximum}) + ", found " +
-                   Numbers({axis->MinimumScale(), axis->MaximumScale()}));
+               where + " from " + conformance::NumbersText({minimum, maximum}) + ", found " +
+                   conformance::NumbersText({axis->MinimumScale(), axis->MaximumScale()}));
         if (major > 0) {
             Expect(!axis->MajorUnitIsAuto() && axis->MajorUnit() == major,
-                   where + " major unit " + Numbers({major}) + ", found " + Numbers({axis->MajorUnit()}));
+                   where + " major unit " + conformance::NumbersText({major}) + ", found " +
+                       conformance::NumbersText({axis->MajorUnit()}));
         }
     }
 
@@ -390,23 +355,9 @@ public:
     void TitleFont(int32_t start, int32_t length, double size, bool bold) {
         auto font = chart_->ChartTitle()->Characters(start, length)->Font();
         Expect(font->Size().ToDouble() == size && font->Bold().ToBool() == bold,
-               "title characters " + std::to_string(start) + ".. " + Numbers({size}) + " points" +
+               "title characters " + std::to_string(start) + ".. " + conformance::NumbersText({size}) + " points" +
                    (bold ? ", bold" : ", not bold"));
     }
-
-    static std::vector<double> Elements(const Variant& values) {
-        std::vector<double> numbers;
-        for (const Variant& element : values.Array().Elements()) {
-            numbers.push_back(element.IsEmpty() ? std::nan("") : element.ToDouble());
-        }
-        return numbers;
-    }
-
-private:
-    conformance::Failures& failures_;
-    std::string name_;
-    std::shared_ptr<excel::ChartObject> object_;
-    std::shared_ptr<excel::Chart> chart_;
 };
 
 void CheckColumnChart(conformance::Failures& failures, excel::Worksheet& sheet) {
@@ -414,8 +365,8 @@ void CheckColumnChart(conformance::Failures& failures, excel::Worksheet& sheet) 
     if (!check)
         return;
     check.Expect(check.Object().Placement() == excel::xlMove, "moves with cells but is not sized");
-    auto north = check.Series(1, "=SERIES(Sales!$B$1,Sales!$A$2:$A$7,Sales!$B$2:$B$7,1)", "North",
-                              Column(&Month::north));
+    auto north =
+        check.Series(1, "=SERIES(Sales!$B$1,Sales!$A$2:$A$7,Sales!$B$2:$B$7,1)", "North", Column(&Month::north));
     check.Series(2, "=SERIES(Sales!$C$1,Sales!$A$2:$A$7,Sales!$C$2:$C$7,2)", "South", Column(&Month::south));
     check.Series(3, "=SERIES(Sales!$D$1,Sales!$A$2:$A$7,Sales!$D$2:$D$7,3)", "West", Column(&Month::west));
     if (north) {
@@ -430,11 +381,11 @@ void CheckColumnChart(conformance::Failures& failures, excel::Worksheet& sheet) 
     auto group = check.Chart().ChartGroups(1);
     check.Expect(group->GapWidth() == 75 && group->Overlap() == 10, "gap width 75, overlap 10");
     auto names = check.Chart().Axes(excel::xlCategory)->CategoryNames().Array().Elements();
-    check.Expect(names.size() == kMonths.size() && names.front().ToString() == "Jan" && names.back().ToString() == "Jun",
-                 "categories Jan..Jun");
+    check.Expect(
+        names.size() == kMonths.size() && names.front().ToString() == "Jan" && names.back().ToString() == "Jun",
+        "categories Jan..Jun");
     check.Scale(excel::xlValue, excel::xlPrimary, 0, 600, 100);
-    check.Expect(check.Chart().Axes(excel::xlValue)->TickLabels()->NumberFormat() == "#,##0",
-                 "value labels #,##0");
+    check.Expect(check.Chart().Axes(excel::xlValue)->TickLabels()->NumberFormat() == "#,##0", "value labels #,##0");
     check.Title(kColumnTitle);
     if (check.Chart().HasTitle()) {
         check.TitleFont(1, static_cast<int32_t>(kColumnHeading.size()), 12, true);
@@ -455,10 +406,10 @@ void CheckTornadoChart(conformance::Failures& failures, excel::Worksheet& sheet)
     ChartCheck check(failures, sheet, 2, excel::xlBarStacked, kTornadoFrame);
     if (!check)
         return;
-    auto base = check.Series(1, "=SERIES(Sales!$B$10,Sales!$A$11:$A$15,Sales!$B$11:$B$15,1)", "Base",
-                             Column(&Driver::base));
-    auto down = check.Series(2, "=SERIES(Sales!$C$10,Sales!$A$11:$A$15,Sales!$C$11:$C$15,2)", "Down",
-                             Column(&Driver::down));
+    auto base =
+        check.Series(1, "=SERIES(Sales!$B$10,Sales!$A$11:$A$15,Sales!$B$11:$B$15,1)", "Base", Column(&Driver::base));
+    auto down =
+        check.Series(2, "=SERIES(Sales!$C$10,Sales!$A$11:$A$15,Sales!$C$11:$C$15,2)", "Down", Column(&Driver::down));
     check.Series(3, "=SERIES(Sales!$D$10,Sales!$A$11:$A$15,Sales!$D$11:$D$15,3)", "Up", Column(&Driver::up));
     if (base) {
         check.Expect(base->Interior()->ColorIndex().ToInt() == excel::xlColorIndexNone &&
@@ -472,7 +423,8 @@ void CheckTornadoChart(conformance::Failures& failures, excel::Worksheet& sheet)
     check.Expect(check.Chart().ChartGroups(1)->GapWidth() == 40, "gap width 40");
     auto category = check.Chart().Axes(excel::xlCategory);
     check.Expect(category->ReversePlotOrder(), "categories in reverse order");
-    check.Expect(category->Crosses() == excel::xlAxisCrossesMaximum, "value axis crosses the categories at their maximum");
+    check.Expect(category->Crosses() == excel::xlAxisCrossesMaximum,
+                 "value axis crosses the categories at their maximum");
     check.Expect(category->TickLabelPosition() == excel::xlTickLabelPositionLow, "category labels low");
     check.Expect(check.Chart().Axes(excel::xlValue)->Crosses() == excel::xlAxisCrossesAutomatic,
                  "category axis crosses the values automatically");
@@ -489,32 +441,35 @@ void CheckScatterChart(conformance::Failures& failures, excel::Worksheet& sheet)
                               "South against North", Column(&Month::south));
     auto west = check.Series(2, "=SERIES(Sales!$D$1,Sales!$B$2:$B$7,Sales!$D$2:$D$7,2)", "West", Column(&Month::west));
     if (south) {
-        check.Expect(ChartCheck::Elements(south->XValues()) == Column(&Month::north), "South's X values are North's");
+        check.Expect(conformance::NumberElements(south->XValues()) == Column(&Month::north),
+                     "South's X values are North's");
         check.Expect(south->MarkerStyle() == excel::xlMarkerStyleDiamond && south->MarkerSize() == 7,
                      "South diamonds of 7 points");
         check.Expect(south->MarkerForegroundColor() == kNavy && south->MarkerBackgroundColor() == kLavender,
                      "South markers navy on lavender");
     }
     if (west) {
-        check.Expect(west->MarkerStyle() == excel::xlMarkerStyleStar && west->MarkerSize() == 9, "West stars of 9 points");
-        check.Expect(west->MarkerBackgroundColorIndex() == excel::xlColorIndexNone &&
-                         west->MarkerForegroundColor() == kRed,
-                     "West stars red, without fill");
+        check.Expect(west->MarkerStyle() == excel::xlMarkerStyleStar && west->MarkerSize() == 9,
+                     "West stars of 9 points");
+        check.Expect(
+            west->MarkerBackgroundColorIndex() == excel::xlColorIndexNone && west->MarkerForegroundColor() == kRed,
+            "West stars red, without fill");
     }
     check.Scale(excel::xlCategory, excel::xlPrimary, 400, 550, 50);
     check.Scale(excel::xlValue, excel::xlPrimary, 200, 400, 50);
-    check.Expect(check.Chart().Axes(excel::xlCategory)->TickLabels()->Orientation() ==
-                     excel::xlTickLabelOrientationUpward,
-                 "X labels read upward");
+    check.Expect(
+        check.Chart().Axes(excel::xlCategory)->TickLabels()->Orientation() == excel::xlTickLabelOrientationUpward,
+        "X labels read upward");
 }
 
 void CheckLineChart(conformance::Failures& failures, excel::Worksheet& sheet) {
     ChartCheck check(failures, sheet, 4, excel::xlLineMarkers, kLineFrame);
     if (!check)
         return;
-    auto north = check.Series(1, "=SERIES(Sales!$B$1,Sales!$A$2:$A$7,Sales!$B$2:$B$7,1)", "North", Column(&Month::north));
-    auto share = check.Series(2, "=SERIES(Sales!$E$1,Sales!$A$2:$A$7,Sales!$E$2:$E$7,2)", "Share %",
-                              Column(&Month::share));
+    auto north =
+        check.Series(1, "=SERIES(Sales!$B$1,Sales!$A$2:$A$7,Sales!$B$2:$B$7,1)", "North", Column(&Month::north));
+    auto share =
+        check.Series(2, "=SERIES(Sales!$E$1,Sales!$A$2:$A$7,Sales!$E$2:$E$7,2)", "Share %", Column(&Month::share));
     if (north && share) {
         check.Expect(north->AxisGroup() == excel::xlPrimary && share->AxisGroup() == excel::xlSecondary,
                      "North on the primary axes, Share % on the secondary");

@@ -10,6 +10,7 @@
 // Usage: report_charts_writer write|check FILE.xlsx
 //        (check also writes FILE.resaved.xlsx beside FILE)
 
+#include "chart_expectations.hpp"
 #include "report_writer_main.hpp"
 
 #include <excel/embedded.hpp>
@@ -30,6 +31,8 @@ namespace {
 using excel::Variant;
 using Numbers = std::vector<double>;
 using Texts = std::vector<std::string>;
+using conformance::NumberElements;
+using conformance::NumbersText;
 
 const std::string kApplication = "MyApp";
 constexpr int32_t kChinese = 4;
@@ -302,25 +305,6 @@ void WriteChartWorkbook(vos::VosExcelReporting& reporting, const std::shared_ptr
 
 // ---- Reading the file back ----
 
-std::string Text(const Numbers& numbers) {
-    std::string text = "{";
-    for (double number : numbers) {
-        char buffer[32];
-        std::snprintf(buffer, sizeof buffer, "%s%.15g", text.size() > 1 ? "," : "", number);
-        text += buffer;
-    }
-    return text + "}";
-}
-
-Numbers Elements(const Variant& values) {
-    Numbers numbers;
-    if (!values.IsArray())
-        return numbers;
-    for (const Variant& element : values.Array().Elements())
-        numbers.push_back(element.IsEmpty() ? std::nan("") : element.ToDouble());
-    return numbers;
-}
-
 Texts Strings(const Variant& values) {
     Texts texts;
     if (!values.IsArray())
@@ -360,45 +344,23 @@ std::string Reference(const std::string& sheet, const std::string& address) {
 }
 
 // What one chart reads back, each expectation named after the chart.
-class ChartCheck {
+class ChartCheck : public conformance::ChartExpectations {
 public:
     ChartCheck(conformance::Failures& failures, excel::Worksheet& sheet, int32_t index, int32_t type, double width,
                bool chinese)
-        : failures_(failures), name_(sheet.Name() + " chart " + std::to_string(index)), chinese_(chinese) {
-        object_ = sheet.ChartObjects(Variant(index));
-        chart_ = object_->Chart();
-        Expect(chart_->ChartType() == type,
-               "type " + std::to_string(type) + ", found " + std::to_string(chart_->ChartType()));
+        : ChartExpectations(failures, sheet, index, type), chinese_(chinese) {
+        if (!*this)
+            return;
         Expect(object_->Placement() == excel::xlMove, "moves with cells but is not sized");
-        Expect(
-            object_->Left() == 0 && object_->Width() == width,
-            "at the left edge, " + Text({width}) + " points wide, found " + Text({object_->Left(), object_->Width()}));
+        Expect(object_->Left() == 0 && object_->Width() == width, "at the left edge, " + NumbersText({width}) +
+                                                                      " points wide, found " +
+                                                                      NumbersText({object_->Left(), object_->Width()}));
         const auto bottom = object_->BottomRightCell();
         Expect(object_->Top() + object_->Height() == bottom->Top() + bottom->Height() - 0.5,
                "ends half a point above its last row's bottom");
     }
 
-    excel::ChartObject& Object() { return *object_; }
-    excel::Chart& Chart() { return *chart_; }
     double Size(double english, double chinese) const { return chinese_ ? chinese : english; }
-
-    void Expect(bool holds, const std::string& expectation) { failures_.Expect(holds, name_ + ": " + expectation); }
-
-    // The series at position, by its formula, its name and its values.
-    std::shared_ptr<excel::Series> Series(int32_t position, const std::string& formula, const std::string& name,
-                                          const Numbers& values) {
-        const int32_t count = chart_->SeriesCollection()->Count();
-        const std::string where = "series " + std::to_string(position);
-        Expect(position <= count, where + " exists (" + std::to_string(count) + " series)");
-        if (position > count)
-            return nullptr;
-        auto series = chart_->SeriesCollection(Variant(position));
-        Expect(series->Formula() == formula, where + " formula " + formula + ", found " + series->Formula());
-        Expect(series->Name() == name, where + " name '" + name + "', found '" + series->Name() + "'");
-        const auto found = Elements(series->Values());
-        Expect(found == values, where + " values " + Text(values) + ", found " + Text(found));
-        return series;
-    }
 
     // Markers of the series' number: shape, 5 points, its colour inside, outlined in it (black for
     // 6 to 9), and no fill in a star.
@@ -451,12 +413,12 @@ public:
         const int32_t headLength = CountOf(head);
         const auto headFont = title->Characters(1, headLength)->Font();
         Expect(headFont->Size().ToDouble() == Size(12, 14) && headFont->Bold().ToBool(),
-               "title " + Text({Size(12, 14)}) + " points, bold");
+               "title " + NumbersText({Size(12, 14)}) + " points, bold");
         if (subtitles.empty())
             return;
         const auto subFont = title->Characters(headLength + 1, -1)->Font();
         Expect(subFont->Size().ToDouble() == Size(8, 10) && !subFont->Bold().ToBool(),
-               "subtitles " + Text({Size(8, 10)}) + " points, not bold");
+               "subtitles " + NumbersText({Size(8, 10)}) + " points, not bold");
     }
 
     void Legend(bool framed) {
@@ -465,7 +427,7 @@ public:
             return;
         const auto legend = chart_->Legend();
         Expect(legend->Position() == excel::xlLegendPositionRight, "legend at the right");
-        Expect(legend->Font()->Size().ToDouble() == Size(8, 10), "legend " + Text({Size(8, 10)}) + " points");
+        Expect(legend->Font()->Size().ToDouble() == Size(8, 10), "legend " + NumbersText({Size(8, 10)}) + " points");
         const auto border = legend->Border();
         if (framed)
             Expect(border->LineStyle().ToInt() == excel::xlContinuous && border->Weight().ToInt() == excel::xlThin &&
@@ -489,7 +451,8 @@ public:
     // Labels in the axis font, at that orientation.
     void Labels(excel::Axis& axis, const std::string& where, int32_t orientation) {
         const auto labels = axis.TickLabels();
-        Expect(labels->Font()->Size().ToDouble() == Size(8, 10), where + " labels " + Text({Size(8, 10)}) + " points");
+        Expect(labels->Font()->Size().ToDouble() == Size(8, 10),
+               where + " labels " + NumbersText({Size(8, 10)}) + " points");
         Expect(labels->Orientation() == orientation, where + " labels at orientation " + std::to_string(orientation) +
                                                          ", found " + std::to_string(labels->Orientation()));
     }
@@ -513,10 +476,10 @@ public:
             const Numbers found{axis->MinimumScale(), axis->MaximumScale(), axis->MajorUnit()};
             Expect(!axis->MinimumScaleIsAuto() && !axis->MaximumScaleIsAuto() && !axis->MajorUnitIsAuto() &&
                        found == Numbers{minimum, maximum, unit},
-                   where + " scale " + Text({minimum, maximum, unit}) + ", found " + Text(found));
+                   where + " scale " + NumbersText({minimum, maximum, unit}) + ", found " + NumbersText(found));
         }
         Expect(axis->Crosses() == excel::xlAxisCrossesCustom && axis->CrossesAt() == kFarLowEnd,
-               where + " crossed at -1E+300, found " + Text({axis->CrossesAt()}));
+               where + " crossed at -1E+300, found " + NumbersText({axis->CrossesAt()}));
         Expect(axis->ScaleType() == excel::xlScaleLinear, where + " linear");
         const std::string shown = axis->TickLabels()->NumberFormat();
         Expect(shown == format, where + " labels " + format + ", found " + shown);
@@ -574,7 +537,7 @@ public:
             const Numbers expected{20, height * 0.5 - 25, width - 40, 50};
             const auto near = [](double found, double wanted) { return std::abs(found - wanted) < 0.01; };
             Expect(std::equal(place.begin(), place.end(), expected.begin(), near),
-                   where + " placed at " + Text(expected) + ", found " + Text(place));
+                   where + " placed at " + NumbersText(expected) + ", found " + NumbersText(place));
         }
     }
 
@@ -586,11 +549,7 @@ public:
     }
 
 private:
-    conformance::Failures& failures_;
-    std::string name_;
     bool chinese_;
-    std::shared_ptr<excel::ChartObject> object_;
-    std::shared_ptr<excel::Chart> chart_;
 };
 
 void CheckSalesColumns(conformance::Failures& failures, excel::Worksheet& sheet) {
@@ -627,7 +586,8 @@ void CheckExceedanceCurves(conformance::Failures& failures, excel::Worksheet& sh
             names[number - 1], values[number - 1]);
         if (!series)
             continue;
-        check.Expect(Elements(series->XValues()) == kReturnYears, "series " + std::to_string(number) + " x values");
+        check.Expect(NumberElements(series->XValues()) == kReturnYears,
+                     "series " + std::to_string(number) + " x values");
         check.Markers(*series, number);
         check.Line(*series, number, true);
     }
@@ -678,13 +638,13 @@ void CheckTornado(conformance::Failures& failures, excel::Worksheet& sheet, int3
     ChartCheck check(failures, sheet, index, excel::xlBarStacked, 428, chinese);
     const double height = bars <= 9 ? 300 : 300 + 16 * (std::min(bars, 16) - 9);
     check.Expect(check.Object().Height() >= height && check.Object().Height() < height + 16,
-                 "about " + Text({height}) + " points tall, found " + Text({check.Object().Height()}));
+                 "about " + NumbersText({height}) + " points tall, found " + NumbersText({check.Object().Height()}));
     const auto labels = sheet.Range(tornado.labelCell)->Resize(bars, 1)->Address();
     const auto pieces = TornadoPieces(tornado);
     for (int piece = 1; piece <= 4; ++piece) {
         const auto& values = pieces[piece - 1];
-        const std::string formula =
-            "=SERIES(," + Reference(sheet.Name(), labels) + "," + Text(values) + "," + std::to_string(piece) + ")";
+        const std::string formula = "=SERIES(," + Reference(sheet.Name(), labels) + "," + NumbersText(values) + "," +
+                                    std::to_string(piece) + ")";
         const auto series = check.Series(piece, formula, "Series" + std::to_string(piece), values);
         if (!series)
             continue;
