@@ -86,6 +86,22 @@ DISPID AskedId(IDispatch* dispatch, std::string_view member) {
     return id;
 }
 
+// The dispatch id of the member: from the ids of the object's interface already looked up, or
+// asked of the object (by IDispatchEx when it has no GetIDsOfNames, as script objects under Wine).
+DISPID IdOf(IDispatch* dispatch, const std::optional<GUID>& interfaceId, std::string_view member) {
+    if (!interfaceId) {
+        return AskedId(dispatch, member);
+    }
+    auto& ids = knownIds[*interfaceId];
+    const std::string key = Folded(member);
+    if (const auto known = ids.find(key); known != ids.end()) {
+        return known->second;
+    }
+    const DISPID id = AskedId(dispatch, member);
+    ids.emplace(key, id);
+    return id;
+}
+
 // The object's exception, with its code and text; a deferred text is filled in first.
 [[noreturn]] void ThrowException(EXCEPINFO& exception) {
     if (exception.pfnDeferredFillIn != nullptr) {
@@ -166,23 +182,8 @@ private:
 
 }  // namespace
 
-DISPID DispatchIdOf(IDispatch* dispatch, std::string_view member) {
-    const std::optional<GUID> interfaceId = InterfaceOf(dispatch);
-    if (!interfaceId) {
-        return AskedId(dispatch, member);
-    }
-    auto& ids = knownIds[*interfaceId];
-    const std::string key = Folded(member);
-    if (const auto known = ids.find(key); known != ids.end()) {
-        return known->second;
-    }
-    const DISPID id = AskedId(dispatch, member);
-    ids.emplace(key, id);
-    return id;
-}
-
 DispatchCaller::DispatchCaller(IDispatch* dispatch, const ObjectBridge& objects)
-    : dispatch_(dispatch), objects_(objects) {
+    : dispatch_(dispatch), objects_(objects), interface_(InterfaceOf(dispatch)) {
     dispatch_->AddRef();
 }
 
@@ -204,7 +205,7 @@ void DispatchCaller::Put(std::string_view member, const Variant& value, std::spa
 
 Variant DispatchCaller::Invoke(std::string_view member, WORD flags, std::span<const Argument> arguments,
                                const Variant* value) const {
-    const DISPID id = DispatchIdOf(dispatch_, member);
+    const DISPID id = IdOf(dispatch_, interface_, member);
     CallArguments callArguments(arguments, value, objects_);
     DISPPARAMS parameters = callArguments.Parameters(value != nullptr);
     OwnedVariant result;

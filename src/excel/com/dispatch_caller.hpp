@@ -47,11 +47,9 @@ private:
 
     IDispatch* dispatch_;
     const ObjectBridge& objects_;
+    // The interface the object's type information names, asked once; none without type information.
+    std::optional<GUID> interface_;
 };
-
-// The dispatch id of the member: from the ids of the object's interface already looked up, or
-// asked of the object (by IDispatchEx when it has no GetIDsOfNames, as script objects under Wine).
-DISPID DispatchIdOf(IDispatch* dispatch, std::string_view member);
 
 }  // namespace excel::com
 

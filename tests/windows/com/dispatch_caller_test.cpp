@@ -67,6 +67,7 @@ public:
     explicit Host(ITypeInfo* typeInfo = nullptr) : typeInfo_(typeInfo) {}
 
     int namesAsked = 0;
+    int typeInfoAsked = 0;
     LCID lastLocale = 0;
     WORD lastFlags = 0;
     UINT lastNamedCount = 0;
@@ -80,6 +81,7 @@ public:
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo** info) override {
+        ++typeInfoAsked;
         *info = typeInfo_;
         return typeInfo_ != nullptr ? S_OK : E_NOTIMPL;
     }
@@ -209,6 +211,9 @@ TEST(DispatchCaller, LooksEachNameUpOncePerInterface) {
     other.Get("Value");
     other.Put("Value", Variant(1.0));
     EXPECT_EQ(first.namesAsked + second.namesAsked, 1);
+    // Each caller asks its object's type once, not once a call.
+    EXPECT_EQ(first.typeInfoAsked, 1);
+    EXPECT_EQ(second.typeInfoAsked, 1);
     // Without type information every call asks.
     Host plain;
     DispatchCaller unknown(&plain, objects);
