@@ -5,6 +5,10 @@
 
 #include <cstdint>
 
+// windows.h defines RGB as a macro; the member of the same name is declared without it.
+#pragma push_macro("RGB")
+#undef RGB
+
 namespace excel {
 
 // The colour of a shape's fill or outline: an RGB Long (0x00BBGGRR), or a colour of the theme
@@ -20,3 +24,5 @@ public:
 };
 
 }  // namespace excel
+
+#pragma pop_macro("RGB")

@@ -2,6 +2,8 @@
 
 #include "excel/com/com_object.hpp"
 
+#include "excel/com/com_interfaces.hpp"
+
 #include <excel/automation_error.hpp>
 
 namespace excel::com {
@@ -13,7 +15,7 @@ constexpr int32_t TypeMismatch = 13;
 class ComObjectBridge final : public ObjectBridge {
 public:
     std::shared_ptr<Object> Wrap(IDispatch* dispatch) const override {
-        return dispatch == nullptr ? nullptr : std::make_shared<ComObject>(dispatch);
+        return dispatch == nullptr ? nullptr : TypedComObject(dispatch, TypeOf(dispatch));
     }
 
     IDispatch* Unwrap(const std::shared_ptr<Object>& object) const override {
@@ -31,7 +33,10 @@ public:
 
 }  // namespace
 
-DispatchHolder::DispatchHolder(IDispatch* dispatch) : caller_(dispatch, ComObjects()) {
+DispatchHolder::DispatchHolder(IDispatch* dispatch) : DispatchHolder(dispatch, TypeOf(dispatch)) {}
+
+DispatchHolder::DispatchHolder(IDispatch* dispatch, DispatchType type)
+    : caller_(dispatch, std::move(type), ComObjects()) {
     // The canonical IUnknown is what COM compares objects by; the dispatch pointer may differ
     // between two references to one object.
     dispatch->QueryInterface(IID_IUnknown, reinterpret_cast<void**>(&identity_));

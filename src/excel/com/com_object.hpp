@@ -15,8 +15,10 @@ namespace excel::com {
 // the interfaces already derive from Object, so this does not.
 class DispatchHolder {
 public:
-    // Takes a reference to the object, released when the holder goes.
+    // Takes a reference to the object, released when the holder goes; the type is asked of the
+    // object unless the caller knows it already.
     explicit DispatchHolder(IDispatch* dispatch);
+    DispatchHolder(IDispatch* dispatch, DispatchType type);
     virtual ~DispatchHolder();
     DispatchHolder(const DispatchHolder&) = delete;
     DispatchHolder& operator=(const DispatchHolder&) = delete;
@@ -24,6 +26,7 @@ public:
     IDispatch* Dispatch() const { return caller_.Dispatch(); }
     // The object's IUnknown: two holders of one automation object answer the same.
     const void* DispatchIdentity() const { return identity_; }
+    const DispatchType& Type() const { return caller_.Type(); }
 
 protected:
     const DispatchCaller& Caller() const { return caller_; }
@@ -36,12 +39,13 @@ private:
 // An automation object whose type the boundary does not know, as a value in a Variant.
 class ComObject final : public Object, public DispatchHolder {
 public:
-    explicit ComObject(IDispatch* dispatch) : DispatchHolder(dispatch) {}
+    using DispatchHolder::DispatchHolder;
     const void* Identity() const override { return DispatchIdentity(); }
 };
 
-// How objects cross between the boundary and automation: a dispatch pointer becomes a ComObject,
-// and only an object of this boundary has a dispatch pointer to hand back.
+// How objects cross between the boundary and automation: a dispatch pointer becomes the typed object
+// its type information names (a ComObject when it names none of the object model's interfaces), and
+// only an object of this boundary has a dispatch pointer to hand back.
 const ObjectBridge& ComObjects();
 
 }  // namespace excel::com

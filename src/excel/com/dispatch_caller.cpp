@@ -2,6 +2,7 @@
 
 #include "excel/com/dispatch_caller.hpp"
 
+#include "excel/com/member_name.hpp"
 #include "excel/com/wide_text.hpp"
 
 #include <excel/automation_error.hpp>
@@ -27,37 +28,6 @@ constexpr int32_t MemberNotFound = 438;
 constexpr int32_t ArgumentNotOptional = 449;
 constexpr int32_t WrongArgumentCount = 450;
 
-// Automation names compare without regard to case.
-std::string Folded(std::string_view name) {
-    std::string folded(name);
-    for (char& letter : folded) {
-        if (letter >= 'A' && letter <= 'Z') {
-            letter = static_cast<char>(letter - 'A' + 'a');
-        }
-    }
-    return folded;
-}
-
-// The interface the object's type information describes; none for an object without it.
-std::optional<GUID> InterfaceOf(IDispatch* dispatch) {
-    UINT count = 0;
-    if (dispatch->GetTypeInfoCount(&count) != S_OK || count == 0) {
-        return std::nullopt;
-    }
-    ITypeInfo* info = nullptr;
-    if (dispatch->GetTypeInfo(0, EnglishUnitedStates, &info) != S_OK || info == nullptr) {
-        return std::nullopt;
-    }
-    std::optional<GUID> id;
-    TYPEATTR* attributes = nullptr;
-    if (info->GetTypeAttr(&attributes) == S_OK) {
-        id = attributes->guid;
-        info->ReleaseTypeAttr(attributes);
-    }
-    info->Release();
-    return id;
-}
-
 struct GuidLess {
     bool operator()(const GUID& a, const GUID& b) const { return std::memcmp(&a, &b, sizeof(GUID)) < 0; }
 };
@@ -65,6 +35,7 @@ struct GuidLess {
 // The ids looked up so far, by interface and folded member name; one table per thread, as COM
 // objects live in the apartment of the thread that made them.
 thread_local std::map<GUID, std::map<std::string, DISPID>, GuidLess> knownIds;
+thread_local uint64_t invokeCount = 0;
 
 DISPID AskedId(IDispatch* dispatch, std::string_view member) {
     std::wstring name = WideFromUtf8(member);
@@ -93,7 +64,7 @@ DISPID IdOf(IDispatch* dispatch, const std::optional<GUID>& interfaceId, std::st
         return AskedId(dispatch, member);
     }
     auto& ids = knownIds[*interfaceId];
-    const std::string key = Folded(member);
+    const std::string key = FoldedMemberName(member);
     if (const auto known = ids.find(key); known != ids.end()) {
         return known->second;
     }
@@ -182,9 +153,38 @@ private:
 
 }  // namespace
 
-DispatchCaller::DispatchCaller(IDispatch* dispatch, const ObjectBridge& objects)
-    : dispatch_(dispatch), objects_(objects), interface_(InterfaceOf(dispatch)) {
+DispatchType TypeOf(IDispatch* dispatch) {
+    DispatchType type;
+    UINT count = 0;
+    ITypeInfo* info = nullptr;
+    if (dispatch->GetTypeInfoCount(&count) != S_OK || count == 0 ||
+        dispatch->GetTypeInfo(0, EnglishUnitedStates, &info) != S_OK || info == nullptr) {
+        return type;
+    }
+    TYPEATTR* attributes = nullptr;
+    if (info->GetTypeAttr(&attributes) == S_OK) {
+        type.interfaceId = attributes->guid;
+        info->ReleaseTypeAttr(attributes);
+    }
+    BSTR name = nullptr;
+    if (info->GetDocumentation(MEMBERID_NIL, &name, nullptr, nullptr, nullptr) == S_OK) {
+        type.name = Utf8FromBstr(name);
+        SysFreeString(name);
+        if (!type.name.empty() && type.name.front() == '_') {
+            type.name.erase(0, 1);
+        }
+    }
+    info->Release();
+    return type;
+}
+
+DispatchCaller::DispatchCaller(IDispatch* dispatch, DispatchType type, const ObjectBridge& objects)
+    : dispatch_(dispatch), type_(std::move(type)), objects_(objects) {
     dispatch_->AddRef();
+}
+
+uint64_t DispatchCaller::InvokeCount() {
+    return invokeCount;
 }
 
 DispatchCaller::~DispatchCaller() {
@@ -205,12 +205,13 @@ void DispatchCaller::Put(std::string_view member, const Variant& value, std::spa
 
 Variant DispatchCaller::Invoke(std::string_view member, WORD flags, std::span<const Argument> arguments,
                                const Variant* value) const {
-    const DISPID id = IdOf(dispatch_, interface_, member);
+    const DISPID id = IdOf(dispatch_, type_.interfaceId, member);
     CallArguments callArguments(arguments, value, objects_);
     DISPPARAMS parameters = callArguments.Parameters(value != nullptr);
     OwnedVariant result;
     EXCEPINFO exception{};
     UINT badArgument = 0;
+    ++invokeCount;
     const HRESULT outcome = dispatch_->Invoke(id, IID_NULL, EnglishUnitedStates, flags, &parameters,
                                               value != nullptr ? nullptr : result.get(), &exception, &badArgument);
     if (outcome == DISP_E_EXCEPTION) {

@@ -10,14 +10,26 @@
 // windows.h first: the OLE headers build on its types.
 #include <oaidl.h>
 
+#include <cstdint>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace excel::com {
 
 // One argument of a late-bound call; an omitted optional argument is none.
 using Argument = std::optional<Variant>;
+
+// What an automation object's type information says it is: its interface, by which the dispatch ids
+// of its members are kept, and the interface's name without Excel's leading underscore (Excel's
+// worksheet is a "_Worksheet"). An object without type information has neither.
+struct DispatchType {
+    std::optional<GUID> interfaceId;
+    std::string name;
+};
+
+DispatchType TypeOf(IDispatch* dispatch);
 
 // Late-bound calls on an automation object by member name, made as Excel's own clients make them:
 // locale 1033, the arguments in order and an omitted one as "parameter not found", a property put
@@ -28,12 +40,16 @@ using Argument = std::optional<Variant>;
 class DispatchCaller {
 public:
     // Takes a reference to the object, released when the caller goes.
-    DispatchCaller(IDispatch* dispatch, const ObjectBridge& objects);
+    DispatchCaller(IDispatch* dispatch, DispatchType type, const ObjectBridge& objects);
     ~DispatchCaller();
     DispatchCaller(const DispatchCaller&) = delete;
     DispatchCaller& operator=(const DispatchCaller&) = delete;
 
     IDispatch* Dispatch() const { return dispatch_; }
+    const DispatchType& Type() const { return type_; }
+
+    // How many calls the callers of this thread have made of IDispatch::Invoke.
+    static uint64_t InvokeCount();
 
     // A property's value; with arguments, a parameterised property (Cells(1, 2)).
     Variant Get(std::string_view member, std::span<const Argument> arguments = {}) const;
@@ -46,9 +62,8 @@ private:
                    const Variant* value) const;
 
     IDispatch* dispatch_;
+    DispatchType type_;
     const ObjectBridge& objects_;
-    // The interface the object's type information names, asked once; none without type information.
-    std::optional<GUID> interface_;
 };
 
 }  // namespace excel::com

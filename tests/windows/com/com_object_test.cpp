@@ -70,17 +70,18 @@ TEST(ComObject, ObjectsACallReturnsComeWrapped) {
     Node book("Book1", nullptr);
     Node sheet("Sheet1", &book);
     {
-        const excel::com::DispatchCaller caller(&sheet, ComObjects());
+        const excel::com::DispatchCaller caller(&sheet, excel::com::TypeOf(&sheet), ComObjects());
         const Variant parent = caller.Get("Parent");
         const auto wrapped = parent.As<ComObject>();
         ASSERT_NE(wrapped, nullptr);
         EXPECT_EQ(wrapped->Dispatch(), &book);
-        EXPECT_EQ(excel::com::DispatchCaller(wrapped->Dispatch(), ComObjects()).Get("Name"), Variant("Book1"));
+        EXPECT_EQ(excel::com::DispatchCaller(wrapped->Dispatch(), wrapped->Type(), ComObjects()).Get("Name"),
+                  Variant("Book1"));
     }
     EXPECT_EQ(book.references, 1u);
     EXPECT_EQ(sheet.references, 1u);
     // A parent of nothing comes as an empty object.
-    const excel::com::DispatchCaller caller(&book, ComObjects());
+    const excel::com::DispatchCaller caller(&book, excel::com::TypeOf(&book), ComObjects());
     EXPECT_EQ(caller.Get("Parent").ToObject(), nullptr);
 }
 

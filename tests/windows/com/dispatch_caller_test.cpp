@@ -155,7 +155,7 @@ void ExpectError(Call&& call, uint32_t code, const std::string& text) {
 
 TEST(DispatchCaller, PutsAndGetsAProperty) {
     Host host;
-    DispatchCaller caller(&host, objects);
+    DispatchCaller caller(&host, excel::com::TypeOf(&host), objects);
     caller.Put("Value", Variant(2.5));
     EXPECT_EQ(host.value, 2.5);
     EXPECT_EQ(host.lastFlags, DISPATCH_PROPERTYPUT);
@@ -170,14 +170,14 @@ TEST(DispatchCaller, PutsAndGetsAProperty) {
 
 TEST(DispatchCaller, HandsTheArgumentsOverInTheirOrder) {
     Host host;
-    DispatchCaller caller(&host, objects);
+    DispatchCaller caller(&host, excel::com::TypeOf(&host), objects);
     const Argument cell[] = {Variant(int32_t{3}), Variant(int32_t{7})};
     EXPECT_EQ(caller.Get("Cells", cell), Variant(int32_t{307}));
 }
 
 TEST(DispatchCaller, AnOmittedArgumentIsParameterNotFound) {
     Host host;
-    DispatchCaller caller(&host, objects);
+    DispatchCaller caller(&host, excel::com::TypeOf(&host), objects);
     const Argument both[] = {Variant("World"), Variant("!")};
     EXPECT_EQ(caller.Call("Greet", both), Variant("Hello, World!"));
     EXPECT_EQ(host.lastFlags, DISPATCH_METHOD);
@@ -188,13 +188,13 @@ TEST(DispatchCaller, AnOmittedArgumentIsParameterNotFound) {
 
 TEST(DispatchCaller, AnObjectsExceptionKeepsItsCodeAndText) {
     Host host;
-    DispatchCaller caller(&host, objects);
+    DispatchCaller caller(&host, excel::com::TypeOf(&host), objects);
     ExpectError([&] { caller.Call("Refuse"); }, 0x800A03ECu, "Unable to set the Value property of the Range class");
 }
 
 TEST(DispatchCaller, AutomationsFailuresAreTheRuntimesErrors) {
     Host host;
-    DispatchCaller caller(&host, objects);
+    DispatchCaller caller(&host, excel::com::TypeOf(&host), objects);
     ExpectError([&] { caller.Get("Colour"); }, 0x800A01B6u, "Object doesn't support this property or method");
     ExpectError([&] { caller.Get("Mistyped"); }, 0x800A000Du, "Type mismatch");
 }
@@ -204,8 +204,8 @@ TEST(DispatchCaller, LooksEachNameUpOncePerInterface) {
     InterfaceOnlyTypeInfo typeInfo(rangeInterface);
     Host first(&typeInfo);
     Host second(&typeInfo);
-    DispatchCaller one(&first, objects);
-    DispatchCaller other(&second, objects);
+    DispatchCaller one(&first, excel::com::TypeOf(&first), objects);
+    DispatchCaller other(&second, excel::com::TypeOf(&second), objects);
     one.Get("Value");
     one.Get("VALUE");
     other.Get("Value");
@@ -216,7 +216,7 @@ TEST(DispatchCaller, LooksEachNameUpOncePerInterface) {
     EXPECT_EQ(second.typeInfoAsked, 1);
     // Without type information every call asks.
     Host plain;
-    DispatchCaller unknown(&plain, objects);
+    DispatchCaller unknown(&plain, excel::com::TypeOf(&plain), objects);
     unknown.Get("Value");
     unknown.Get("Value");
     EXPECT_EQ(plain.namesAsked, 2);
@@ -225,7 +225,7 @@ TEST(DispatchCaller, LooksEachNameUpOncePerInterface) {
 TEST(DispatchCaller, HoldsAReferenceWhileItLives) {
     Host host;
     {
-        DispatchCaller caller(&host, objects);
+        DispatchCaller caller(&host, excel::com::TypeOf(&host), objects);
         EXPECT_EQ(host.references, 2u);
     }
     EXPECT_EQ(host.references, 1u);
