@@ -1,6 +1,7 @@
 #pragma once
 
-#include <excel/embedded.hpp>
+#include "embedded/test_application.hpp"
+
 #include <excel/excel.hpp>
 
 #include <gtest/gtest.h>
@@ -12,7 +13,7 @@
 class EngineTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        app = excel::embedded::CreateApplication();
+        app = TestApplication();
         book = app->Workbooks()->Add();
         sheet = book->Worksheets(1);
     }

@@ -3,7 +3,11 @@
 // chart, and cell comments, in two languages, with fixed and theme colours. Unit-testing mode
 // fixes the user, date and time, so builds for different systems must write the same workbook.
 //
-// Usage: report_parity_writer OUTPUT.xlsx
+// Usage: report_parity_writer [--through-automation] OUTPUT.xlsx
+//   --through-automation (Windows): the report library drives the engine's automation object through
+//   the object model over IDispatch, rather than the engine in-process.
+
+#include "engine_automation_object.hpp"
 
 #include <excel/embedded.hpp>
 #include <excel/excel.hpp>
@@ -83,12 +87,22 @@ void AddSheet(vos::VosExcelReportWorkbook& report, const std::string& name, cons
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 2) {
-        std::fputs("usage: report_parity_writer OUTPUT.xlsx\n", stderr);
+    const bool throughAutomation = argc == 3 && std::string(argv[1]) == "--through-automation";
+    if (argc != 2 && !throughAutomation) {
+        std::fputs("usage: report_parity_writer [--through-automation] OUTPUT.xlsx\n", stderr);
         return 2;
     }
+    const char* output = argv[argc - 1];
     try {
+#ifdef _WIN32
+        const auto app = throughAutomation ? EngineThroughAutomation() : excel::embedded::CreateApplication();
+#else
+        if (throughAutomation) {
+            std::fputs("error: automation needs the Windows build\n", stderr);
+            return 2;
+        }
         const auto app = excel::embedded::CreateApplication();
+#endif
         vos::VosExcelReporting reporting;
         reporting.SetUnitTestingMode(true);
         const auto english = reporting.NewReportWorkbook(app, "ParityApp");
@@ -99,7 +113,7 @@ int main(int argc, char** argv) {
         const auto chinese = reporting.NewReportWorkbook(app, "ParityApp", book, false, 4);
         AddSheet(*chinese, "中文", "风险报告");
         english->ActivateFirstWorksheetCreated();
-        book->SaveAs(argv[1]);
+        book->SaveAs(output);
         return 0;
     } catch (const std::exception& error) {
         std::fprintf(stderr, "error: %s\n", error.what());

@@ -1,5 +1,7 @@
 #include "embedded/engine_fixture.hpp"
 
+#include <excel/embedded.hpp>
+
 #include <filesystem>
 #include <string>
 #include <vector>

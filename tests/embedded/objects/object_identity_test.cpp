@@ -12,7 +12,7 @@ TEST_F(EngineTest, DifferentSheetsWorkbooksAndApplicationsAreDifferentObjects) {
     auto second = book->Worksheets()->Add();
     EXPECT_FALSE(excel::IsSameObject(sheet, second));
     EXPECT_FALSE(excel::IsSameObject(book, app->Workbooks()->Add()));
-    EXPECT_FALSE(excel::IsSameObject(app, excel::embedded::CreateApplication()));
+    EXPECT_FALSE(excel::IsSameObject(app, TestApplication()));
 }
 
 TEST_F(EngineTest, EmptyReferencesAreOnlyTheSameAsEachOther) {

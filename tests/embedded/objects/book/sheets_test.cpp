@@ -5,7 +5,7 @@
 using namespace excel;
 
 TEST(ApplicationTest, NewWorkbooksAreNamedBookNWithTheConfiguredSheets) {
-    auto app = embedded::CreateApplication();
+    auto app = TestApplication();
     EXPECT_EQ(app->Workbooks()->Count(), 0);
     EXPECT_EQ(app->ActiveWorkbook(), nullptr);
     app->SetSheetsInNewWorkbook(3);
@@ -21,13 +21,17 @@ TEST(ApplicationTest, NewWorkbooksAreNamedBookNWithTheConfiguredSheets) {
 }
 
 TEST(ApplicationTest, Settings) {
-    auto app = embedded::CreateApplication();
+    auto app = TestApplication();
     EXPECT_EQ(app->Version(), "16.0");
     EXPECT_EQ(app->SheetsInNewWorkbook(), 1);
     EXPECT_EQ(ErrorCodeOf([&] { app->SetSheetsInNewWorkbook(0); }), kRefused);
     EXPECT_EQ(ErrorCodeOf([&] { app->SetSheetsInNewWorkbook(256); }), kRefused);
     EXPECT_EQ(app->SheetsInNewWorkbook(), 1);
+#ifdef _WIN32
+    const char* user = std::getenv("USERNAME");
+#else
     const char* user = std::getenv("USER");
+#endif
     EXPECT_EQ(app->UserName(), user && *user ? user : "User");
     app->SetDisplayAlerts(false);
     EXPECT_FALSE(app->DisplayAlerts());
