@@ -49,7 +49,8 @@ void FillTable(Worksheet& sheet, int32_t first, int32_t seed) {
 
 // The A1 reference of a table column's numbers on the sheet, as a series takes it.
 std::string ColumnReference(Worksheet& sheet, int32_t column) {
-    return "='" + sheet.Name() + "'!" + sheet.Range(sheet.Cells(2, column), sheet.Cells(rowCount + 1, column))->Address();
+    return "='" + sheet.Name() + "'!" +
+           sheet.Range(sheet.Cells(2, column), sheet.Cells(rowCount + 1, column))->Address();
 }
 
 // One series for each of the table's value columns, named by its header.
@@ -67,8 +68,7 @@ void AddSeries(Chart& chart, Worksheet& sheet, int32_t first, bool scatter) {
 void AddCharts(Worksheet& sheet) {
     auto column = sheet.Shapes()->AddChart(xlColumnClustered, 500, 10, 420, 250)->Chart();
     AddSeries(*column, sheet, 1, false);
-    column->Axes(xlCategory)->SetCategoryNames(
-        Variant(sheet.Range(sheet.Cells(2, 1), sheet.Cells(rowCount + 1, 1))));
+    column->Axes(xlCategory)->SetCategoryNames(Variant(sheet.Range(sheet.Cells(2, 1), sheet.Cells(rowCount + 1, 1))));
     column->SetHasTitle(true);
     column->ChartTitle()->SetText("Columns of " + sheet.Name());
     auto scatter = sheet.Shapes()->AddChart(xlXYScatter, 500, 280, 420, 250)->Chart();

@@ -7,8 +7,7 @@
 //   --through-automation (Windows): the report library drives the engine's automation object through
 //   the object model over IDispatch, rather than the engine in-process.
 
-#include "engine_automation_object.hpp"
-
+#include <excel/com.hpp>
 #include <excel/embedded.hpp>
 #include <excel/excel.hpp>
 #include <vos/reporting.hpp>
@@ -95,7 +94,8 @@ int main(int argc, char** argv) {
     const char* output = argv[argc - 1];
     try {
 #ifdef _WIN32
-        const auto app = throughAutomation ? EngineThroughAutomation() : excel::embedded::CreateApplication();
+        const auto app = throughAutomation ? excel::com::CreateApplication("VosExcelEngine.Application")
+                                           : excel::embedded::CreateApplication();
 #else
         if (throughAutomation) {
             std::fputs("error: automation needs the Windows build\n", stderr);

@@ -1,9 +1,10 @@
 // The boundary's tests over automation: each test's Application is a new instance of the engine's
-// automation object, driven through the object model over IDispatch.
+// automation object (registered by the test's runner), driven through the object model over IDispatch.
 
 #include "embedded/test_application.hpp"
-#include "engine_automation_object.hpp"
+
+#include <excel/com.hpp>
 
 std::shared_ptr<excel::Application> TestApplication() {
-    return EngineThroughAutomation();
+    return excel::com::CreateApplication("VosExcelEngine.Application");
 }
