@@ -7,9 +7,12 @@ OUT_DIR := out
 JOBS := $(shell nproc 2>/dev/null || echo 2)
 
 EXAMPLES := $(basename $(notdir $(wildcard examples/*.cpp)))
-BENCHMARKS := $(basename $(notdir $(wildcard bench/*.cpp)))
+# The benchmark through COM is built for Windows and runs under Wine: make bench-com.
+BENCHMARKS := $(filter-out com_table_bench,$(basename $(notdir $(wildcard bench/*.cpp))))
+WINDOWS_BUILD_DIR := build-windows
+WINE64 := $(firstword $(wildcard /usr/lib/wine/wine64) $(shell command -v wine64))
 
-.PHONY: all deps configure build test demo bench sanitize clean
+.PHONY: all deps configure build test demo bench bench-com sanitize clean
 
 all: build
 
@@ -46,10 +49,18 @@ bench: build
 	    $(BUILD_DIR)/bench/$$benchmark || exit 1; \
 	done
 
+# The report table through COM: the Windows build's benchmark, under Wine, with the engine's
+# automation server registered in a Wine prefix of that build's own.
+bench-com: deps
+	cmake --preset windows-cross -DVOS_BUILD_BENCHMARKS=ON
+	cmake --build $(WINDOWS_BUILD_DIR) --parallel $(JOBS) --target com_table_bench VosExcelEngine
+	bash tests/windows/run_with_engine_server $(WINE64) $(CURDIR)/$(WINDOWS_BUILD_DIR)/wine-prefix \
+	    $(WINDOWS_BUILD_DIR)/VosExcelEngine.dll $(WINDOWS_BUILD_DIR)/bench/com_table_bench.exe
+
 sanitize: deps
 	cmake --preset sanitize
 	cmake --build --preset sanitize --parallel $(JOBS)
 	ctest --preset sanitize --parallel $(JOBS)
 
 clean:
-	rm -rf $(BUILD_DIR) build-sanitize $(OUT_DIR)
+	rm -rf $(BUILD_DIR) build-sanitize $(WINDOWS_BUILD_DIR) $(OUT_DIR)
