@@ -1,5 +1,6 @@
 #include "excel/com/dispatch_caller.hpp"
 #include "com/counted_dispatch.hpp"
+#include "excel/com/served_type_info.hpp"
 #include "excel/com/wide_text.hpp"
 
 #include <excel/automation_error.hpp>
@@ -23,41 +24,13 @@ public:
 };
 const NoObjects objects;
 
-// Type information that only names its interface, as the caller asks of it.
-class InterfaceOnlyTypeInfo : public ITypeInfo {
-public:
-    explicit InterfaceOnlyTypeInfo(const GUID& id) { attributes_.guid = id; }
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID, void**) override { return E_NOINTERFACE; }
-    ULONG STDMETHODCALLTYPE AddRef() override { return 2; }
-    ULONG STDMETHODCALLTYPE Release() override { return 1; }
-    HRESULT STDMETHODCALLTYPE GetTypeAttr(TYPEATTR** attributes) override {
-        *attributes = &attributes_;
-        return S_OK;
-    }
-    void STDMETHODCALLTYPE ReleaseTypeAttr(TYPEATTR*) override {}
-    HRESULT STDMETHODCALLTYPE GetTypeComp(ITypeComp**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetFuncDesc(UINT, FUNCDESC**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetVarDesc(UINT, VARDESC**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetNames(MEMBERID, BSTR*, UINT, UINT*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetRefTypeOfImplType(UINT, HREFTYPE*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetImplTypeFlags(UINT, INT*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetIDsOfNames(LPOLESTR*, UINT, MEMBERID*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE Invoke(PVOID, MEMBERID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override {
-        return E_NOTIMPL;
-    }
-    HRESULT STDMETHODCALLTYPE GetDocumentation(MEMBERID, BSTR*, BSTR*, DWORD*, BSTR*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetDllEntry(MEMBERID, INVOKEKIND, BSTR*, BSTR*, WORD*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetRefTypeInfo(HREFTYPE, ITypeInfo**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE AddressOfMember(MEMBERID, INVOKEKIND, PVOID*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown*, REFIID, PVOID*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetMops(MEMBERID, BSTR*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetContainingTypeLib(ITypeLib**, UINT*) override { return E_NOTIMPL; }
-    void STDMETHODCALLTYPE ReleaseFuncDesc(FUNCDESC*) override {}
-    void STDMETHODCALLTYPE ReleaseVarDesc(VARDESC*) override {}
-
-private:
-    TYPEATTR attributes_{};
-};
+// The type information of an interface of no members, as a served object hands it out: it names the
+// interface the caller keeps dispatch ids by.
+ITypeInfo* InterfaceTypeInfo() {
+    static const excel::com::ServedInterface thing("Thing", GUID{0x12345678, 0x1234, 0x5678, {1, 2, 3, 4, 5, 6, 7, 8}},
+                                                   {}, "");
+    return excel::com::ServedTypeInfo(thing);
+}
 
 // An automation object that the test scripts, recording how it is called: Value (a property),
 // Cells(row, column) (a parameterised property), Greet(name, [suffix]) (a method), Refuse (fails
@@ -200,10 +173,8 @@ TEST(DispatchCaller, AutomationsFailuresAreTheRuntimesErrors) {
 }
 
 TEST(DispatchCaller, LooksEachNameUpOncePerInterface) {
-    GUID rangeInterface{0x12345678, 0x1234, 0x5678, {1, 2, 3, 4, 5, 6, 7, 8}};
-    InterfaceOnlyTypeInfo typeInfo(rangeInterface);
-    Host first(&typeInfo);
-    Host second(&typeInfo);
+    Host first(InterfaceTypeInfo());
+    Host second(InterfaceTypeInfo());
     DispatchCaller one(&first, excel::com::TypeOf(&first), objects);
     DispatchCaller other(&second, excel::com::TypeOf(&second), objects);
     one.Get("Value");
