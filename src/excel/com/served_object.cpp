@@ -12,6 +12,7 @@
 #include <cwchar>
 #include <exception>
 #include <map>
+#include <mutex>
 #include <new>
 #include <utility>
 #include <vector>
@@ -27,9 +28,15 @@ constexpr GUID IID_ServedObject = {0x3c5e8d41, 0x2b7a, 0x4e9f, {0x8a, 0x16, 0x5d
 
 class ServedObject;
 
+// The object behind one of the served IDispatch pointers.
+const std::shared_ptr<Object>& ServedBehind(IDispatch* served);
+
 // The served objects clients hold, by the object they stand for and the interface they serve it as.
+// Each lives in the apartment of the thread that made it, but threads of other apartments may serve
+// engines of their own at the same time, so the table is shared under a lock.
 using ServedKey = std::pair<const void*, const ServedInterface*>;
 std::map<ServedKey, ServedObject*> liveObjects;
+std::mutex liveObjectsLock;
 
 // The object's exception for its client: Excel's code and text, as Excel reports them.
 HRESULT Raise(EXCEPINFO* exception, int32_t code, const std::string& text) {
@@ -42,13 +49,41 @@ HRESULT Raise(EXCEPINFO* exception, int32_t code, const std::string& text) {
     return DISP_E_EXCEPTION;
 }
 
+// How objects cross to and from the clients of served objects; the objects it serves keep the owner.
+class ServedObjectBridge final : public ObjectBridge {
+public:
+    explicit ServedObjectBridge(std::shared_ptr<Object> owner = nullptr) : owner_(std::move(owner)) {}
+
+    std::shared_ptr<Object> Wrap(IDispatch* dispatch) const override {
+        if (dispatch == nullptr) {
+            return nullptr;
+        }
+        IDispatch* served = nullptr;
+        if (dispatch->QueryInterface(IID_ServedObject, reinterpret_cast<void**>(&served)) == S_OK) {
+            std::shared_ptr<Object> object = ServedBehind(served);
+            served->Release();
+            return object;
+        }
+        return ComObjects().Wrap(dispatch);
+    }
+
+    IDispatch* Unwrap(const std::shared_ptr<Object>& object) const override { return ServeObject(object, owner_); }
+
+private:
+    std::shared_ptr<Object> owner_;
+};
+
 class ServedObject final : public IDispatch {
 public:
-    ServedObject(std::shared_ptr<Object> object, const ServedInterface& served)
-        : object_(std::move(object)), served_(served), key_(object_->Identity(), &served) {
+    ServedObject(std::shared_ptr<Object> object, const ServedInterface& served, std::shared_ptr<Object> owner)
+        : object_(std::move(object)), owner_(std::move(owner)), served_(served), key_(object_->Identity(), &served) {
+        const std::lock_guard<std::mutex> guard(liveObjectsLock);
         liveObjects.emplace(key_, this);
     }
-    ~ServedObject() { liveObjects.erase(key_); }
+    ~ServedObject() {
+        const std::lock_guard<std::mutex> guard(liveObjectsLock);
+        liveObjects.erase(key_);
+    }
     ServedObject(const ServedObject&) = delete;
     ServedObject& operator=(const ServedObject&) = delete;
 
@@ -107,22 +142,24 @@ public:
             return DISP_E_MEMBERNOTFOUND;
         }
         try {
+            // What this call answers is reached from this object, and keeps what this one keeps.
+            const ServedObjectBridge objects(owner_ != nullptr ? owner_ : object_);
             // Automation hands the arguments over last first, and a put's value before them all.
             std::optional<Variant> value;
             std::vector<std::optional<Variant>> arguments;
             for (UINT index = count; index-- > 0;) {
                 const VARIANT& argument = parameters->rgvarg[index];
                 if (put && index == 0) {
-                    value = FromVariant(argument, ServedObjects());
+                    value = FromVariant(argument, objects);
                 } else if (argument.vt == VT_ERROR && argument.scode == DISP_E_PARAMNOTFOUND) {
                     arguments.emplace_back();
                 } else {
-                    arguments.emplace_back(FromVariant(argument, ServedObjects()));
+                    arguments.emplace_back(FromVariant(argument, objects));
                 }
             }
             const Variant answer = member->invoke(*object_, put, CallArguments(std::move(arguments), std::move(value)));
             if (result != nullptr) {
-                ToVariant(answer, *result, ServedObjects());
+                ToVariant(answer, *result, objects);
             }
             return S_OK;
         } catch (const DispatchFailure& failure) {
@@ -138,32 +175,22 @@ public:
 
 private:
     std::shared_ptr<Object> object_;
+    // The object this one was reached from first (the application), kept while clients hold this
+    // one: a COM server lives as long as any of its objects is held, so a client may let go of the
+    // application and keep working with a workbook.
+    std::shared_ptr<Object> owner_;
     const ServedInterface& served_;
     ServedKey key_;
     ULONG references_ = 1;
 };
 
-class ServedObjectBridge final : public ObjectBridge {
-public:
-    std::shared_ptr<Object> Wrap(IDispatch* dispatch) const override {
-        if (dispatch == nullptr) {
-            return nullptr;
-        }
-        ServedObject* served = nullptr;
-        if (dispatch->QueryInterface(IID_ServedObject, reinterpret_cast<void**>(&served)) == S_OK) {
-            std::shared_ptr<Object> object = served->Served();
-            served->Release();
-            return object;
-        }
-        return ComObjects().Wrap(dispatch);
-    }
-
-    IDispatch* Unwrap(const std::shared_ptr<Object>& object) const override { return ServeObject(object); }
-};
+const std::shared_ptr<Object>& ServedBehind(IDispatch* served) {
+    return static_cast<ServedObject*>(served)->Served();
+}
 
 }  // namespace
 
-IDispatch* ServeObject(const std::shared_ptr<Object>& object) {
+IDispatch* ServeObject(const std::shared_ptr<Object>& object, std::shared_ptr<Object> owner) {
     if (object == nullptr) {
         return nullptr;
     }
@@ -175,11 +202,14 @@ IDispatch* ServeObject(const std::shared_ptr<Object>& object) {
     if (served == nullptr) {
         ThrowRuntimeError(TypeMismatch);
     }
-    if (const auto live = liveObjects.find({object->Identity(), served}); live != liveObjects.end()) {
-        live->second->AddRef();
-        return live->second;
+    {
+        const std::lock_guard<std::mutex> guard(liveObjectsLock);
+        if (const auto live = liveObjects.find({object->Identity(), served}); live != liveObjects.end()) {
+            live->second->AddRef();
+            return live->second;
+        }
     }
-    return new ServedObject(object, *served);
+    return new ServedObject(object, *served, std::move(owner));
 }
 
 const ObjectBridge& ServedObjects() {
@@ -188,6 +218,7 @@ const ObjectBridge& ServedObjects() {
 }
 
 size_t LiveServedObjects() {
+    const std::lock_guard<std::mutex> guard(liveObjectsLock);
     return liveObjects.size();
 }
 

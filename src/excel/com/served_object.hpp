@@ -20,8 +20,10 @@ namespace excel::com {
 // IDispatch while a client holds it, so clients tell objects apart as COM does, by IUnknown.
 //
 // The object's IDispatch, with a reference for the caller; null for none. An object that implements
-// none of the object model's interfaces fails with the runtime's type mismatch.
-IDispatch* ServeObject(const std::shared_ptr<Object>& object);
+// none of the object model's interfaces fails with the runtime's type mismatch. A new served object
+// keeps its owner alive while clients hold it (the objects reached from an application keep the
+// application), as a COM server lives while any of its objects is held.
+IDispatch* ServeObject(const std::shared_ptr<Object>& object, std::shared_ptr<Object> owner = nullptr);
 
 // How objects cross between served objects and their clients: a served IDispatch gives back the
 // object behind it, any other dispatch pointer becomes an object of the boundary over automation.

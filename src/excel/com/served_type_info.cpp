@@ -7,6 +7,7 @@
 #include <cwchar>
 #include <map>
 #include <memory>
+#include <mutex>
 
 namespace excel::com {
 
@@ -99,6 +100,8 @@ private:
 
 ITypeInfo* ServedTypeInfo(const ServedInterface& served) {
     static std::map<const ServedInterface*, std::unique_ptr<InterfaceTypeInfo>> infos;
+    static std::mutex infosLock;
+    const std::lock_guard<std::mutex> guard(infosLock);
     auto& info = infos[&served];
     if (info == nullptr) {
         info = std::make_unique<InterfaceTypeInfo>(served);

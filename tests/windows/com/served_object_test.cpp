@@ -220,6 +220,16 @@ TEST_F(ServedObjectTest, TheEnginesRefusalsComeAsExceptionsWithExcelsCodeAndText
     EXPECT_EQ(sheet->Name(), "Sheet1");
 }
 
+TEST(ServedObject, ObjectsReachedFromTheApplicationKeepItAliveAsACOMServerLives) {
+    IDispatch* application = ServeObject(excel::embedded::CreateApplication());
+    const auto workbooks = excel::com::AttachApplication(application)->Workbooks();
+    application->Release();  // the client's last reference to the application itself
+    const auto book = workbooks->Add();
+    book->Worksheets(1)->Range("A1")->SetValue(Variant(3.0));
+    EXPECT_EQ(book->Worksheets(1)->Range("A1")->Value(), Variant(3.0));
+    EXPECT_EQ(book->Application()->Workbooks()->Count(), 1);
+}
+
 TEST_F(ServedObjectTest, AServedObjectComesBackAsTheEnginesOwnObject) {
     Served worksheet(sheet);
     const auto back = excel::com::ServedObjects().Wrap(worksheet.dispatch);

@@ -78,6 +78,12 @@ Check ws.Range("B2").Font.Bold, "Font.Bold set and read back"
 ws.Range("B2").NumberFormat = "0.00%"
 CheckEqual ws.Range("B2").NumberFormat, "0.00%", "NumberFormat set and read back"
 
+'' A workbook keeps its application alive after the client lets the application go, as Excel does.
+Dim kept
+Set kept = CreateObject("VosExcelEngine.Application").Workbooks.Add
+kept.Worksheets(1).Range("A1").Value = 5
+CheckEqual kept.Worksheets(1).Range("A1").Value, 5, "a workbook whose application the client let go"
+
 ' Refusals arrive with Excel's codes and texts.
 On Error Resume Next
 ws.Name = "bad/name"
