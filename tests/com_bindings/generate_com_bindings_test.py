@@ -163,8 +163,10 @@ class Server(unittest.TestCase):
                       body)
         self.assertIn("self.HasAxis(arguments.Int(0), arguments.Int(1, xlPrimary))", body)
 
-    def test_a_member_without_a_setter_refuses_a_put(self):
-        self.assertIn("if (put) {\n        return NotAProperty();", function(self.text, "Variant Range_Cells("))
+    def test_a_member_without_a_setter_refuses_a_put_unless_its_object_takes_it(self):
+        self.assertIn("if (put) {\n        return NotAProperty();", function(self.text, "Variant Range_Item("))
+        self.assertIn("if (put) {\n        return arguments.ToDefaultMember(Range_Cells(object, false, CallArguments()));",
+                      function(self.text, "Variant Range_Cells("))
 
     def test_left_out_arguments_take_the_headers_defaults(self):
         self.assertIn("self.BorderAround(arguments.Value(0), arguments.Int(1, xlThin));",

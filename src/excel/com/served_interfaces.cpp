@@ -66,13 +66,18 @@ std::string CallArguments::Text(size_t index) const {
 }
 
 Variant CallArguments::ToDefaultMember(const Variant& result) const {
+    if (putValue_ && Count() > 0) {
+        // Cells(2, 3) = 5: the arguments pick the object, and its own default member takes the value.
+        const Variant picked = CallArguments(values_, std::nullopt).ToDefaultMember(result);
+        return CallArguments({}, putValue_).ToDefaultMember(picked);
+    }
     const std::shared_ptr<excel::Object> object = result.IsObject() ? result.ToObject() : nullptr;
     const ServedInterface* served = object != nullptr ? ServedInterfaceOfObject(*object) : nullptr;
     const ServedMember* member = served != nullptr ? served->Member(DISPID_VALUE, Count() > 0) : nullptr;
     if (member == nullptr) {
         WrongArgumentCount();
     }
-    return member->invoke(*object, false, *this);
+    return member->invoke(*object, putValue_.has_value(), *this);
 }
 
 ServedInterface::ServedInterface(const char* name, const GUID& id, std::span<const ServedMember> members,

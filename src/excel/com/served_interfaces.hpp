@@ -69,7 +69,9 @@ public:
     }
 
     // These arguments applied to the default member of what a member answered, as Excel applies
-    // the arguments a member does not take itself: Cells(2, 3) is Cells.Item(2, 3).
+    // the arguments a member does not take itself: Cells(2, 3) is Cells.Item(2, 3). With a put's
+    // value, the arguments pick the object and its default member takes the value: Cells(2, 3) = 5
+    // puts the Value of Cells.Item(2, 3).
     Variant ToDefaultMember(const Variant& result) const;
 
 private:

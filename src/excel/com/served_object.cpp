@@ -157,7 +157,11 @@ public:
                     arguments.emplace_back(FromVariant(argument, objects));
                 }
             }
-            const Variant answer = member->invoke(*object_, put, CallArguments(std::move(arguments), std::move(value)));
+            const CallArguments call(std::move(arguments), std::move(value));
+            // A put on the default member with arguments (r(1, 2) = 5) puts the object they pick.
+            const Variant answer = id == DISPID_VALUE && put && call.Count() > 0
+                                       ? call.ToDefaultMember(Variant(object_))
+                                       : member->invoke(*object_, put, call);
             if (result != nullptr) {
                 ToVariant(answer, *result, objects);
             }

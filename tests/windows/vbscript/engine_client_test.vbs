@@ -44,6 +44,12 @@ CheckEqual block(1, 2).Address, "$C$2", "a range's default member with arguments
 CheckEqual wb.Worksheets(1).Name, "Sheet1", "Worksheets(1)"
 CheckEqual xl.Workbooks(1).Name, wb.Name, "Workbooks(1)"
 
+' A value put on a member with arguments goes to the default member of the object they pick.
+ws.Cells(3, 1) = 7
+CheckEqual ws.Range("A3").Value, 7, "Cells(3, 1) = 7"
+block(3, 3) = "corner"
+CheckEqual ws.Range("D4").Value, "corner", "a range's default member put with arguments"
+
 ' A range's default member without arguments is its value.
 ws.Range("A1").Value = "Hello"
 CheckEqual ws.Range("A1"), "Hello", "a range's default member without arguments (Value)"
