@@ -54,7 +54,7 @@ bench: build
 bench-com: deps
 	cmake --preset windows-cross -DVOS_BUILD_BENCHMARKS=ON
 	cmake --build $(WINDOWS_BUILD_DIR) --parallel $(JOBS) --target com_table_bench VosExcelEngine
-	bash tests/windows/run_with_engine_server $(WINE64) $(CURDIR)/$(WINDOWS_BUILD_DIR)/wine-prefix \
+	bash tests/windows/run_with_servers $(WINE64) $(CURDIR)/$(WINDOWS_BUILD_DIR)/wine-prefix \
 	    $(WINDOWS_BUILD_DIR)/VosExcelEngine.dll $(WINDOWS_BUILD_DIR)/bench/com_table_bench.exe
 
 sanitize: deps

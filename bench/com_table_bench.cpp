@@ -4,7 +4,7 @@
 // (VosExcelEngine.Application) through the object model over IDispatch, in the same run. Prints,
 // for each, the fastest of three builds, the IDispatch::Invoke calls the build made (counted by the
 // boundary over automation) and the time of the save. Windows only; under Wine, run it with the
-// engine's server registered (tests/windows/run_with_engine_server).
+// engine's server registered (tests/windows/run_with_servers).
 //
 // Usage: com_table_bench [ROWS]   (default 10,000 interior rows)
 

@@ -3,9 +3,11 @@
 // chart, and cell comments, in two languages, with fixed and theme colours. Unit-testing mode
 // fixes the user, date and time, so builds for different systems must write the same workbook.
 //
-// Usage: report_parity_writer [--through-automation] OUTPUT.xlsx
+// Usage: report_parity_writer [--through-automation] [--no-tornado] OUTPUT.xlsx
 //   --through-automation (Windows): the report library drives the engine's automation object through
 //   the object model over IDispatch, rather than the engine in-process.
+//   --no-tornado: without the tornado charts, which take arrays of doubles: the report a VBScript
+//   client builds (vbscript/report_client.vbs), as VBScript makes no such arrays.
 
 #include <excel/com.hpp>
 #include <excel/embedded.hpp>
@@ -25,7 +27,8 @@ const std::vector<double> kLossRatio{0.61, 0.74, 0.58, 0.92};
 const std::vector<double> kYears{10, 25, 50, 100, 250};
 const std::vector<double> kLosses{175, 410, 740, 1240, 2160};
 
-void AddSheet(vos::VosExcelReportWorkbook& report, const std::string& name, const std::string& title) {
+void AddSheet(vos::VosExcelReportWorkbook& report, const std::string& name, const std::string& title,
+              bool withTornado) {
     const auto sheet = report.NewReportWorksheet(name);
     sheet->AddHeader(title, excel::Variant(std::vector<std::string>{"Model\tCatastrophe 7.2", "Runs\t10,000"}));
     sheet->AddSeparatorRows(1);
@@ -74,6 +77,9 @@ void AddSheet(vos::VosExcelReportWorkbook& report, const std::string& name, cons
     trend->AddSecondaryValueYAxis("Loss ratio", 0, 1.0, 0.25, "0%");
     sheet->AddSeparatorRows(1);
 
+    if (!withTornado) {
+        return;
+    }
     const auto tornado = sheet->AddChart(vos::VosChartTornado, 400, sheet->RecommendedTornadoChartHeight(4));
     tornado->AddTornadoData(4, excel::SafeArray::Doubles(std::vector<double>{-48, -12.5, 4, -30}),
                             excel::SafeArray::Doubles(std::vector<double>{52, 30, 16, -5}));
@@ -86,9 +92,17 @@ void AddSheet(vos::VosExcelReportWorkbook& report, const std::string& name, cons
 }  // namespace
 
 int main(int argc, char** argv) {
-    const bool throughAutomation = argc == 3 && std::string(argv[1]) == "--through-automation";
-    if (argc != 2 && !throughAutomation) {
-        std::fputs("usage: report_parity_writer [--through-automation] OUTPUT.xlsx\n", stderr);
+    bool throughAutomation = false;
+    bool withTornado = true;
+    bool understood = argc >= 2;
+    for (int i = 1; i + 1 < argc; ++i) {
+        const std::string option = argv[i];
+        throughAutomation = throughAutomation || option == "--through-automation";
+        withTornado = withTornado && option != "--no-tornado";
+        understood = understood && (option == "--through-automation" || option == "--no-tornado");
+    }
+    if (!understood) {
+        std::fputs("usage: report_parity_writer [--through-automation] [--no-tornado] OUTPUT.xlsx\n", stderr);
         return 2;
     }
     const char* output = argv[argc - 1];
@@ -106,12 +120,12 @@ int main(int argc, char** argv) {
         vos::VosExcelReporting reporting;
         reporting.SetUnitTestingMode(true);
         const auto english = reporting.NewReportWorkbook(app, "ParityApp");
-        AddSheet(*english, "English", "Risk report");
+        AddSheet(*english, "English", "Risk report", withTornado);
         english->SetUseThemes(true);
-        AddSheet(*english, "English themed", "Risk report");
+        AddSheet(*english, "English themed", "Risk report", withTornado);
         const auto book = english->ExcelWorkbook();
         const auto chinese = reporting.NewReportWorkbook(app, "ParityApp", book, false, 4);
-        AddSheet(*chinese, "中文", "风险报告");
+        AddSheet(*chinese, "中文", "风险报告", withTornado);
         english->ActivateFirstWorksheetCreated();
         book->SaveAs(output);
         return 0;

@@ -1,0 +1,48 @@
+#ifdef _WIN32
+
+#include "automation/type_library.hpp"
+
+#include "automation/automation_server.hpp"
+
+#include <cstring>
+#include <map>
+#include <mutex>
+#include <stdexcept>
+
+namespace automation {
+
+namespace {
+
+struct GuidLess {
+    bool operator()(const GUID& a, const GUID& b) const { return std::memcmp(&a, &b, sizeof(GUID)) < 0; }
+};
+
+}  // namespace
+
+ITypeLib* ServerTypeLibrary() {
+    static ITypeLib* const library = [] {
+        wchar_t path[MAX_PATH] = {};
+        GetModuleFileNameW(ServerModule(), path, MAX_PATH);
+        ITypeLib* loaded = nullptr;
+        if (FAILED(LoadTypeLibEx(path, REGKIND_NONE, &loaded))) {
+            throw std::runtime_error("the server's type library could not be loaded");
+        }
+        return loaded;  // kept for the life of the module
+    }();
+    return library;
+}
+
+ITypeInfo* InterfaceTypeInfo(REFGUID interfaceId) {
+    static std::map<GUID, ITypeInfo*, GuidLess> infos;
+    static std::mutex infosLock;
+    const std::lock_guard<std::mutex> guard(infosLock);
+    ITypeInfo*& info = infos[interfaceId];
+    if (info == nullptr && FAILED(ServerTypeLibrary()->GetTypeInfoOfGuid(interfaceId, &info))) {
+        throw std::runtime_error("an interface the type library does not describe");
+    }
+    return info;
+}
+
+}  // namespace automation
+
+#endif  // _WIN32

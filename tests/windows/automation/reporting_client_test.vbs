@@ -1,0 +1,138 @@
+' VosXLRep7 as a VBScript client sees it, on the engine's automation object: the classes it hands
+' out, optional arguments left out taking their defaults, the classes it does not let clients create,
+' and its refusals as Err.Number and Err.Description, with the library's codes and texts and Excel's
+' passing through. Prints one line per failed check and "ALL CHECKS PASSED" when none failed.
+Option Explicit
+
+Dim failures
+failures = 0
+
+Sub Check(condition, what)
+    If Not condition Then
+        WScript.Echo "FAILED: " & what
+        failures = failures + 1
+    End If
+End Sub
+
+Sub CheckEqual(actual, expected, what)
+    Check actual = expected, what & ": expected [" & expected & "], got [" & actual & "]"
+End Sub
+
+' The error the statement before left: its number and text must be those given.
+Sub Refused(number, text, what)
+    CheckEqual Hex(Err.Number) & " " & Err.Description, Hex(number) & " " & text, what
+    Err.Clear
+End Sub
+
+Const VosChartColumn = 16
+Const VosChartXYMarkers = 32
+Const VosTopHeader = 0
+
+Dim reporting, xl, otherXl, report, sheet, table, chart, made, info
+Set reporting = CreateObject("VosXLRep7.VosExcelReporting")
+Set xl = CreateObject("VosExcelEngine.Application")
+reporting.UnitTestingMode = True
+Check reporting.UnitTestingMode, "UnitTestingMode reads back"
+
+' The classes the factory members hand out; optional arguments left out take their defaults.
+Set report = reporting.NewReportWorkbook(xl, "  ClientTest  ")
+CheckEqual TypeName(report), "_VosExcelReportWorkbook", "NewReportWorkbook's class"
+CheckEqual report.applicationIdentifier, "ClientTest", "the identifier, trimmed"
+CheckEqual report.DefaultLanguage, 9, "DefaultLanguage left out"
+Check Not report.UseThemes, "UseThemes off at first"
+Check reporting.WorkbookHasCreationTag(report.ExcelWorkbook), "the workbook's tag, identifier left out"
+Set sheet = report.NewReportWorksheet("Results")
+CheckEqual TypeName(sheet), "_VosExcelReportWorksheet", "NewReportWorksheet's class"
+Check reporting.WorksheetHasCreationTag(sheet.ExcelWorksheet, "clienttest"), "the sheet's tag, any case"
+CheckEqual sheet.CurrentCell.Address, "$A$1", "the cursor starts at A1"
+Set table = sheet.AddTable(3, 2, 1, 1)
+CheckEqual TypeName(table), "_VosExcelTable", "AddTable's class"
+CheckEqual table.TableRange.Address, "$A$1:$C$4", "a table without titles"
+table.WriteHeaderIndexNumbers 1
+CheckEqual table.LeftHeaderRange.Cells(1, 1).Value, "#1", "WriteHeaderIndexNumbers with its defaults"
+table.ConfigureColumn 1, "Width kept"
+CheckEqual table.TopHeaderRange.Cells(1, 1).Value, "Width kept", "ConfigureColumn with its defaults"
+sheet.AddSeparatorRows 1
+Set chart = sheet.AddChart(VosChartColumn)
+CheckEqual TypeName(chart), "_VosExcelChart", "AddChart's class"
+CheckEqual chart.ChartType, VosChartColumn, "the chart's type"
+CheckEqual chart.Chart.Parent.Width, 428, "AddChart's width left out"
+Check chart.Chart.Parent.Height >= 300 And chart.Chart.Parent.Height < 315.5, _
+      "AddChart's height left out, stretched to the next row boundary: " & chart.Chart.Parent.Height
+Check Not sheet.HasAvailableSpace(1048577, 1), "HasAvailableSpace past the last row"
+
+' The classes only the library makes.
+On Error Resume Next
+Set made = CreateObject("VosXLRep7.VosExcelReportWorkbook")
+Refused 429, "ActiveX component can't create object", "CreateObject of a report workbook"
+Set made = CreateObject("VosXLRep7.VosExcelTable")
+Refused 429, "ActiveX component can't create object", "CreateObject of a table"
+
+' The library's refusals, each with its code and text, in the order of the checks.
+Set made = reporting.NewReportWorkbook(Nothing, "App")
+Refused &H80040002, "xlApp", "NewReportWorkbook without xlApp"
+Set made = reporting.NewReportWorkbook(xl, "   ")
+Refused &H80040000, "applicationIdentifier", "NewReportWorkbook with a blank identifier"
+Set otherXl = CreateObject("VosExcelEngine.Application")
+Set made = reporting.NewReportWorkbook(otherXl, "App", report.ExcelWorkbook)
+Refused &H80040001, "existingWB", "NewReportWorkbook with another application's workbook"
+Set made = report.NewReportWorksheet("  ")
+Refused &H80040000, "worksheetName", "NewReportWorksheet with a blank name"
+Check reporting.WorkbookHasCreationTag(Nothing), "no workbook to test"
+Refused &H80040002, "wb", "WorkbookHasCreationTag without a workbook"
+sheet.AddSeparatorRows 0
+Refused &H80040003, "numRows", "AddSeparatorRows 0"
+Check sheet.HasAvailableSpace(1, 0), "a space test of no columns"
+Refused &H80040003, "numColumns", "HasAvailableSpace with no columns"
+Set sheet.CurrentCell = sheet.ExcelWorksheet.Range("A1:B2")
+Refused &H80040001, "CurrentCell must be a single cell.", "a cursor of four cells"
+info = Array("Model" & vbTab & "Cat")
+Set made = sheet.AddHeader("  ", info)
+Refused &H80040000, "mainTitle", "AddHeader with a blank title"
+Set made = sheet.AddTable(0, 2, 1, 1)
+Refused &H80040003, "numInteriorRows", "AddTable of no rows"
+Set made = sheet.AddTable(2, 0, 1, 1)
+Refused &H80040003, "numInteriorColumns", "AddTable of no columns"
+Set made = sheet.AddTable(2, 2, 6, 1)
+Refused &H80040003, "numHeaderRows", "AddTable of six header rows"
+Set made = sheet.AddTable(2, 2, 1, 6)
+Refused &H80040003, "numHeaderColumns", "AddTable of six header columns"
+Set made = sheet.AddChart(17)
+Refused &H80040003, "chartType", "AddChart of an unknown type"
+Set made = sheet.AddChart(VosChartColumn, 0)
+Refused &H80040003, "chartWidth", "AddChart of no width"
+Set made = sheet.AddChart(VosChartColumn, 100, -1)
+Refused &H80040003, "chartHeight", "AddChart of a negative height"
+made = sheet.RecommendedTornadoChartHeight(-1)
+Refused &H80040003, "numBars", "RecommendedTornadoChartHeight of -1 bars"
+Set made = sheet.AddComment(sheet.ExcelWorksheet.Range("H1"), " ", "Text")
+Refused &H80040000, "headerText", "AddComment without a header text"
+table.WriteHeaderItem 7, 1, "x"
+Refused &H80040003, "whichHeader", "WriteHeaderItem with an unknown header"
+Set made = chart.AddTitle("Before any data")
+Refused &H8004000B, "Operation can not be performed until the chart has at least one data series.", _
+        "AddTitle on a chart without series"
+Set made = chart.AddColumnData(Nothing)
+Refused &H80040002, "sourceDataRange", "AddColumnData without a range"
+Set made = chart.AddXYData(table.InteriorRange.Columns(1), table.InteriorRange.Columns(2))
+Refused &H8004000B, "Invalid type of data for chart's type.", "XY data on a column chart"
+Set made = chart.AddColumnData(table.InteriorRange.Columns(1), "First")
+Check Err.Number = 0, "AddColumnData of a column: " & Err.Description
+Set made = chart.AddValueXAxis("x")
+Refused &H8004000B, "This type of axis can not be added to this chart type.", "a value X axis on columns"
+Set made = chart.AddValueYAxis("y", 10, 5, 1)
+Refused &H80040001, "axisMaximum must be greater than axisMinimum.", "an axis whose maximum is below its minimum"
+Set made = chart.AddValueYAxis("y", 0, 10)
+Refused &H80040001, "axisMinimum, axisMaximum, and axisUnit must either all be specified or all be automatic.", _
+        "an axis with its unit left automatic"
+Set made = chart.AddSubTitle("No title yet")
+Refused &H8004000B, "The chart must have a ChartTitle to call this method.", "a subtitle without a title"
+' Excel's own refusals pass through unchanged.
+sheet.ExcelWorksheet.Name = "bad/name"
+Refused 1004, "You typed an invalid name for a sheet or chart.", "Excel's refusal of a sheet name"
+On Error GoTo 0
+
+If failures = 0 Then
+    WScript.Echo "ALL CHECKS PASSED"
+End If
+WScript.Quit failures
