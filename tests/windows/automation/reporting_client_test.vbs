@@ -127,6 +127,55 @@ Refused &H80040001, "axisMinimum, axisMaximum, and axisUnit must either all be s
         "an axis with its unit left automatic"
 Set made = chart.AddSubTitle("No title yet")
 Refused &H8004000B, "The chart must have a ChartTitle to call this method.", "a subtitle without a title"
+Dim topOnly, xy
+Set topOnly = sheet.AddTable(3, 2, 1, 0, "Top header only")
+topOnly.WriteHeaderItem 1, 1, "x"
+Refused &H80040001, "Table does not have a left header.", "a left-header item on a table without one"
+table.WriteHeaderPairedItem VosTopHeader, 1, "a", "b"
+Refused &H8004000B, "The header is not wide enough to display a paired item.", "a paired item in one header row"
+table.WriteHeaderMergedItem 1, 1, "x"
+Refused &H80040001, "This method can not be used for this combintation of table format and header.", _
+        "a merged item in the left header"
+table.WriteHeaderItem VosTopHeader, 3, "x"
+Refused &H80040003, "position", "a header item past the last column"
+table.WriteHeaderArray VosTopHeader, 1, Array()
+Refused &H80040001, "No values to write.", "an empty header array"
+table.WriteHeaderArray VosTopHeader, 2, Array("a", "b")
+Refused &H8004000B, "Not enough room in header to display values.", "a header array past the header's end"
+table.WriteHeaderIndexNumbers VosTopHeader, 1, 3
+Refused &H80040003, "numIndices", "more index numbers than header cells"
+table.WriteDataToColumn 3, Array(1)
+Refused &H80040003, "columnPosition", "data for a column past the last"
+table.WriteDataToColumn 1, 5
+Refused &H80040001, "dataArray must be an array.", "data that is no array"
+table.WriteDataToColumn 1, Array(1, 2, 3, 4)
+Refused &H8004000B, "Not enough rows to write dataArray.", "more data than rows"
+table.WriteDataToColumn 1, Array(1), 4
+Refused &H80040003, "startingRowPosition", "data from past the last row"
+Set made = table.AddComment(4, 1, "Header", "Main")
+Refused &H80040003, "interiorRowPosition", "a table comment past the last row"
+Set made = table.AddComment(1, 1, "Header", "  ")
+Refused &H80040000, "mainText", "a table comment without a main text"
+table.AddRowDividerLine 4, True
+Refused &H80040003, "position", "a row divider past the last row"
+table.AddCustomDivider Nothing
+Refused &H80040002, "borderObject", "a custom divider without a border"
+table.ConfigureColumn 3
+Refused &H80040003, "position", "configuring a column past the last"
+Set made = chart.AddColumnData(table.InteriorRange)
+Refused &H80040001, "sourceDataRange must be a single Excel row or column.", "column data of two columns"
+made = chart.DefaultSeriesColor(0)
+Refused &H80040003, "formattingIndex", "the colour of series 0"
+Set made = chart.AddTitle("  ")
+Refused &H80040000, "titleText", "a blank chart title"
+chart.AddWatermark " "
+Refused &H80040000, "primaryText", "a blank watermark"
+Set made = chart.AddValueYAxis("y", 0, 10, -1)
+Refused &H80040003, "axisUnit", "an axis of a negative unit"
+Set xy = sheet.AddChart(VosChartXYMarkers)
+Set made = xy.AddXYData(table.InteriorRange.Columns(1), table.InteriorRange.Rows(1))
+Refused &H80040001, "The x and y data ranges must be the same size.", "x and y ranges of different shapes"
+
 ' Excel's own refusals pass through unchanged.
 sheet.ExcelWorksheet.Name = "bad/name"
 Refused 1004, "You typed an invalid name for a sheet or chart.", "Excel's refusal of a sheet name"
