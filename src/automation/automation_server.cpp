@@ -5,69 +5,30 @@
 
 #include "automation/automation_server.hpp"
 
-#include "automation/type_library.hpp"
-#include "automation/vos_excel_reporting_object.hpp"
-#include "excel/com/server_registration.hpp"
-
 #include "automation/type_library_interfaces.hpp"
+#include "automation/vos_excel_reporting_object.hpp"
+#include "excel/com/server_module.hpp"
+#include "excel/com/server_registration.hpp"
 
 #include <olectl.h>
 
 #include <atomic>
-#include <new>
 
 namespace automation {
 
 namespace {
 
-HMODULE serverModule = nullptr;
 std::atomic<long> liveObjects{0};
-std::atomic<long> locks{0};
 
-// Makes VosExcelReporting, the only class clients create.
-class ReportingClassFactory final : public IClassFactory {
-public:
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
-        if (id == IID_IUnknown || id == IID_IClassFactory) {
-            *object = static_cast<IClassFactory*>(this);
-            return S_OK;
-        }
-        *object = nullptr;
-        return E_NOINTERFACE;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return 1; }  // one factory lives as long as the module
-    ULONG STDMETHODCALLTYPE Release() override { return 1; }
-
-    HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown* outer, REFIID id, void** object) override {
-        *object = nullptr;
-        if (outer != nullptr) {
-            return CLASS_E_NOAGGREGATION;
-        }
-        auto* reporting = new (std::nothrow) VosExcelReportingObject();
-        if (reporting == nullptr) {
-            return E_OUTOFMEMORY;
-        }
-        const HRESULT result = reporting->QueryInterface(id, object);
-        reporting->Release();
-        return result;
-    }
-    HRESULT STDMETHODCALLTYPE LockServer(BOOL lock) override {
-        automation::LockServer(lock != FALSE);
-        return S_OK;
-    }
-};
-
-ReportingClassFactory factory;
+excel::com::ClassFactory factory([]() -> IUnknown* {
+    return static_cast<_VosExcelReporting*>(new VosExcelReportingObject());
+});
 
 excel::com::ServerClass ReportingClass() {
     return {__uuidof(VosExcelReporting), L"VosXLRep7.VosExcelReporting", L"VosExcelReporting", LIBID_VosXLRep7, L"1.1"};
 }
 
 }  // namespace
-
-HMODULE ServerModule() {
-    return serverModule;
-}
 
 void ObjectMade() {
     ++liveObjects;
@@ -77,21 +38,13 @@ void ObjectGone() {
     --liveObjects;
 }
 
-void LockServer(bool lock) {
-    locks += lock ? 1 : -1;
-}
-
-bool ServerInUse() {
-    return liveObjects > 0 || locks > 0;
-}
-
 }  // namespace automation
 
 using namespace automation;
 
 BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
     if (reason == DLL_PROCESS_ATTACH) {
-        serverModule = instance;
+        excel::com::SetServerModule(instance);
         DisableThreadLibraryCalls(instance);
     }
     return TRUE;
@@ -106,13 +59,13 @@ STDAPI DllGetClassObject(REFCLSID classId, REFIID id, LPVOID* object) {
 }
 
 STDAPI DllCanUnloadNow() {
-    return ServerInUse() ? S_FALSE : S_OK;
+    return liveObjects > 0 || excel::com::ServerLocked() ? S_FALSE : S_OK;
 }
 
 // Registers the type library (its interfaces with the automation marshaler) and the creatable class.
 STDAPI DllRegisterServer() {
     wchar_t path[MAX_PATH] = {};
-    GetModuleFileNameW(ServerModule(), path, MAX_PATH);
+    GetModuleFileNameW(excel::com::ServerModule(), path, MAX_PATH);
     ITypeLib* library = nullptr;
     if (FAILED(LoadTypeLibEx(path, REGKIND_NONE, &library))) {
         return SELFREG_E_TYPELIB;
@@ -122,7 +75,7 @@ STDAPI DllRegisterServer() {
     if (FAILED(typeLibraryRegistered)) {
         return SELFREG_E_TYPELIB;
     }
-    return excel::com::RegisterServerClass(ServerModule(), ReportingClass()) ? S_OK : SELFREG_E_CLASS;
+    return excel::com::RegisterServerClass(excel::com::ServerModule(), ReportingClass()) ? S_OK : SELFREG_E_CLASS;
 }
 
 STDAPI DllUnregisterServer() {

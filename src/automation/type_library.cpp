@@ -2,7 +2,7 @@
 
 #include "automation/type_library.hpp"
 
-#include "automation/automation_server.hpp"
+#include "excel/com/server_module.hpp"
 
 #include <cstring>
 #include <map>
@@ -22,7 +22,7 @@ struct GuidLess {
 ITypeLib* ServerTypeLibrary() {
     static ITypeLib* const library = [] {
         wchar_t path[MAX_PATH] = {};
-        GetModuleFileNameW(ServerModule(), path, MAX_PATH);
+        GetModuleFileNameW(excel::com::ServerModule(), path, MAX_PATH);
         ITypeLib* loaded = nullptr;
         if (FAILED(LoadTypeLibEx(path, REGKIND_NONE, &loaded))) {
             throw std::runtime_error("the server's type library could not be loaded");

@@ -2,6 +2,7 @@
 // module to single-threaded apartments, and the ProgID that names it.
 
 #include "engine_automation/engine_server.hpp"
+#include "excel/com/server_module.hpp"
 #include "excel/com/server_registration.hpp"
 
 #include <olectl.h>
@@ -16,7 +17,7 @@ excel::com::ServerClass EngineClass() {
 }  // namespace
 
 STDAPI DllRegisterServer() {
-    return excel::com::RegisterServerClass(engine_automation::ServerModule(), EngineClass()) ? S_OK : SELFREG_E_CLASS;
+    return excel::com::RegisterServerClass(excel::com::ServerModule(), EngineClass()) ? S_OK : SELFREG_E_CLASS;
 }
 
 STDAPI DllUnregisterServer() {

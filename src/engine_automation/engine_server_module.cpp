@@ -1,48 +1,29 @@
-// The module of the engine's automation server: where COM finds its class and asks whether it may
-// unload it.
+// The module of the engine's automation server: where COM finds its class, which makes a new
+// instance of the engine with no workbook open (as each CreateObject("Excel.Application") starts a
+// new Excel), and asks whether it may unload it.
 
-#include "engine_automation/engine_class_factory.hpp"
 #include "engine_automation/engine_server.hpp"
 #include "excel/com/served_object.hpp"
+#include "excel/com/server_module.hpp"
 
-#include <atomic>
-
-namespace engine_automation {
+#include <excel/embedded.hpp>
 
 namespace {
 
-HMODULE serverModule = nullptr;
-std::atomic<long> locks{0};
-EngineClassFactory factory;
+excel::com::ClassFactory factory([] { return excel::com::ServeObject(excel::embedded::CreateApplication()); });
 
 }  // namespace
 
-HMODULE ServerModule() {
-    return serverModule;
-}
-
-void LockServer(bool lock) {
-    locks += lock ? 1 : -1;
-}
-
-bool ServerLocked() {
-    return locks > 0;
-}
-
-}  // namespace engine_automation
-
-using namespace engine_automation;
-
 BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
     if (reason == DLL_PROCESS_ATTACH) {
-        serverModule = instance;
+        excel::com::SetServerModule(instance);
         DisableThreadLibraryCalls(instance);
     }
     return TRUE;
 }
 
 STDAPI DllGetClassObject(REFCLSID classId, REFIID id, LPVOID* object) {
-    if (classId != CLSID_EngineApplication) {
+    if (classId != engine_automation::CLSID_EngineApplication) {
         *object = nullptr;
         return CLASS_E_CLASSNOTAVAILABLE;
     }
@@ -50,5 +31,5 @@ STDAPI DllGetClassObject(REFCLSID classId, REFIID id, LPVOID* object) {
 }
 
 STDAPI DllCanUnloadNow() {
-    return excel::com::LiveServedObjects() == 0 && !ServerLocked() ? S_OK : S_FALSE;
+    return excel::com::LiveServedObjects() == 0 && !excel::com::ServerLocked() ? S_OK : S_FALSE;
 }
