@@ -43,11 +43,7 @@ void ObjectGone() {
 using namespace automation;
 
 BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
-    if (reason == DLL_PROCESS_ATTACH) {
-        excel::com::SetServerModule(instance);
-        DisableThreadLibraryCalls(instance);
-    }
-    return TRUE;
+    return excel::com::KeepServerModule(instance, reason);
 }
 
 STDAPI DllGetClassObject(REFCLSID classId, REFIID id, LPVOID* object) {

@@ -15,8 +15,12 @@ std::atomic<long> locks{0};
 
 }  // namespace
 
-void SetServerModule(HMODULE module) {
-    serverModule = module;
+BOOL KeepServerModule(HINSTANCE instance, DWORD reason) {
+    if (reason == DLL_PROCESS_ATTACH) {
+        serverModule = instance;
+        DisableThreadLibraryCalls(instance);
+    }
+    return TRUE;
 }
 
 HMODULE ServerModule() {

@@ -13,7 +13,8 @@ namespace excel::com {
 // What an in-process automation server keeps of its module: the handle DllMain received (for the
 // path it registers and the resources it loads) and the locks clients hold through its class
 // factory. Each server links its own copy, so each keeps its own.
-void SetServerModule(HMODULE module);
+// What a server's DllMain does: keeps the module's handle when the module is loaded.
+BOOL KeepServerModule(HINSTANCE instance, DWORD reason);
 HMODULE ServerModule();
 bool ServerLocked();
 
