@@ -27,6 +27,7 @@ End Sub
 Const VosChartColumn = 16
 Const VosChartXYMarkers = 32
 Const VosTopHeader = 0
+Const VosLeftHeader = 1
 
 Dim reporting, xl, otherXl, report, sheet, table, chart, made, info
 Set reporting = CreateObject("VosXLRep7.VosExcelReporting")
@@ -175,6 +176,25 @@ Refused &H80040003, "axisUnit", "an axis of a negative unit"
 Set xy = sheet.AddChart(VosChartXYMarkers)
 Set made = xy.AddXYData(table.InteriorRange.Columns(1), table.InteriorRange.Rows(1))
 Refused &H80040001, "The x and y data ranges must be the same size.", "x and y ranges of different shapes"
+
+Check reporting.WorksheetHasCreationTag(Nothing), "no worksheet to test"
+Refused &H80040002, "ws", "WorksheetHasCreationTag without a worksheet"
+Set made = xy.AddXYData(Nothing, table.InteriorRange.Columns(2))
+Refused &H80040002, "xDataRange", "XY data without x values"
+Set made = xy.AddXYData(table.InteriorRange.Columns(1), Nothing)
+Refused &H80040002, "yDataRange", "XY data without y values"
+Dim square(1, 1)
+table.WriteDataToColumn 1, square
+Refused &H80040001, "dataArray must be a 1-dimensional array.", "data of two dimensions"
+table.WriteHeaderSummary VosLeftHeader, "Total"
+Refused &H80040001, "This method can not be used for this combintation of table format and header.", _
+        "a summary in the left header"
+Set made = report.NewReportWorksheet("Other")
+Set sheet.CurrentCell = made.ExcelWorksheet.Range("A1")
+Refused &H80040001, "CurrentCell must be on the report worksheet.", "a cursor on another sheet"
+Set sheet.CurrentCell = sheet.ExcelWorksheet.Cells(1048576, 1)
+Set made = sheet.AddTable(3, 2, 1, 1)
+Refused &H8004000B, "Requested report element can not fit in available space.", "a table below the last row"
 
 ' Excel's own refusals pass through unchanged.
 sheet.ExcelWorksheet.Name = "bad/name"
