@@ -183,6 +183,18 @@ Set made = xy.AddXYData(Nothing, table.InteriorRange.Columns(2))
 Refused &H80040002, "xDataRange", "XY data without x values"
 Set made = xy.AddXYData(table.InteriorRange.Columns(1), Nothing)
 Refused &H80040002, "yDataRange", "XY data without y values"
+Dim twoAreas
+Set twoAreas = xl.Union(table.InteriorRange.Cells(1, 1), table.InteriorRange.Cells(3, 1))
+Set made = chart.AddColumnData(twoAreas)
+Refused &H80040001, "sourceDataRange can not have multiple areas.", "column data of two areas"
+Set made = xy.AddXYData(twoAreas, table.InteriorRange.Columns(2))
+Refused &H80040001, "xDataRange must have a single area.", "x values of two areas"
+Set made = xy.AddXYData(table.InteriorRange, table.InteriorRange.Columns(2))
+Refused &H80040001, "xDataRange must be a single Excel row or column.", "x values of two columns"
+Set made = table.AddComment(1, 3, "Header", "Main")
+Refused &H80040003, "interiorColumnPosition", "a table comment past the last column"
+Set made = sheet.AddComment(Nothing, "Header", "Main")
+Refused &H80040002, "whichCell", "a comment without a cell"
 Dim square(1, 1)
 table.WriteDataToColumn 1, square
 Refused &H80040001, "dataArray must be a 1-dimensional array.", "data of two dimensions"

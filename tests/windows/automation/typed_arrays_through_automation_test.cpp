@@ -1,6 +1,7 @@
-// The tornado members of VosXLRep7 take typed, 1-based arrays of doubles, which VBScript cannot
-// make; a compiled automation client can. Their refusals, each with its code and text, and a
-// tornado built through automation on the engine's automation object.
+// The members of VosXLRep7 that take typed arrays, which VBScript cannot make (it makes only 0-based
+// arrays of variants); a compiled automation client can. The tornado's refusals, each with its code
+// and text, a tornado built through automation on the engine's automation object, and a data column
+// of an element type the table refuses.
 
 #include "excel/com/com_object.hpp"
 #include "excel/com/dispatch_caller.hpp"
@@ -28,7 +29,7 @@ DispatchCaller CallerOf(const Variant& object) {
     return DispatchCaller(holder.Dispatch(), holder.Type(), excel::com::ComObjects());
 }
 
-class TornadoThroughAutomation : public ::testing::Test {
+class TypedArraysThroughAutomation : public ::testing::Test {
 protected:
     void SetUp() override {
         app = excel::com::CreateApplication("VosExcelEngine.Application");
@@ -78,7 +79,7 @@ Variant Doubles(std::vector<double> values, int32_t lowerBound = 1) {
 constexpr int32_t VosChartColumn = 16;
 constexpr int32_t VosChartTornado = 64;
 
-TEST_F(TornadoThroughAutomation, EachRefusalArrivesWithItsCodeAndText) {
+TEST_F(TypedArraysThroughAutomation, EachRefusalArrivesWithItsCodeAndText) {
     const Variant columns = AddChart(VosChartColumn);
     EXPECT_EQ(TornadoDataRefusal(columns, 2, Doubles({-1, -2}), Doubles({1, 2})),
               "8004000B Invalid type of data for chart's type.");
@@ -124,7 +125,22 @@ TEST_F(TornadoThroughAutomation, EachRefusalArrivesWithItsCodeAndText) {
     }
 }
 
-TEST_F(TornadoThroughAutomation, ATornadoBuiltThroughAutomationHasItsFourSeries) {
+TEST_F(TypedArraysThroughAutomation, ATableRefusesDataOfDates) {
+    const Argument tableArguments[] = {Variant(int32_t{2}), Variant(int32_t{1}), Variant(int16_t{1}),
+                                       Variant(int16_t{1})};
+    const Variant table = CallerOf(sheet).Call("AddTable", tableArguments);
+    SafeArray dates(excel::VarType::Date, {{1, 2}});
+    const Argument dataArguments[] = {Variant(int32_t{1}), Variant(std::move(dates))};
+    try {
+        CallerOf(table).Call("WriteDataToColumn", dataArguments);
+        ADD_FAILURE() << "a column of dates";
+    } catch (const excel::AutomationError& error) {
+        EXPECT_EQ(static_cast<uint32_t>(error.code()), 0x80040001u);
+        EXPECT_EQ(std::string(error.what()), "Invalid dataArray type.");
+    }
+}
+
+TEST_F(TypedArraysThroughAutomation, ATornadoBuiltThroughAutomationHasItsFourSeries) {
     const Variant tornado = AddChart(VosChartTornado);
     EXPECT_EQ(TornadoDataRefusal(tornado, 3, Doubles({-48, -12.5, 4}), Doubles({52, 30, 16})), "");
     const Variant chart = CallerOf(tornado).Get("Chart");
