@@ -132,6 +132,8 @@ Dim topOnly, xy
 Set topOnly = sheet.AddTable(3, 2, 1, 0, "Top header only")
 topOnly.WriteHeaderItem 1, 1, "x"
 Refused &H80040001, "Table does not have a left header.", "a left-header item on a table without one"
+Set made = topOnly.AddComment(1, 0, "Header", "Main")
+Refused &H8004000B, "This table has no left-header range.", "a left-header comment on a table without one"
 table.WriteHeaderPairedItem VosTopHeader, 1, "a", "b"
 Refused &H8004000B, "The header is not wide enough to display a paired item.", "a paired item in one header row"
 table.WriteHeaderMergedItem 1, 1, "x"
