@@ -61,18 +61,26 @@ public:
             return DISP_E_BADINDEX;
         }
         *info = TypeInfo();
+        if (*info == nullptr) {
+            return TYPE_E_CANTLOADLIBRARY;
+        }
         (*info)->AddRef();
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) override {
-        return DispGetIDsOfNames(TypeInfo(), names, count, ids);
+        ITypeInfo* info = TypeInfo();
+        return info != nullptr ? DispGetIDsOfNames(info, names, count, ids) : TYPE_E_CANTLOADLIBRARY;
     }
     HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* parameters, VARIANT* result,
                                      EXCEPINFO* exception, UINT* badArgument) override {
         SetErrorInfo(0, nullptr);
+        ITypeInfo* info = TypeInfo();
+        if (info == nullptr) {
+            return TYPE_E_CANTLOADLIBRARY;
+        }
         ArraysByReference arguments(parameters);
-        return TypeInfo()->Invoke(static_cast<Interface*>(this), id, flags, arguments.Parameters(), result, exception,
-                                  badArgument);
+        return info->Invoke(static_cast<Interface*>(this), id, flags, arguments.Parameters(), result, exception,
+                            badArgument);
     }
 
     HRESULT STDMETHODCALLTYPE InterfaceSupportsErrorInfo(REFIID id) override {

@@ -8,9 +8,11 @@
 
 namespace automation {
 
-// The type library VosXLRep7, bound into the server as a resource and loaded once.
+// The type library VosXLRep7, bound into the server as a resource and loaded once; null if the
+// module holds none.
 ITypeLib* ServerTypeLibrary();
-// The type information of one of the library's interfaces, which answers IDispatch for its objects.
+// The type information of one of the library's interfaces, which answers IDispatch for its objects;
+// null without the library.
 ITypeInfo* InterfaceTypeInfo(REFGUID interfaceId);
 
 }  // namespace automation
