@@ -6,26 +6,23 @@
 #include "automation/automation_server.hpp"
 #include "automation/failed_call.hpp"
 #include "automation/type_library.hpp"
+#include "excel/com/dispatch_object.hpp"
 
 #include <windows.h>
 // windows.h first: the OLE headers build on its types.
 #include <oaidl.h>
 #include <oleauto.h>
 
-#include <atomic>
-
 namespace automation {
 
-// What every class of the server shares: reference counting, IDispatch answered by the type
-// library's description of the class's dual interface, and error information for its failures.
+// What every class of the server shares: IDispatch answered by the type library's description of
+// the class's dual interface, and error information for its failures.
 // A member's body runs inside Guarded, so a failure reaches the client as its code and text.
 template <class Interface>
-class AutomationObject : public Interface, public ISupportErrorInfo {
+class AutomationObject : public excel::com::DispatchObject<Interface>, public ISupportErrorInfo {
 public:
     AutomationObject() { ObjectMade(); }
-    virtual ~AutomationObject() { ObjectGone(); }
-    AutomationObject(const AutomationObject&) = delete;
-    AutomationObject& operator=(const AutomationObject&) = delete;
+    ~AutomationObject() override { ObjectGone(); }
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
         if (object == nullptr) {
@@ -39,42 +36,17 @@ public:
             *object = nullptr;
             return E_NOINTERFACE;
         }
-        AddRef();
+        this->AddRef();
         return S_OK;
     }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-    ULONG STDMETHODCALLTYPE Release() override {
-        const ULONG left = --references_;
-        if (left == 0) {
-            delete this;
-        }
-        return left;
-    }
+    // ISupportErrorInfo's IUnknown is the object's own.
+    ULONG STDMETHODCALLTYPE AddRef() override { return excel::com::DispatchObject<Interface>::AddRef(); }
+    ULONG STDMETHODCALLTYPE Release() override { return excel::com::DispatchObject<Interface>::Release(); }
 
-    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override {
-        *count = 1;
-        return S_OK;
-    }
-    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT index, LCID, ITypeInfo** info) override {
-        if (index != 0) {
-            *info = nullptr;
-            return DISP_E_BADINDEX;
-        }
-        *info = TypeInfo();
-        if (*info == nullptr) {
-            return TYPE_E_CANTLOADLIBRARY;
-        }
-        (*info)->AddRef();
-        return S_OK;
-    }
-    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) override {
-        ITypeInfo* info = TypeInfo();
-        return info != nullptr ? DispGetIDsOfNames(info, names, count, ids) : TYPE_E_CANTLOADLIBRARY;
-    }
     HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* parameters, VARIANT* result,
                                      EXCEPINFO* exception, UINT* badArgument) override {
         SetErrorInfo(0, nullptr);
-        ITypeInfo* info = TypeInfo();
+        ITypeInfo* info = TypeInformation();
         if (info == nullptr) {
             return TYPE_E_CANTLOADLIBRARY;
         }
@@ -100,9 +72,7 @@ protected:
     }
 
 private:
-    static ITypeInfo* TypeInfo() { return InterfaceTypeInfo(__uuidof(Interface)); }
-
-    std::atomic<ULONG> references_{1};
+    ITypeInfo* TypeInformation() const override { return InterfaceTypeInfo(__uuidof(Interface)); }
 };
 
 }  // namespace automation

@@ -3,6 +3,7 @@
 #include "excel/com/served_object.hpp"
 
 #include "excel/com/com_object.hpp"
+#include "excel/com/dispatch_object.hpp"
 #include "excel/com/served_interfaces.hpp"
 #include "excel/com/served_type_info.hpp"
 #include "excel/com/wide_text.hpp"
@@ -73,7 +74,7 @@ private:
     std::shared_ptr<Object> owner_;
 };
 
-class ServedObject final : public IDispatch {
+class ServedObject final : public DispatchObject<IDispatch> {
 public:
     ServedObject(std::shared_ptr<Object> object, const ServedInterface& served, std::shared_ptr<Object> owner)
         : object_(std::move(object)), owner_(std::move(owner)), served_(served), key_(object_->Identity(), &served) {
@@ -84,8 +85,6 @@ public:
         const std::lock_guard<std::mutex> guard(liveObjectsLock);
         liveObjects.erase(key_);
     }
-    ServedObject(const ServedObject&) = delete;
-    ServedObject& operator=(const ServedObject&) = delete;
 
     const std::shared_ptr<Object>& Served() const { return object_; }
 
@@ -101,31 +100,6 @@ public:
         *object = nullptr;
         return E_NOINTERFACE;
     }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-    ULONG STDMETHODCALLTYPE Release() override {
-        const ULONG left = --references_;
-        if (left == 0) {
-            delete this;
-        }
-        return left;
-    }
-
-    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override {
-        *count = 1;
-        return S_OK;
-    }
-    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT index, LCID, ITypeInfo** info) override {
-        if (index != 0) {
-            *info = nullptr;
-            return DISP_E_BADINDEX;
-        }
-        *info = ServedTypeInfo(served_);
-        return S_OK;
-    }
-    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) override {
-        return ServedTypeInfo(served_)->GetIDsOfNames(names, count, ids);
-    }
-
     HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* parameters, VARIANT* result,
                                      EXCEPINFO* exception, UINT*) override {
         const bool put = (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0;
@@ -178,6 +152,8 @@ public:
     }
 
 private:
+    ITypeInfo* TypeInformation() const override { return ServedTypeInfo(served_); }
+
     std::shared_ptr<Object> object_;
     // The object this one was reached from first (the application), kept while clients hold this
     // one: a COM server lives as long as any of its objects is held, so a client may let go of the
@@ -185,7 +161,6 @@ private:
     std::shared_ptr<Object> owner_;
     const ServedInterface& served_;
     ServedKey key_;
-    ULONG references_ = 1;
 };
 
 const std::shared_ptr<Object>& ServedBehind(IDispatch* served) {
