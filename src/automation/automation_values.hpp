@@ -86,12 +86,6 @@ inline bool Omitted(const VARIANT& value) {
     return value.vt == VT_ERROR && value.scode == DISP_E_PARAMNOTFOUND;
 }
 
-// An optional number the type library carries as a VARIANT (it cannot store a default for a
-// double): the fallback when left out, the number otherwise.
-inline double OptionalDouble(const VARIANT& value, double fallback) {
-    return Omitted(value) ? fallback : Value(value).ToDouble();
-}
-
 // A report object for the client, as a new automation object of its class.
 template <class AutomationClass, class Interface, class ReportObject>
 void SetReportObject(Interface** result, std::shared_ptr<ReportObject> object) {

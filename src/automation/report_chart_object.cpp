@@ -14,11 +14,7 @@ std::shared_ptr<excel::Range> RangeArgument(IDispatch* range) {
     return ExcelObject<excel::Range>(range, "Range");
 }
 
-// An axis end or unit left out is automatic.
-double ScaleValue(const VARIANT& value) {
-    return OptionalDouble(value, vos::AutomaticAxisScale);
-}
-
+// The Y axes' maximum: a vtable client may pass it as missing, which is automatic as well.
 excel::Variant ScaleVariant(const VARIANT& value) {
     return Omitted(value) ? excel::Variant(vos::AutomaticAxisScale) : Value(value);
 }
@@ -97,28 +93,27 @@ HRESULT ReportChartObject::AddCategoryXAxis(BSTR axisTitle, IDispatch* categoryN
     });
 }
 
-HRESULT ReportChartObject::AddValueXAxis(BSTR axisTitle, VARIANT axisMinimum, VARIANT axisMaximum, VARIANT axisUnit,
+HRESULT ReportChartObject::AddValueXAxis(BSTR axisTitle, double axisMinimum, double axisMaximum, double axisUnit,
                                          BSTR numberFormat, VARIANT_BOOL verticalLabels, IDispatch** result) {
     return Guarded([&] {
-        *result = Dispatch(chart_->AddValueXAxis(Text(axisTitle), ScaleValue(axisMinimum), ScaleValue(axisMaximum),
-                                                 ScaleValue(axisUnit), Text(numberFormat), Boolean(verticalLabels)));
+        *result = Dispatch(chart_->AddValueXAxis(Text(axisTitle), axisMinimum, axisMaximum, axisUnit,
+                                                 Text(numberFormat), Boolean(verticalLabels)));
     });
 }
 
-HRESULT ReportChartObject::AddValueYAxis(BSTR axisTitle, VARIANT axisMinimum, VARIANT axisMaximum, VARIANT axisUnit,
+HRESULT ReportChartObject::AddValueYAxis(BSTR axisTitle, double axisMinimum, VARIANT axisMaximum, double axisUnit,
                                          BSTR numberFormat, IDispatch** result) {
     return Guarded([&] {
-        *result = Dispatch(chart_->AddValueYAxis(Text(axisTitle), ScaleValue(axisMinimum), ScaleVariant(axisMaximum),
-                                                 ScaleValue(axisUnit), Text(numberFormat)));
+        *result = Dispatch(chart_->AddValueYAxis(Text(axisTitle), axisMinimum, ScaleVariant(axisMaximum), axisUnit,
+                                                 Text(numberFormat)));
     });
 }
 
-HRESULT ReportChartObject::AddSecondaryValueYAxis(BSTR axisTitle, VARIANT axisMinimum, VARIANT axisMaximum,
-                                                  VARIANT axisUnit, BSTR numberFormat, IDispatch** result) {
+HRESULT ReportChartObject::AddSecondaryValueYAxis(BSTR axisTitle, double axisMinimum, VARIANT axisMaximum,
+                                                  double axisUnit, BSTR numberFormat, IDispatch** result) {
     return Guarded([&] {
-        *result =
-            Dispatch(chart_->AddSecondaryValueYAxis(Text(axisTitle), ScaleValue(axisMinimum), ScaleVariant(axisMaximum),
-                                                    ScaleValue(axisUnit), Text(numberFormat)));
+        *result = Dispatch(chart_->AddSecondaryValueYAxis(Text(axisTitle), axisMinimum, ScaleVariant(axisMaximum),
+                                                          axisUnit, Text(numberFormat)));
     });
 }
 

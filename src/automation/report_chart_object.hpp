@@ -33,13 +33,13 @@ public:
     HRESULT STDMETHODCALLTYPE AddWatermark(BSTR primaryText, BSTR secondaryText, BSTR macroToRunWhenClicked) override;
     HRESULT STDMETHODCALLTYPE AddCategoryXAxis(BSTR axisTitle, IDispatch* categoryNamesRange,
                                                VARIANT_BOOL verticalLabels, IDispatch** result) override;
-    HRESULT STDMETHODCALLTYPE AddValueXAxis(BSTR axisTitle, VARIANT axisMinimum, VARIANT axisMaximum, VARIANT axisUnit,
+    HRESULT STDMETHODCALLTYPE AddValueXAxis(BSTR axisTitle, double axisMinimum, double axisMaximum, double axisUnit,
                                             BSTR numberFormat, VARIANT_BOOL verticalLabels,
                                             IDispatch** result) override;
-    HRESULT STDMETHODCALLTYPE AddValueYAxis(BSTR axisTitle, VARIANT axisMinimum, VARIANT axisMaximum, VARIANT axisUnit,
+    HRESULT STDMETHODCALLTYPE AddValueYAxis(BSTR axisTitle, double axisMinimum, VARIANT axisMaximum, double axisUnit,
                                             BSTR numberFormat, IDispatch** result) override;
-    HRESULT STDMETHODCALLTYPE AddSecondaryValueYAxis(BSTR axisTitle, VARIANT axisMinimum, VARIANT axisMaximum,
-                                                     VARIANT axisUnit, BSTR numberFormat, IDispatch** result) override;
+    HRESULT STDMETHODCALLTYPE AddSecondaryValueYAxis(BSTR axisTitle, double axisMinimum, VARIANT axisMaximum,
+                                                     double axisUnit, BSTR numberFormat, IDispatch** result) override;
     HRESULT STDMETHODCALLTYPE AddValueXAxisWithNiceTicks(double dataMin, double dataMax, VARIANT_BOOL requireMinGap,
                                                          VARIANT_BOOL requireMaxGap, BSTR axisTitle, BSTR numberFormat,
                                                          VARIANT_BOOL verticalLabels, VARIANT* result) override;

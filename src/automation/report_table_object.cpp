@@ -106,11 +106,11 @@ HRESULT ReportTableObject::AddCustomDivider(IDispatch* borderObject, LONG lineSt
 }
 
 HRESULT ReportTableObject::ConfigureColumn(LONG position, BSTR headerCaption, LONG interiorHAlign, LONG headerHAlign,
-                                           VARIANT columnWidth, BSTR numberFormat, VARIANT_BOOL wrapText) {
+                                           double columnWidth, BSTR numberFormat, VARIANT_BOOL wrapText) {
     return Guarded([&] {
         // A width left out leaves the column's width as it is, as any width of 0 or less does.
-        table_->ConfigureColumn(position, Text(headerCaption), interiorHAlign, headerHAlign,
-                                OptionalDouble(columnWidth, -1.0), Text(numberFormat), Boolean(wrapText));
+        table_->ConfigureColumn(position, Text(headerCaption), interiorHAlign, headerHAlign, columnWidth,
+                                Text(numberFormat), Boolean(wrapText));
     });
 }
 

@@ -46,7 +46,7 @@ public:
     HRESULT STDMETHODCALLTYPE AddCustomDivider(IDispatch* borderObject, LONG lineStyle, LONG weight,
                                                short colorIndex) override;
     HRESULT STDMETHODCALLTYPE ConfigureColumn(LONG position, BSTR headerCaption, LONG interiorHAlign, LONG headerHAlign,
-                                              VARIANT columnWidth, BSTR numberFormat, VARIANT_BOOL wrapText) override;
+                                              double columnWidth, BSTR numberFormat, VARIANT_BOOL wrapText) override;
     HRESULT STDMETHODCALLTYPE CheckHeaderVariable(VosTableHeaderType whichHeader, BSTR argumentName) override;
 
 private:

@@ -77,12 +77,11 @@ HRESULT ReportWorksheetObject::AddTable(LONG numInteriorRows, LONG numInteriorCo
     });
 }
 
-HRESULT ReportWorksheetObject::AddChart(VosChartType ChartType, VARIANT chartWidth, VARIANT chartHeight,
+HRESULT ReportWorksheetObject::AddChart(VosChartType ChartType, double chartWidth, double chartHeight,
                                         _VosExcelChart** result) {
     return Guarded([&] {
         SetReportObject<ReportChartObject>(
-            result, worksheet_->AddChart(static_cast<vos::VosChartType>(ChartType), OptionalDouble(chartWidth, 428.0),
-                                         OptionalDouble(chartHeight, 300.0)));
+            result, worksheet_->AddChart(static_cast<vos::VosChartType>(ChartType), chartWidth, chartHeight));
     });
 }
 

@@ -32,7 +32,7 @@ public:
     HRESULT STDMETHODCALLTYPE AddTable(LONG numInteriorRows, LONG numInteriorColumns, short NumHeaderRows,
                                        short NumHeaderColumns, BSTR mainTitle, BSTR subTitle,
                                        _VosExcelTable** result) override;
-    HRESULT STDMETHODCALLTYPE AddChart(VosChartType ChartType, VARIANT chartWidth, VARIANT chartHeight,
+    HRESULT STDMETHODCALLTYPE AddChart(VosChartType ChartType, double chartWidth, double chartHeight,
                                        _VosExcelChart** result) override;
     HRESULT STDMETHODCALLTYPE RecommendedTornadoChartHeight(short numBars, double* result) override;
     HRESULT STDMETHODCALLTYPE AddSpacingColumn() override;

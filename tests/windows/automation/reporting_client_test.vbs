@@ -51,8 +51,11 @@ CheckEqual TypeName(table), "_VosExcelTable", "AddTable's class"
 CheckEqual table.TableRange.Address, "$A$1:$C$4", "a table without titles"
 table.WriteHeaderIndexNumbers 1
 CheckEqual table.LeftHeaderRange.Cells(1, 1).Value, "#1", "WriteHeaderIndexNumbers with its defaults"
+Dim widthBefore
+widthBefore = table.TableRange.Columns(1).ColumnWidth
 table.ConfigureColumn 1, "Width kept"
 CheckEqual table.TopHeaderRange.Cells(1, 1).Value, "Width kept", "ConfigureColumn with its defaults"
+CheckEqual table.TableRange.Columns(1).ColumnWidth, widthBefore, "ConfigureColumn's width left out"
 sheet.AddSeparatorRows 1
 Set chart = sheet.AddChart(VosChartColumn)
 CheckEqual TypeName(chart), "_VosExcelChart", "AddChart's class"
@@ -126,6 +129,10 @@ Refused &H80040001, "axisMaximum must be greater than axisMinimum.", "an axis wh
 Set made = chart.AddValueYAxis("y", 0, 10)
 Refused &H80040001, "axisMinimum, axisMaximum, and axisUnit must either all be specified or all be automatic.", _
         "an axis with its unit left automatic"
+Set made = chart.AddValueYAxis("y")
+Check Err.Number = 0, "AddValueYAxis with its scale left out: " & Err.Description
+Check made.MinimumScaleIsAuto And made.MaximumScaleIsAuto And made.MajorUnitIsAuto, _
+      "AddValueYAxis's scale left out is automatic"
 Set made = chart.AddSubTitle("No title yet")
 Refused &H8004000B, "The chart must have a ChartTitle to call this method.", "a subtitle without a title"
 Dim topOnly, xy
