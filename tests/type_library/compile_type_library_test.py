@@ -112,32 +112,38 @@ class Reader:
         return interfaces
 
 
+def write_idl(directory, idl):
+    source = os.path.join(directory, "Sample.idl")
+    with open(source, "w", encoding="utf-8") as out:
+        out.write(idl)
+    return source
+
+
+def read(path, raw):
+    with open(path, "rb") as library:
+        data = library.read()
+    return data if raw else Reader(data).functions()
+
+
 class CompileTypeLibraryTest(unittest.TestCase):
     def compile(self, idl, raw=False):
+        """The type library compile-type-library makes of the IDL: its bytes, or its functions."""
         with tempfile.TemporaryDirectory() as directory:
-            source = os.path.join(directory, "Sample.idl")
-            with open(source, "w", encoding="utf-8") as out:
-                out.write(idl)
             output = os.path.join(directory, "out")
-            run = subprocess.run([COMPILER, WIDL, source, output], capture_output=True, text=True)
+            run = subprocess.run([COMPILER, WIDL, write_idl(directory, idl), output], capture_output=True, text=True)
             self.assertEqual(run.returncode, 0, run.stderr)
             self.assertNotIn("warning", run.stderr)
-            with open(os.path.join(output, "Sample.tlb"), "rb") as library:
-                data = library.read()
             self.assertTrue(os.path.exists(os.path.join(output, "Sample.h")))
             self.assertTrue(os.path.exists(os.path.join(output, "Sample_i.c")))
-            return data if raw else Reader(data).functions()
+            return read(os.path.join(output, "Sample.tlb"), raw)
 
     def widl_alone(self, idl, raw=False):
+        """The type library widl makes of the IDL by itself."""
         with tempfile.TemporaryDirectory() as directory:
-            source = os.path.join(directory, "Sample.idl")
-            with open(source, "w", encoding="utf-8") as out:
-                out.write(idl)
             library = os.path.join(directory, "Sample.tlb")
-            subprocess.run([WIDL, "--win64", "-t", "-o", library, source], check=True, capture_output=True)
-            with open(library, "rb") as compiled:
-                data = compiled.read()
-            return data if raw else Reader(data).functions()
+            subprocess.run([WIDL, "--win64", "-t", "-o", library, write_idl(directory, idl)], check=True,
+                           capture_output=True)
+            return read(library, raw)
 
     def test_doubles_get_their_defaults_in_a_member_that_had_none(self):
         size = self.compile(LIBRARY % SIZED)["First"]["Size"]
@@ -174,9 +180,7 @@ class CompileTypeLibraryTest(unittest.TestCase):
 
     def test_a_floating_default_outside_a_method_is_refused(self):
         with tempfile.TemporaryDirectory() as directory:
-            source = os.path.join(directory, "Sample.idl")
-            with open(source, "w", encoding="utf-8") as out:
-                out.write("[uuid(6a0e3c10-2b1d-4f5e-9a8b-1c2d3e4f5a60), defaultvalue(1.5)] library Sample {}\n")
+            source = write_idl(directory, "[uuid(6a0e3c10-2b1d-4f5e-9a8b-1c2d3e4f5a60), defaultvalue(1.5)] library Sample {}\n")
             run = subprocess.run([COMPILER, WIDL, source, os.path.join(directory, "out")], capture_output=True,
                                  text=True)
             self.assertNotEqual(run.returncode, 0)
