@@ -180,7 +180,8 @@ class CompileTypeLibraryTest(unittest.TestCase):
 
     def test_a_floating_default_outside_a_method_is_refused(self):
         with tempfile.TemporaryDirectory() as directory:
-            source = write_idl(directory, "[uuid(6a0e3c10-2b1d-4f5e-9a8b-1c2d3e4f5a60), defaultvalue(1.5)] library Sample {}\n")
+            source = write_idl(directory,
+                               "[uuid(6a0e3c10-2b1d-4f5e-9a8b-1c2d3e4f5a60), defaultvalue(1.5)] library Sample {}\n")
             run = subprocess.run([COMPILER, WIDL, source, os.path.join(directory, "out")], capture_output=True,
                                  text=True)
             self.assertNotEqual(run.returncode, 0)
