@@ -40,20 +40,25 @@ std::wstring Wide(const std::string& text) {
     return result;
 }
 
-// The object named WScript: Echo prints its argument as text.
-class EchoObject final : public IDispatch {
+// One interface on an object that lives on the host's stack, so counting references frees nothing.
+template <class Interface>
+class HostObject : public Interface {
 public:
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
-        if (iid != IID_IUnknown && iid != IID_IDispatch) {
+        if (iid != IID_IUnknown && iid != __uuidof(Interface)) {
             *object = nullptr;
             return E_NOINTERFACE;
         }
-        *object = static_cast<IDispatch*>(this);
-        AddRef();
+        *object = static_cast<Interface*>(this);
         return S_OK;
     }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-    ULONG STDMETHODCALLTYPE Release() override { return --references_; }  // lives on the host's stack
+    ULONG STDMETHODCALLTYPE AddRef() override { return 1; }
+    ULONG STDMETHODCALLTYPE Release() override { return 1; }
+};
+
+// The object named WScript: Echo prints its argument as text.
+class EchoObject final : public HostObject<IDispatch> {
+public:
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override {
         *count = 0;
         return S_OK;
@@ -86,28 +91,16 @@ public:
 
 private:
     static constexpr DISPID kEcho = 1;
-    ULONG references_ = 1;
 };
 
 // The site the script engine calls back: it hands out the named items and reports script errors.
-class Site final : public IActiveScriptSite {
+class Site final : public HostObject<IActiveScriptSite> {
 public:
     Site(std::wstring globalName, IDispatch* global, ITypeInfo* globalType)
         : globalName_(std::move(globalName)), global_(global), globalType_(globalType) {}
 
     bool Failed() const { return failed_; }
 
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
-        if (iid != IID_IUnknown && iid != IID_IActiveScriptSite) {
-            *object = nullptr;
-            return E_NOINTERFACE;
-        }
-        *object = static_cast<IActiveScriptSite*>(this);
-        AddRef();
-        return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-    ULONG STDMETHODCALLTYPE Release() override { return --references_; }  // lives on the host's stack
     HRESULT STDMETHODCALLTYPE GetLCID(LCID*) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE GetItemInfo(LPCOLESTR name, DWORD mask, IUnknown** item, ITypeInfo** type) override {
         IDispatch* object = nullptr;
@@ -158,7 +151,6 @@ private:
     IDispatch* global_;
     ITypeInfo* globalType_;
     EchoObject echo_;
-    ULONG references_ = 1;
     bool failed_ = false;
 };
 
