@@ -171,6 +171,7 @@ private:
                                        static_cast<uint32_t>(document_.formats.size())};
         std::vector<std::optional<uint32_t>> worksheetPositions;
         std::set<std::string> partsSeen;
+        const auto relationshipsById = RelationshipsById(workbookRelationships);
         for (const SheetEntry& entry : workbook.sheets) {
             // Excel writes the modules and dialogs of its macro project as sheets with no part.
             if (entry.relationshipId.empty()) {
@@ -179,7 +180,8 @@ private:
                 worksheetPositions.emplace_back();
                 continue;
             }
-            const Relationship* relationship = FindRelationship(workbookRelationships, entry.relationshipId);
+            const auto found = relationshipsById.find(entry.relationshipId);
+            const Relationship* relationship = found != relationshipsById.end() ? found->second : nullptr;
             if (relationship == nullptr || relationship->external || !archive_.Contains(relationship->target)) {
                 ThrowCorrupt("The sheet \"" + entry.name + "\" has no part in the package");
             }

@@ -7,24 +7,21 @@
 namespace ooxml {
 
 std::string Relationships::Add(std::string_view type, std::string target) {
-    std::size_t number = 1;
-    std::string id = "rId" + std::to_string(number);
-    while (Taken(id)) {
-        id = "rId" + std::to_string(++number);
+    std::string id = "rId" + std::to_string(firstFreeNumber_);
+    while (!ids_.insert(id).second) {
+        id = "rId" + std::to_string(++firstFreeNumber_);
     }
+    ++firstFreeNumber_;
     relationships_.push_back({id, std::string(type), std::move(target), false});
     return id;
 }
 
 void Relationships::Keep(const Relationship& relationship, std::string_view sourcePath) {
-    relationships_.push_back({relationship.id, relationship.type,
-                              relationship.external ? relationship.target : RelativeTarget(sourcePath, relationship.target),
-                              relationship.external});
-}
-
-bool Relationships::Taken(std::string_view id) const {
-    return std::any_of(relationships_.begin(), relationships_.end(),
-                       [id](const Entry& relationship) { return relationship.id == id; });
+    ids_.insert(relationship.id);
+    relationships_.push_back(
+        {relationship.id, relationship.type,
+         relationship.external ? relationship.target : RelativeTarget(sourcePath, relationship.target),
+         relationship.external});
 }
 
 // Listed by id number ("rId2" before "rId10"), so a workbook saved again lists its relationships
@@ -64,7 +61,8 @@ void Relationships::Write(XmlWriter& xml) const {
 
 std::string RelationshipsPartPath(std::string_view partPath) {
     const std::size_t slash = partPath.rfind('/');
-    const std::string_view folder = slash == std::string_view::npos ? std::string_view() : partPath.substr(0, slash + 1);
+    const std::string_view folder =
+        slash == std::string_view::npos ? std::string_view() : partPath.substr(0, slash + 1);
     const std::string_view name = slash == std::string_view::npos ? partPath : partPath.substr(slash + 1);
     return std::string(folder) + "_rels/" + std::string(name) + ".rels";
 }

@@ -90,6 +90,16 @@ const Relationship* FindRelationshipOfType(const std::vector<Relationship>& rela
     return nullptr;
 }
 
+std::unordered_map<std::string_view, const Relationship*> RelationshipsById(
+    const std::vector<Relationship>& relationships) {
+    std::unordered_map<std::string_view, const Relationship*> byId;
+    byId.reserve(relationships.size());
+    for (const Relationship& relationship : relationships) {
+        byId.emplace(relationship.id, &relationship);
+    }
+    return byId;
+}
+
 const Relationship* FindRelationship(const std::vector<Relationship>& relationships, std::string_view id) {
     for (const Relationship& relationship : relationships) {
         if (relationship.id == id) {

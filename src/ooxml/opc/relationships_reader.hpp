@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace ooxml {
@@ -26,5 +27,9 @@ std::vector<Relationship> ReadRelationships(const ZipArchiveReader& archive, std
 bool HasRelationshipType(const Relationship& relationship, std::string_view typeName);
 const Relationship* FindRelationshipOfType(const std::vector<Relationship>& relationships, std::string_view typeName);
 const Relationship* FindRelationship(const std::vector<Relationship>& relationships, std::string_view id);
+// The relationships by id (the first of an id a file repeats), for parts that refer to many: a
+// workbook's sheets.
+std::unordered_map<std::string_view, const Relationship*> RelationshipsById(
+    const std::vector<Relationship>& relationships);
 
 }  // namespace ooxml

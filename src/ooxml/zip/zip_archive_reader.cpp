@@ -4,6 +4,7 @@
 
 #include <zip.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <system_error>
@@ -38,6 +39,13 @@ void CheckReadable(const std::string& path) {
     }
 }
 
+// Part names compare without regard to ASCII case (non-ASCII letters must match exactly).
+std::string AsciiLowerCase(std::string text) {
+    std::transform(text.begin(), text.end(), text.begin(),
+                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+    return text;
+}
+
 }  // namespace
 
 void ZipArchiveReader::Closer::operator()(zip* archive) const {
@@ -62,7 +70,18 @@ int64_t ZipArchiveReader::Locate(std::string_view entryName) const {
     if (exact >= 0) {
         return exact;
     }
-    return zip_name_locate(archive_.get(), name.c_str(), ZIP_FL_NOCASE);
+    if (!entriesIgnoringCase_) {
+        entriesIgnoringCase_.emplace();
+        const zip_int64_t count = zip_get_num_entries(archive_.get(), 0);
+        entriesIgnoringCase_->reserve(static_cast<std::size_t>(std::max<zip_int64_t>(count, 0)));
+        for (zip_int64_t index = 0; index < count; ++index) {
+            if (const char* entry = zip_get_name(archive_.get(), static_cast<zip_uint64_t>(index), 0)) {
+                entriesIgnoringCase_->emplace(AsciiLowerCase(entry), index);
+            }
+        }
+    }
+    const auto found = entriesIgnoringCase_->find(AsciiLowerCase(name));
+    return found != entriesIgnoringCase_->end() ? found->second : -1;
 }
 
 bool ZipArchiveReader::Contains(std::string_view entryName) const {

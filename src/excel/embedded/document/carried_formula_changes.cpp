@@ -4,8 +4,9 @@
 #include "ooxml/opc/carried_formula_rewrite.hpp"
 #include "ooxml/reference/formula_reference_mover.hpp"
 
-#include <algorithm>
 #include <optional>
+#include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace excel::embedded {
@@ -17,16 +18,21 @@ void ChangeCarriedFormulas(const WorkbookModel& book, ooxml::WorkbookDocument& d
     const auto& sheets = book.Sheets();
     std::vector<ooxml::SheetChange> changes;
     std::vector<std::optional<std::size_t>> changeOfSheet(sheets.size());
+    // Each sheet by the name the file gave it, so that a workbook of many sheets saves in linear time.
+    std::unordered_map<std::string_view, std::size_t> sheetOfFileName;
+    for (std::size_t index = 0; index < sheets.size(); ++index) {
+        if (sheets[index]->Carried()) {
+            sheetOfFileName.emplace(sheets[index]->Carried()->name, index);
+        }
+    }
     for (const std::string& fileName : document.carried->worksheetNames) {
         ooxml::SheetChange change;
         change.isSheet = [fileName](std::string_view name) { return SameSheetName(name, fileName); };
-        const auto found = std::find_if(sheets.begin(), sheets.end(), [&fileName](const auto& sheet) {
-            return sheet->Carried() && sheet->Carried()->name == fileName;
-        });
-        if (found == sheets.end()) {
+        const auto found = sheetOfFileName.find(fileName);
+        if (found == sheetOfFileName.end()) {
             change.deleted = true;
         } else {
-            const WorksheetModel& sheet = **found;
+            const WorksheetModel& sheet = *sheets[found->second];
             if (!sheet.ShiftsApplied().empty()) {
                 change.move = FileBlockMove(sheet.ShiftsApplied());
             }
@@ -36,7 +42,7 @@ void ChangeCarriedFormulas(const WorkbookModel& book, ooxml::WorkbookDocument& d
             if (!change.move && change.prefix.empty()) {
                 continue;
             }
-            changeOfSheet[static_cast<std::size_t>(found - sheets.begin())] = changes.size();
+            changeOfSheet[found->second] = changes.size();
         }
         changes.push_back(std::move(change));
     }

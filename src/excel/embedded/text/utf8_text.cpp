@@ -111,6 +111,15 @@ bool IsNameLetter(char32_t c) {
              c == 0xFEFF || c == ReplacementCharacter);
 }
 
+std::u32string FoldedCodePoints(std::string_view text) {
+    std::u32string folded;
+    folded.reserve(text.size());
+    for (size_t position = 0; position < text.size();) {
+        folded.push_back(FoldCase(NextCodePoint(text, position)));
+    }
+    return folded;
+}
+
 bool EqualsIgnoringCase(std::string_view a, std::string_view b) {
     size_t positionA = 0;
     size_t positionB = 0;

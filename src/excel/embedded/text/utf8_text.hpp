@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 namespace excel::embedded {
@@ -22,6 +23,10 @@ bool IsNameLetter(char32_t codePoint);
 
 // UTF-8 strings equal once case is folded.
 bool EqualsIgnoringCase(std::string_view a, std::string_view b);
+
+// The text's code points with case folded: equal for the texts EqualsIgnoringCase finds equal, so
+// it keys a hash lookup of names.
+std::u32string FoldedCodePoints(std::string_view text);
 
 // The text without its leading and trailing spaces (U+0020 only, as the automation runtime's Trim).
 std::string_view TrimSpaces(std::string_view text);
