@@ -9,12 +9,14 @@ namespace ooxml {
 class PackageError : public std::runtime_error {
 public:
     enum class Reason {
-        PathNotFound,   // the folder of the target does not exist
-        FileNotFound,   // the file to open does not exist
-        AccessDenied,   // the file or folder cannot be written or read
-        NotAPackage,    // not a zip, or no workbook part in it
-        Corrupt,        // a part could not be parsed
-        WriteFailed,    // an I/O error while writing (disk full, ...)
+        PathNotFound,  // the folder of the target does not exist
+        FileNotFound,  // the file to open does not exist
+        AccessDenied,  // the file or folder cannot be written or read, or is no regular file
+        ReadOnly,      // the target to save over has no write permission
+        InvalidPath,   // the path holds a NUL character, which no file name can
+        NotAPackage,   // not a zip, or no workbook part in it
+        Corrupt,       // a part could not be parsed
+        WriteFailed,   // an I/O error while writing (disk full, ...)
     };
 
     PackageError(Reason reason, const std::string& message) : std::runtime_error(message), reason_(reason) {}

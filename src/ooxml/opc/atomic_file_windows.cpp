@@ -4,6 +4,8 @@
 
 #include "ooxml/opc/atomic_file.hpp"
 
+#include "ooxml/file_path_check.hpp"
+#include "ooxml/opc/temporary_file_name.hpp"
 #include "ooxml/write_error.hpp"
 
 #include <fcntl.h>
@@ -12,14 +14,13 @@
 #include <windows.h>
 
 #include <cerrno>
-#include <filesystem>
 #include <random>
-
-#include <fmt/format.h>
 
 namespace ooxml {
 
 namespace {
+
+constexpr const char* Attempted = "saving the file";
 
 // Paths are UTF-8 everywhere in the library; Windows takes them in UTF-16.
 std::wstring Wide(const std::string& utf8) {
@@ -55,40 +56,65 @@ int LastErrorNumber() {
     }
 }
 
+// Removes the temporaries of the target that saves killed before they finished left. A running
+// save's temporary is open without sharing deletion, so Windows refuses to remove it.
+void RemoveLeftTemporaries(const std::string& folder, const std::string& prefix) {
+    WIN32_FIND_DATAW found;
+    const HANDLE search = FindFirstFileW(Wide(folder + "/" + prefix + "*").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) {
+        return;
+    }
+    do {
+        // The names sought are ASCII; any other character keeps a name from matching.
+        std::string name;
+        for (const wchar_t* c = found.cFileName; *c != L'\0'; ++c) {
+            name += *c < 0x80 ? static_cast<char>(*c) : '?';
+        }
+        if (IsTemporaryName(name, prefix)) {
+            DeleteFileW(Wide(folder + "/" + name).c_str());
+        }
+    } while (FindNextFileW(search, &found));
+    FindClose(search);
+}
+
 }  // namespace
 
-AtomicFile::AtomicFile(const std::string& targetPath) : targetPath_(targetPath), folder_(FolderOf(targetPath)) {
+AtomicFile::AtomicFile(const std::string& targetPath) {
+    CheckFilePath(targetPath, Attempted);
+    targetPath_ = targetPath;
+    folder_ = FolderOf(targetPath);
     const DWORD folderAttributes = GetFileAttributesW(Wide(folder_).c_str());
     if (folderAttributes == INVALID_FILE_ATTRIBUTES) {
-        throw WriteError(ENOENT, "saving " + targetPath_);
+        throw WriteError(ENOENT, Attempted);
     }
     if ((folderAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) {
-        throw WriteError(ENOTDIR, "saving " + targetPath_);
+        throw WriteError(ENOTDIR, Attempted);
     }
     const DWORD targetAttributes = GetFileAttributesW(Wide(targetPath_).c_str());
     if (targetAttributes != INVALID_FILE_ATTRIBUTES) {
         if ((targetAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
-            throw WriteError(EISDIR, "saving " + targetPath_);
+            throw WriteError(EISDIR, Attempted);
         }
         if ((targetAttributes & FILE_ATTRIBUTE_READONLY) != 0) {
-            throw WriteError(EACCES, "saving " + targetPath_);
+            throw PackageError(PackageError::Reason::ReadOnly, std::string(Attempted) + ": the file is read-only");
         }
     }
 
-    const std::string baseName = targetPath_.substr(targetPath_.find_last_of("/\\") + 1);
+    const std::string prefix = TemporaryNamePrefix(targetPath_.substr(targetPath_.find_last_of("/\\") + 1));
     std::random_device randomDevice;
     std::mt19937_64 random((static_cast<uint64_t>(randomDevice()) << 32) ^ randomDevice() ^ GetCurrentProcessId());
     for (;;) {
-        temporaryPath_ = fmt::format("{}/.~{}.{:016x}.tmp", folder_, baseName, random());
+        temporaryPath_ = folder_ + "/" + TemporaryName(prefix, random());
         fd_ = _wopen(Wide(temporaryPath_).c_str(), _O_WRONLY | _O_CREAT | _O_EXCL | _O_BINARY | _O_NOINHERIT,
                      _S_IREAD | _S_IWRITE);
         if (fd_ >= 0) {
             break;
         }
         if (errno != EEXIST) {
-            throw WriteError(errno, "saving " + targetPath_);
+            throw WriteError(errno, Attempted);
         }
     }
+    RemoveLeftTemporaries(folder_, prefix);
 }
 
 AtomicFile::~AtomicFile() {
@@ -102,16 +128,17 @@ AtomicFile::~AtomicFile() {
 
 void AtomicFile::Commit() {
     if (_commit(fd_) != 0) {
-        throw WriteError(errno, "saving " + targetPath_);
+        throw WriteError(errno, Attempted);
     }
+    // Windows moves only a closed file.
     const int fd = fd_;
     fd_ = -1;
     if (_close(fd) != 0) {
-        throw WriteError(errno, "saving " + targetPath_);
+        throw WriteError(errno, Attempted);
     }
     if (!MoveFileExW(Wide(temporaryPath_).c_str(), Wide(targetPath_).c_str(),
                      MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
-        throw WriteError(LastErrorNumber(), "saving " + targetPath_);
+        throw WriteError(LastErrorNumber(), Attempted);
     }
     committed_ = true;
 }

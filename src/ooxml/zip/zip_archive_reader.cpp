@@ -1,13 +1,11 @@
 #include "ooxml/zip/zip_archive_reader.hpp"
 
 #include "ooxml/package_error.hpp"
+#include "ooxml/readable_file.hpp"
 
 #include <zip.h>
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
-#include <system_error>
 
 namespace ooxml {
 
@@ -15,8 +13,6 @@ namespace {
 
 [[noreturn]] void ThrowOpenError(const std::string& path, int zipError) {
     switch (zipError) {
-        case ZIP_ER_NOENT:
-            throw PackageError(PackageError::Reason::FileNotFound, "File not found: " + path);
         case ZIP_ER_OPEN:
         case ZIP_ER_READ:
             throw PackageError(PackageError::Reason::AccessDenied, "Cannot read: " + path);
@@ -24,18 +20,6 @@ namespace {
             throw std::bad_alloc();
         default:
             throw PackageError(PackageError::Reason::NotAPackage, "Not a zip package: " + path);
-    }
-}
-
-// libzip reports a folder or an unreadable file only as a failed open; tell the caller which.
-void CheckReadable(const std::string& path) {
-    std::error_code error;
-    const auto status = std::filesystem::status(path, error);
-    if (!std::filesystem::exists(status)) {
-        throw PackageError(PackageError::Reason::FileNotFound, "File not found: " + path);
-    }
-    if (std::filesystem::is_directory(status) || !std::ifstream(path, std::ios::binary)) {
-        throw PackageError(PackageError::Reason::AccessDenied, "Cannot read: " + path);
     }
 }
 
@@ -53,12 +37,15 @@ void ZipArchiveReader::Closer::operator()(zip* archive) const {
 }
 
 ZipArchiveReader::ZipArchiveReader(const std::string& path) : path_(path) {
-    CheckReadable(path);
+    // Opened here rather than by libzip, which reports a missing, unreadable or special file only
+    // as a failed open, and would wait on a named pipe.
+    ReadableFile file(path);
     int zipError = 0;
-    zip* archive = zip_open(path.c_str(), ZIP_RDONLY, &zipError);
+    zip* archive = zip_fdopen(file.Descriptor(), ZIP_RDONLY, &zipError);
     if (archive == nullptr) {
         ThrowOpenError(path, zipError);
     }
+    file.Release();  // the archive closes it
     archive_.reset(archive);
 }
 

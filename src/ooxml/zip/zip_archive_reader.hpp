@@ -14,7 +14,8 @@ struct zip;
 namespace ooxml {
 
 // Read access to the entries of a zip file. Entry names are matched without regard to case, as
-// package part names are. Throws PackageError: FileNotFound, AccessDenied, NotAPackage, Corrupt.
+// package part names are. Throws PackageError: InvalidPath, FileNotFound, AccessDenied, NotAPackage,
+// Corrupt.
 class ZipArchiveReader {
 public:
     explicit ZipArchiveReader(const std::string& path);

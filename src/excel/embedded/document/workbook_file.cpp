@@ -12,6 +12,67 @@
 
 namespace excel::embedded {
 
+namespace {
+
+using Reason = ooxml::PackageError::Reason;
+
+// A path as a message shows it: a NUL would end the text wherever it is read as a C string, so it
+// shows as U+FFFD.
+std::string Shown(const std::string& path) {
+    std::string shown;
+    for (const char c : path) {
+        shown += c == '\0' ? std::string("\xEF\xBF\xBD") : std::string(1, c);
+    }
+    return shown;
+}
+
+std::string FileNameOf(const std::string& fullName) {
+    return Shown(std::filesystem::path(fullName).filename().string());
+}
+
+// Excel's sentence for a file Workbooks.Open could not read.
+std::string OpenRefusal(const std::string& fullName, Reason reason) {
+    switch (reason) {
+        case Reason::FileNotFound:
+        case Reason::PathNotFound:
+        case Reason::InvalidPath:
+            return "Sorry, we couldn't find " + Shown(fullName) + ". Is it possible it was moved, renamed or deleted?";
+        case Reason::AccessDenied:
+            return "Cannot access '" + FileNameOf(fullName) + "'.";
+        default:
+            return "Excel cannot open the file '" + FileNameOf(fullName) +
+                   "' because the file format or file extension is not valid. Verify that the file has not been "
+                   "corrupted and that the file extension matches the format of the file.";
+    }
+}
+
+// Excel's sentence for a file SaveAs could not write.
+std::string SaveRefusal(const std::string& fullName, Reason reason) {
+    switch (reason) {
+        case Reason::PathNotFound:
+        case Reason::InvalidPath:
+            return "Microsoft Excel cannot access the file '" + Shown(fullName) +
+                   "'. There are several possible reasons:\n\n"
+                   "The file name or path does not exist.\n"
+                   "The file is being used by another program.\n"
+                   "The workbook you are trying to save has the same name as a currently open workbook.";
+        case Reason::AccessDenied:
+            return "Cannot access '" + FileNameOf(fullName) + "'.";
+        case Reason::ReadOnly:
+            return "Cannot access read-only document '" + FileNameOf(fullName) + "'.";
+        default:
+            return "Document not saved.";
+    }
+}
+
+// Excel's sentence, then in parentheses why: the system's reason for a file that could not be
+// opened or written, what is wrong for a malformed package.
+[[noreturn]] void Refuse(const std::string& sentence, const ooxml::PackageError& failure) {
+    ThrowRefused(sentence + " (" + failure.what() + ")");
+}
+
+}  // namespace
+
 std::shared_ptr<WorkbookModel> OpenWorkbookFile(ApplicationModel& app, const std::string& path) {
     std::error_code error;
     const std::string fullName = std::filesystem::absolute(path, error).lexically_normal().string();
@@ -23,13 +84,7 @@ std::shared_ptr<WorkbookModel> OpenWorkbookFile(ApplicationModel& app, const std
     try {
         document = ooxml::ReadPackage(fullName);
     } catch (const ooxml::PackageError& failure) {
-        if (failure.reason() == ooxml::PackageError::Reason::FileNotFound ||
-            failure.reason() == ooxml::PackageError::Reason::PathNotFound) {
-            ThrowRefused("Sorry, we couldn't find " + fullName + ". Is it possible it was moved, renamed or deleted?");
-        }
-        ThrowRefused("Excel cannot open the file '" + std::filesystem::path(fullName).filename().string() +
-                     "' because the file format or file extension is not valid. Verify that the file has not been "
-                     "corrupted and that the file extension matches the format of the file.");
+        Refuse(OpenRefusal(fullName, failure.reason()), failure);
     }
     return app.AddOpenedWorkbook(fullName, [&](WorkbookModel& book) { LoadDocument(book, document); });
 }
@@ -38,18 +93,7 @@ void SaveWorkbookFile(const WorkbookModel& book, const std::string& fullName) {
     try {
         ooxml::WritePackage(ToDocument(book, book.App().userName, RowDelivery::Streamed), fullName);
     } catch (const ooxml::PackageError& failure) {
-        switch (failure.reason()) {
-            case ooxml::PackageError::Reason::PathNotFound:
-                ThrowRefused("Microsoft Excel cannot access the file '" + fullName +
-                             "'. There are several possible reasons:\n\n"
-                             "The file name or path does not exist.\n"
-                             "The file is being used by another program.\n"
-                             "The workbook you are trying to save has the same name as a currently open workbook.");
-            case ooxml::PackageError::Reason::AccessDenied:
-                ThrowRefused("Cannot access '" + std::filesystem::path(fullName).filename().string() + "'.");
-            default:
-                ThrowRefused("Document not saved.");
-        }
+        Refuse(SaveRefusal(fullName, failure.reason()), failure);
     }
 }
 
