@@ -121,7 +121,10 @@ PackageParts ReadPackageParts(const std::string& path) {
         const zip_int64_t read = zip_fread(file, bytes.data(), bytes.size());
         zip_fclose(file);
         bytes.resize(read < 0 ? 0 : static_cast<std::size_t>(read));
-        parts[stat.name] = std::move(bytes);
+        if (!parts.emplace(stat.name, std::move(bytes)).second) {
+            zip_discard(archive);
+            throw std::runtime_error(std::string("the package holds ") + stat.name + " twice");
+        }
     }
     zip_discard(archive);
     return parts;

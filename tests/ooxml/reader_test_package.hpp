@@ -42,7 +42,7 @@ private:
     std::string path_;
 };
 
-// The entries of a zip file, as they are stored.
+// The entries of a zip file, as they are stored; a name stored twice throws.
 PackageParts ReadPackageParts(const std::string& path);
 
 // The bytes of a file.

@@ -27,6 +27,8 @@ namespace ooxml {
 
 namespace {
 
+constexpr std::string_view kCarriedSheetTypes[] = {"chartsheet", "dialogsheet", "xlMacrosheet", "xlIntlMacrosheet"};
+
 constexpr std::array<std::string_view, 4> WorkbookContentTypes{
     "application/vnd.openxmlformats-officedocument.spreadsheetml.sheet.main+xml",
     "application/vnd.ms-excel.sheet.macroEnabled.main+xml",
@@ -44,6 +46,14 @@ constexpr std::array<std::string_view, 4> WorkbookContentTypes{
 
 // The workbook is the package's office document; a package that lost that relationship still
 // declares the part by its content type.
+// The sheets a workbook lists that the engine keeps whole rather than reads: chart sheets, dialog
+// sheets and macro sheets. Any other part named as a sheet (a theme, the styles) makes the file one
+// Excel would have to repair.
+bool IsCarriedSheetType(const Relationship& relationship) {
+    return std::any_of(std::begin(kCarriedSheetTypes), std::end(kCarriedSheetTypes),
+                       [&relationship](std::string_view type) { return HasRelationshipType(relationship, type); });
+}
+
 std::string WorkbookPartName(const ZipArchiveReader& archive, const ContentTypeMap& contentTypes,
                              const std::vector<Relationship>& packageRelationships, const std::string& path) {
     std::string partName;
@@ -189,6 +199,10 @@ private:
                 ThrowCorrupt("The sheet \"" + entry.name + "\" shares its part with another sheet");
             }
             if (!HasRelationshipType(*relationship, "worksheet")) {
+                if (!IsCarriedSheetType(*relationship)) {
+                    ThrowCorrupt("The sheet \"" + entry.name + "\" refers to a part that is no sheet (" +
+                                 relationship->target + ")");
+                }
                 const auto position = static_cast<uint32_t>(worksheetPositions.size());
                 carried_->sheets.push_back({entry.name, entry.state, position, *relationship});
                 worksheetPositions.emplace_back();
@@ -244,9 +258,11 @@ private:
         if (std::optional<std::string> xml = ReadRelatedPart(archive_, drawing)) {
             carried.drawing.relationships = ReadRelationships(archive_, drawing->target);
             std::set<std::string> chartIds;
-            sheet.shapes = ReadDrawing(*xml, drawing->target, carried, ChartLoader(carried.drawing.relationships, chartIds));
-            std::erase_if(carried.drawing.relationships,
-                          [&chartIds](const Relationship& relationship) { return chartIds.count(relationship.id) != 0; });
+            sheet.shapes =
+                ReadDrawing(*xml, drawing->target, carried, ChartLoader(carried.drawing.relationships, chartIds));
+            std::erase_if(carried.drawing.relationships, [&chartIds](const Relationship& relationship) {
+                return chartIds.count(relationship.id) != 0;
+            });
             carriedParts_.Rewritten(drawing->target);
             rewrittenIds.insert(drawing->id);
         }
@@ -278,13 +294,15 @@ private:
 
     // Reads the charts a drawing's frames show, when charts are read, noting the ids of the
     // relationships to those read: the writer writes them anew.
-    ChartFrameLoader ChartLoader(const std::vector<Relationship>& drawingRelationships, std::set<std::string>& readIds) {
+    ChartFrameLoader ChartLoader(const std::vector<Relationship>& drawingRelationships,
+                                 std::set<std::string>& readIds) {
         if (!options_.readCharts) {
             return {};
         }
         return [this, &drawingRelationships, &readIds](std::string_view id) -> std::shared_ptr<const ChartDocument> {
             const Relationship* relationship = FindRelationship(drawingRelationships, id);
-            std::shared_ptr<const ChartDocument> chart = relationship != nullptr ? charts_.Read(*relationship) : nullptr;
+            std::shared_ptr<const ChartDocument> chart =
+                relationship != nullptr ? charts_.Read(*relationship) : nullptr;
             if (chart) {
                 readIds.emplace(id);
             }

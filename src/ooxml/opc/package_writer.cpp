@@ -24,12 +24,12 @@
 #include "ooxml/zip/zip_writer.hpp"
 
 #include <algorithm>
-#include <exception>
 #include <array>
 #include <cctype>
+#include <exception>
+#include <filesystem>
 #include <iterator>
 #include <optional>
-#include <filesystem>
 #include <set>
 #include <vector>
 
@@ -75,7 +75,7 @@ void CheckDocument(const WorkbookDocument& document) {
 // The drawing, chart and comment parts of the sheets, numbered across the workbook.
 struct DrawingPlan {
     std::vector<PackagePart> drawings;
-    std::vector<PackagePart> charts;  // each chart, then its drawing
+    std::vector<PackagePart> charts;    // each chart, then its drawing
     std::vector<PackagePart> comments;  // each sheet's comments, then their legacy drawing
     uint32_t drawingCount = 0;
     uint32_t chartCount = 0;
@@ -142,7 +142,8 @@ SheetDrawingReferences PlanSheetDrawings(const SheetDocument& sheet, PackagePart
     const CarriedMarkup* carried = sheet.carried ? &sheet.carried->drawing : nullptr;
     if (!sheet.shapes.empty() || (carried != nullptr && !carried->elements.empty())) {
         const std::string drawing = PlanSheetDrawing(sheet, carried, names, plan);
-        references.drawing = sheetPart.relationships.Add(kDrawingRelationshipType, RelativeTarget(sheetPart.path, drawing));
+        references.drawing =
+            sheetPart.relationships.Add(kDrawingRelationshipType, RelativeTarget(sheetPart.path, drawing));
     }
     // The legacy drawing holds the notes and the shapes the opened one carries (form controls,
     // embedded objects' icons), with their relationships.
@@ -276,12 +277,19 @@ void PlanPackage(const WorkbookDocument& document, const std::string& path, Pack
         sheetParts.push_back(std::move(sheetPart));
     }
     const SheetOrder& order = package.sheetOrder = OrderSheets(document);
+    // The writer's own parts take Excel's names unless a part the file keeps has one of them.
+    uint32_t themeCount = 0;
+    const std::string themePath = keepsTheme ? std::string() : names.Next("xl/theme/theme", themeCount, ".xml");
+    const std::string stylesPath = names.Claim("xl/styles.xml");
+    const std::string sharedStringsPath = names.Claim("xl/sharedStrings.xml");
+    const std::string corePath = names.Claim("docProps/core.xml");
+    const std::string appPath = names.Claim("docProps/app.xml");
     if (!keepsTheme) {
-        workbook.relationships.Add(kThemeRelationshipType, "theme/theme1.xml");
+        workbook.relationships.Add(kThemeRelationshipType, RelativeTarget(workbook.path, themePath));
     }
-    workbook.relationships.Add(kStylesRelationshipType, "styles.xml");
+    workbook.relationships.Add(kStylesRelationshipType, RelativeTarget(workbook.path, stylesPath));
     if (!sharedStrings.strings.empty()) {
-        workbook.relationships.Add(kSharedStringsRelationshipType, "sharedStrings.xml");
+        workbook.relationships.Add(kSharedStringsRelationshipType, RelativeTarget(workbook.path, sharedStringsPath));
     }
     workbook.write = [&document, &order, sheetRelationshipIds, &targets = package.targets](XmlWriter& xml) {
         WriteWorkbookPart(xml, document, order, sheetRelationshipIds, targets);
@@ -293,8 +301,8 @@ void PlanPackage(const WorkbookDocument& document, const std::string& path, Pack
         }
     }
     package.relationships.Add(kOfficeDocumentRelationshipType, workbook.path);
-    package.relationships.Add(kCorePropertiesRelationshipType, "docProps/core.xml");
-    package.relationships.Add(kAppPropertiesRelationshipType, "docProps/app.xml");
+    package.relationships.Add(kCorePropertiesRelationshipType, corePath);
+    package.relationships.Add(kAppPropertiesRelationshipType, appPath);
 
     package.parts.push_back(std::move(workbook));
     for (PackagePart& sheetPart : sheetParts) {
@@ -310,17 +318,19 @@ void PlanPackage(const WorkbookDocument& document, const std::string& path, Pack
             carriedPackageParts.erase(theme);
         }
     } else {
-        package.parts.push_back({"xl/theme/theme1.xml", kThemeContentType,
-                                 [&document](XmlWriter& xml) { WriteThemePart(xml, document.themeColors); }, {}});
-    }
-    package.parts.push_back({"xl/styles.xml", kStylesContentType,
-                             [&document](XmlWriter& xml) { WriteStylesPart(xml, document); }, {}});
-    if (!sharedStrings.strings.empty()) {
-        package.parts.push_back({"xl/sharedStrings.xml", kSharedStringsContentType,
-                                 [&document, &sharedStrings](XmlWriter& xml) {
-                                     WriteSharedStringsPart(xml, document, sharedStrings);
-                                 },
+        package.parts.push_back({themePath,
+                                 kThemeContentType,
+                                 [&document](XmlWriter& xml) { WriteThemePart(xml, document.themeColors); },
                                  {}});
+    }
+    package.parts.push_back(
+        {stylesPath, kStylesContentType, [&document](XmlWriter& xml) { WriteStylesPart(xml, document); }, {}});
+    if (!sharedStrings.strings.empty()) {
+        package.parts.push_back(
+            {sharedStringsPath,
+             kSharedStringsContentType,
+             [&document, &sharedStrings](XmlWriter& xml) { WriteSharedStringsPart(xml, document, sharedStrings); },
+             {}});
     }
     for (std::vector<PackagePart>* parts : {&drawingPlan.drawings, &drawingPlan.charts, &drawingPlan.comments}) {
         for (PackagePart& part : *parts) {
@@ -330,15 +340,19 @@ void PlanPackage(const WorkbookDocument& document, const std::string& path, Pack
     for (PackagePart& part : carriedPackageParts) {
         package.parts.push_back(std::move(part));
     }
-    package.parts.push_back({"docProps/core.xml", kCorePropertiesContentType,
+    package.parts.push_back({corePath,
+                             kCorePropertiesContentType,
                              [&document](XmlWriter& xml) {
                                  WriteCorePropertiesPart(xml, document.properties,
                                                          document.carried && !document.carried->coreProperties.Empty()
                                                              ? &document.carried->coreProperties
                                                              : nullptr);
-                             }, {}});
-    package.parts.push_back({"docProps/app.xml", kAppPropertiesContentType,
-                             [&document](XmlWriter& xml) { WriteAppPropertiesPart(xml, document); }, {}});
+                             },
+                             {}});
+    package.parts.push_back({appPath,
+                             kAppPropertiesContentType,
+                             [&document](XmlWriter& xml) { WriteAppPropertiesPart(xml, document); },
+                             {}});
 }
 
 void WriteEntry(ZipWriter& zip, const std::string& path, const std::function<void(XmlWriter&)>& write) {
@@ -354,8 +368,7 @@ void WriteRelationships(ZipWriter& zip, const PackagePart& part) {
         WriteEntry(zip, RelationshipsPartPath(part.path),
                    [&part](XmlWriter& xml) { xml.Raw(part.verbatimRelationships); });
     } else if (!part.relationships.Empty()) {
-        WriteEntry(zip, RelationshipsPartPath(part.path),
-                   [&part](XmlWriter& xml) { part.relationships.Write(xml); });
+        WriteEntry(zip, RelationshipsPartPath(part.path), [&part](XmlWriter& xml) { part.relationships.Write(xml); });
     }
 }
 

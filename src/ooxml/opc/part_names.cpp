@@ -29,4 +29,13 @@ std::string PartNames::Next(std::string_view prefix, uint32_t& counter, std::str
     }
 }
 
+std::string PartNames::Claim(std::string_view partName) {
+    if (taken_.insert(Lower(partName)).second) {
+        return std::string(partName);
+    }
+    const std::size_t dot = partName.rfind('.');
+    uint32_t counter = 1;
+    return Next(partName.substr(0, dot), counter, dot == std::string_view::npos ? "" : partName.substr(dot));
+}
+
 }  // namespace ooxml

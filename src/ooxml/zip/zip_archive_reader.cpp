@@ -89,17 +89,23 @@ ZipEntryReader ZipArchiveReader::OpenAt(int64_t index, std::string_view entryNam
     if (file == nullptr) {
         throw PackageError(PackageError::Reason::Corrupt, "Cannot open entry " + where);
     }
-    return ZipEntryReader(file, where);
+    // An entry whose compressed size is unknown is held to the largest size alone.
+    return ZipEntryReader(file, where, Stated(index).compressed.value_or(ZipEntryReader::MaxSize));
 }
 
-std::optional<std::size_t> ZipArchiveReader::StatedSize(int64_t index) const {
+ZipArchiveReader::StatedSizes ZipArchiveReader::Stated(int64_t index) const {
     zip_stat_t stat;
     zip_stat_init(&stat);
-    if (zip_stat_index(archive_.get(), static_cast<zip_uint64_t>(index), 0, &stat) != 0 ||
-        (stat.valid & ZIP_STAT_SIZE) == 0) {
-        return std::nullopt;
+    StatedSizes sizes;
+    if (zip_stat_index(archive_.get(), static_cast<zip_uint64_t>(index), 0, &stat) == 0) {
+        if ((stat.valid & ZIP_STAT_SIZE) != 0) {
+            sizes.size = static_cast<std::size_t>(stat.size);
+        }
+        if ((stat.valid & ZIP_STAT_COMP_SIZE) != 0) {
+            sizes.compressed = static_cast<std::size_t>(stat.comp_size);
+        }
     }
-    return static_cast<std::size_t>(stat.size);
+    return sizes;
 }
 
 std::optional<std::string> ZipArchiveReader::Read(std::string_view entryName) const {
@@ -109,7 +115,8 @@ std::optional<std::string> ZipArchiveReader::Read(std::string_view entryName) co
     }
     ZipEntryReader entry = OpenAt(index, entryName);
     std::string bytes;
-    if (const std::optional<std::size_t> size = StatedSize(index); size && *size <= ZipEntryReader::MaxSize) {
+    // The stated size is the file's word only: room is made for no more than the reader accepts.
+    if (const std::optional<std::size_t> size = Stated(index).size; size && *size <= ZipEntryReader::GraceSize) {
         bytes.reserve(*size);
     }
     char buffer[64 * 1024];

@@ -35,8 +35,13 @@ private:
     // are not there (their relationships) as parts that are.
     int64_t Locate(std::string_view entryName) const;
     ZipEntryReader OpenAt(int64_t index, std::string_view entryName) const;
-    // The entry's size as the directory states it, which a hostile file may have made up.
-    std::optional<std::size_t> StatedSize(int64_t index) const;
+    // The entry's sizes, uncompressed and compressed, as the directory states them: a hostile file
+    // may have made them up.
+    struct StatedSizes {
+        std::optional<std::size_t> size;
+        std::optional<std::size_t> compressed;
+    };
+    StatedSizes Stated(int64_t index) const;
 
     struct Closer {
         void operator()(zip* archive) const;

@@ -10,8 +10,8 @@ void ZipEntryReader::Closer::operator()(zip_file* file) const {
     zip_fclose(file);
 }
 
-ZipEntryReader::ZipEntryReader(zip_file* file, std::string description)
-    : file_(file), description_(std::move(description)) {}
+ZipEntryReader::ZipEntryReader(zip_file* file, std::string description, std::size_t compressedSize)
+    : file_(file), description_(std::move(description)), compressedSize_(compressedSize) {}
 
 std::size_t ZipEntryReader::Read(char* buffer, std::size_t size) {
     const zip_int64_t count = zip_fread(file_.get(), buffer, size);
@@ -21,6 +21,11 @@ std::size_t ZipEntryReader::Read(char* buffer, std::size_t size) {
     total_ += static_cast<std::size_t>(count);
     if (total_ > MaxSize) {
         throw PackageError(PackageError::Reason::Corrupt, "Oversized entry " + description_);
+    }
+    if (total_ > GraceSize && total_ / MaxExpansion > compressedSize_) {
+        throw PackageError(PackageError::Reason::Corrupt,
+                           "Entry " + description_ + " expands more than " + std::to_string(MaxExpansion) + " times (" +
+                               std::to_string(compressedSize_) + " bytes compressed): taken for a zip bomb");
     }
     return static_cast<std::size_t>(count);
 }

@@ -9,14 +9,21 @@ struct zip_file;
 namespace ooxml {
 
 // One entry of a zip file, uncompressed piece by piece as it is read. Throws
-// PackageError(Corrupt) on damaged data, and on an entry that grows beyond MaxSize.
+// PackageError(Corrupt) on damaged data, and on an entry taken for a zip bomb: one that grows
+// beyond MaxSize, or beyond GraceSize to more than MaxExpansion times what it takes in the file.
 class ZipEntryReader {
 public:
-    // The largest entry read, uncompressed; a larger one is taken for a zip bomb.
+    // The largest entry read, uncompressed.
     static constexpr std::size_t MaxSize = std::size_t{1} << 30;
+    // Markup Excel writes deflates to a tenth or a twentieth, and little of it past a fiftieth (a
+    // long run of one comment's shapes); past a hundredth is repetition made to exhaust memory, as
+    // soon as there is enough of it to matter.
+    static constexpr std::size_t GraceSize = std::size_t{64} << 20;
+    static constexpr std::size_t MaxExpansion = 100;
 
-    // Takes over file; description names the entry in errors.
-    ZipEntryReader(zip_file* file, std::string description);
+    // Takes over file; description names the entry in errors; compressedSize is what the entry
+    // takes in the file.
+    ZipEntryReader(zip_file* file, std::string description, std::size_t compressedSize);
 
     // Fills buffer with up to size bytes and returns how many; 0 at the end of the entry.
     std::size_t Read(char* buffer, std::size_t size);
@@ -27,6 +34,7 @@ private:
     };
     std::unique_ptr<zip_file, Closer> file_;
     std::string description_;
+    std::size_t compressedSize_;
     std::size_t total_ = 0;
 };
 

@@ -1,4 +1,5 @@
 #include "ooxml/zip/zip_archive_reader.hpp"
+#include "ooxml/package_error.hpp"
 #include "ooxml/writer_test_support.hpp"
 #include "ooxml/zip/zip_writer.hpp"
 
@@ -6,6 +7,9 @@
 
 #include <fcntl.h>
 #include <unistd.h>
+
+#include <cstdint>
+#include <string>
 
 namespace {
 
@@ -40,6 +44,62 @@ TEST(ZipArchiveReader, FindsEntriesExactlyOrIgnoringCase) {
     EXPECT_FALSE(archive.Contains("docProps/core.xml"));
     EXPECT_EQ(archive.Read("docProps/core.xml"), std::nullopt);
     ASSERT_TRUE(archive.Open("xl/WORKBOOK.xml").has_value());
+}
+
+// The first of names that differ only in case is the one a case-folded lookup finds.
+TEST(ZipArchiveReader, ACaseFoldedLookupFindsTheFirstOfNamesEqualButForCase) {
+    ScratchFolder folder;
+    const std::string path = folder.File("a.zip");
+    WriteArchive(path, {{"xl/Styles.xml", "first"}, {"xl/STYLES.xml", "second"}});
+    EXPECT_EQ(ZipArchiveReader(path).Read("xl/styles.xml"), "first");
+}
+
+std::string Repeated(const std::string& piece, std::size_t size) {
+    std::string text;
+    text.reserve(size + piece.size());
+    while (text.size() < size) {
+        text += piece;
+    }
+    return text;
+}
+
+// A part that inflates past a hundred times its compressed size, once there is more of it than
+// any real part of that kind, is taken for a zip bomb before it fills memory.
+TEST(ZipArchiveReader, AnEntryThatExpandsAHundredfoldPastTheGraceSizeIsRefused) {
+    ScratchFolder folder;
+    const std::string path = folder.File("bomb.zip");
+    WriteArchive(path, {{"xl/sharedStrings.xml", Repeated("<si><t>a</t></si>", ZipEntryReader::GraceSize + 1024)}});
+    try {
+        ZipArchiveReader(path).Read("xl/sharedStrings.xml");
+        FAIL() << "read";
+    } catch (const PackageError& error) {
+        EXPECT_EQ(error.reason(), PackageError::Reason::Corrupt);
+        EXPECT_NE(std::string(error.what())
+                      .find("Entry xl/sharedStrings.xml in " + path +
+                            " expands more than 100 "
+                            "times"),
+                  std::string::npos)
+            << error.what();
+        EXPECT_NE(std::string(error.what()).find("taken for a zip bomb"), std::string::npos);
+    }
+}
+
+// Repetition alone is no bomb: a part under the grace size may deflate as well as it likes, and
+// a large one that compresses as real markup does is read whole.
+TEST(ZipArchiveReader, RepetitiveEntriesUnderTheGraceSizeAndLargeOrdinaryOnesAreRead) {
+    ScratchFolder folder;
+    const std::string path = folder.File("large.zip");
+    const std::string repetitive = Repeated(R"(<xf numFmtId="0" fontId="0" fillId="0" borderId="0"/>)", 8u << 20);
+    std::string ordinary;
+    ordinary.reserve(ZipEntryReader::GraceSize + (1u << 20));
+    for (uint32_t row = 1; ordinary.size() <= ZipEntryReader::GraceSize; ++row) {
+        ordinary += "<row r=\"" + std::to_string(row) + "\"><c r=\"A" + std::to_string(row) + "\"><v>" +
+                    std::to_string(row * 2654435761u) + "</v></c></row>";
+    }
+    WriteArchive(path, {{"xl/styles.xml", repetitive}, {"xl/worksheets/sheet1.xml", ordinary}});
+    const ZipArchiveReader archive(path);
+    EXPECT_EQ(archive.Read("xl/styles.xml")->size(), repetitive.size());
+    EXPECT_EQ(archive.Read("xl/worksheets/sheet1.xml")->size(), ordinary.size());
 }
 
 }  // namespace

@@ -8,6 +8,8 @@
 #include "ooxml/package_error.hpp"
 
 #include <filesystem>
+#include <new>
+#include <string_view>
 #include <system_error>
 
 namespace excel::embedded {
@@ -15,6 +17,10 @@ namespace excel::embedded {
 namespace {
 
 using Reason = ooxml::PackageError::Reason;
+
+// Excel's sentence when memory runs out.
+constexpr std::string_view kOutOfMemory =
+    "Excel cannot complete this task with available resources. Choose less data or close other applications.";
 
 // A path as a message shows it: a NUL would end the text wherever it is read as a C string, so it
 // shows as U+FFFD.
@@ -80,13 +86,17 @@ std::shared_ptr<WorkbookModel> OpenWorkbookFile(ApplicationModel& app, const std
         app.ActivateWorkbook(*open);
         return open;
     }
-    ooxml::WorkbookDocument document;
     try {
-        document = ooxml::ReadPackage(fullName);
-    } catch (const ooxml::PackageError& failure) {
-        Refuse(OpenRefusal(fullName, failure.reason()), failure);
+        ooxml::WorkbookDocument document;
+        try {
+            document = ooxml::ReadPackage(fullName);
+        } catch (const ooxml::PackageError& failure) {
+            Refuse(OpenRefusal(fullName, failure.reason()), failure);
+        }
+        return app.AddOpenedWorkbook(fullName, [&](WorkbookModel& book) { LoadDocument(book, document); });
+    } catch (const std::bad_alloc&) {
+        ThrowRefused(std::string(kOutOfMemory) + " (opening the file: out of memory)");
     }
-    return app.AddOpenedWorkbook(fullName, [&](WorkbookModel& book) { LoadDocument(book, document); });
 }
 
 void SaveWorkbookFile(const WorkbookModel& book, const std::string& fullName) {
@@ -94,6 +104,8 @@ void SaveWorkbookFile(const WorkbookModel& book, const std::string& fullName) {
         ooxml::WritePackage(ToDocument(book, book.App().userName, RowDelivery::Streamed), fullName);
     } catch (const ooxml::PackageError& failure) {
         Refuse(SaveRefusal(fullName, failure.reason()), failure);
+    } catch (const std::bad_alloc&) {
+        ThrowRefused(std::string(kOutOfMemory) + " (saving the file: out of memory)");
     }
 }
 
