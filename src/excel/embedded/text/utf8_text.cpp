@@ -111,6 +111,14 @@ bool IsNameLetter(char32_t c) {
              c == 0xFEFF || c == ReplacementCharacter);
 }
 
+size_t Utf16Length(std::string_view text) {
+    size_t units = 0;
+    for (size_t position = 0; position < text.size();) {
+        units += NextCodePoint(text, position) >= 0x10000 ? 2 : 1;
+    }
+    return units;
+}
+
 std::u32string FoldedCodePoints(std::string_view text) {
     std::u32string folded;
     folded.reserve(text.size());

@@ -13,6 +13,10 @@ char32_t NextCodePoint(std::string_view text, size_t& position);
 // The number of code points in UTF-8 text, as Excel counts characters (malformed bytes count one each).
 size_t CodePointCount(std::string_view text);
 
+// The number of UTF-16 code units the text takes, in which Excel states its limits on text (a
+// character beyond the Basic Multilingual Plane counts two).
+size_t Utf16Length(std::string_view text);
+
 // The lower-case form of a letter in the Latin, Greek and Cyrillic scripts; other code points
 // unchanged. Enough for the case-insensitive comparisons of sheet and defined names.
 char32_t FoldCase(char32_t codePoint);

@@ -4,12 +4,14 @@
 #include "excel/embedded/model/date_system.hpp"
 #include "excel/embedded/text/general_format.hpp"
 #include "excel/embedded/text/text_entry.hpp"
+#include "excel/embedded/text/utf8_text.hpp"
 
 #include <excel/constants.hpp>
 #include <excel/safe_array.hpp>
 
 #include <cmath>
 #include <string>
+#include <string_view>
 #include <variant>
 
 namespace excel::embedded {
@@ -39,6 +41,41 @@ void SetNumber(Cell& cell, double number) {
     cell.number = number;
 }
 
+// Excel's limits on what a cell holds: text of 32,767 characters, and a formula of 8,192 whose
+// parentheses, brackets, quoted texts and quoted sheet names all close. The formula rules apply to
+// every text that starts with "=", whatever the cell's number format.
+constexpr size_t kMaxCellCharacters = 32767;
+constexpr size_t kMaxFormulaCharacters = 8192;
+
+bool IsBalancedFormula(std::string_view formula) {
+    int parentheses = 0;
+    int brackets = 0;
+    char quote = 0;  // the quote a quoted text or sheet name is open with; a doubled one reopens it
+    for (const char c : formula) {
+        if (quote != 0) {
+            quote = c == quote ? 0 : quote;
+        } else if (c == '"' || c == '\'') {
+            quote = c;
+        } else if (c == '(' || c == ')') {
+            parentheses += c == '(' ? 1 : -1;
+        } else if (c == '[' || c == ']') {
+            brackets += c == '[' ? 1 : -1;
+        }
+        if (parentheses < 0 || brackets < 0) {
+            return false;
+        }
+    }
+    return quote == 0 && parentheses == 0 && brackets == 0;
+}
+
+bool IsStorableText(std::string_view text) {
+    const size_t length = Utf16Length(text);
+    if (length > kMaxCellCharacters) {
+        return false;
+    }
+    return !text.starts_with('=') || (length - 1 <= kMaxFormulaCharacters && IsBalancedFormula(text.substr(1)));
+}
+
 }  // namespace
 
 int32_t ErrorValueCode(int32_t errorNumber) {
@@ -49,7 +86,18 @@ bool IsStorableValue(const Variant& value) {
     if (value.IsArray() || value.IsObject()) {
         return false;
     }
-    return !value.IsError() || ErrorNumberOf(value).has_value();
+    switch (value.Type()) {
+        case VarType::Single:
+        case VarType::Double:
+        case VarType::Date:
+            return std::isfinite(value.ToDouble());
+        case VarType::String:
+            return IsStorableText(value.ToString());
+        case VarType::Error:
+            return ErrorNumberOf(value).has_value();
+        default:
+            return true;
+    }
 }
 
 void CellValueWriter::Store(Cell& cell, const Variant& value) {

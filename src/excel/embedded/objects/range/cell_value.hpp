@@ -11,7 +11,8 @@
 
 namespace excel::embedded {
 
-// Whether Range.Value can store the value in a cell (no objects, arrays or unknown error codes).
+// Whether Range.Value can store the value in a cell: no objects, arrays, unknown error codes,
+// NaN or infinities, nor texts or formulas beyond what Excel lets a cell hold.
 bool IsStorableValue(const Variant& value);
 
 // Stores values in cells as assigning Range.Value does: strings follow the text entry rules, and
