@@ -280,8 +280,6 @@ struct ChartDocument {
     // The chart drawing's root attributes and its anchors that are not text boxes (pictures,
     // groups), a slot counting the text boxes below.
     CarriedMarkup drawingCarried;
-
-    friend bool operator==(const ChartDocument&, const ChartDocument&) = default;
 };
 
 }  // namespace ooxml
