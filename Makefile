@@ -11,8 +11,11 @@ EXAMPLES := $(basename $(notdir $(wildcard examples/*.cpp)))
 BENCHMARKS := $(filter-out com_table_bench,$(basename $(notdir $(wildcard bench/*.cpp))))
 WINDOWS_BUILD_DIR := build-windows
 WINE64 := $(firstword $(wildcard /usr/lib/wine/wine64) $(shell command -v wine64))
+# make fuzz: how long each fuzz target runs (FUZZ_SECONDS=3600 for an hour), and which run.
+FUZZ_SECONDS := 600
+FUZZERS := open open_save
 
-.PHONY: all deps configure build test demo bench bench-com sanitize clean
+.PHONY: all deps configure build test demo bench bench-com sanitize fuzz clean
 
 all: build
 
@@ -62,5 +65,19 @@ sanitize: deps
 	cmake --build --preset sanitize --parallel $(JOBS)
 	ctest --preset sanitize --parallel $(JOBS)
 
+# The fuzz targets (fuzz/) under ASan and UBSan, side by side for FUZZ_SECONDS each. The corpus of
+# each grows from run to run in build-fuzz/runs/<fuzzer>/corpus; the input behind a finding is kept
+# in build-fuzz/runs/<fuzzer>/crashes, libFuzzer's output in build-fuzz/runs/<fuzzer>/fuzz.log.
+fuzz: deps
+	cmake --preset fuzz
+	cmake --build --preset fuzz --parallel $(JOBS)
+	@status=0; pids=""; \
+	for fuzzer in $(FUZZERS); do \
+	    fuzz/run-fuzzer --log build-fuzz/fuzz/$${fuzzer}_fuzzer $(FUZZ_SECONDS) build-fuzz/runs/$$fuzzer \
+	        build-fuzz/fuzz/seeds/library build-fuzz/fuzz/seeds/excel & pids="$$pids $$!"; \
+	done; \
+	for pid in $$pids; do wait $$pid || status=1; done; \
+	exit $$status
+
 clean:
-	rm -rf $(BUILD_DIR) build-sanitize $(WINDOWS_BUILD_DIR) $(OUT_DIR)
+	rm -rf $(BUILD_DIR) build-sanitize $(WINDOWS_BUILD_DIR) build-fuzz $(OUT_DIR)
