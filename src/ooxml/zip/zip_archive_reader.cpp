@@ -90,7 +90,8 @@ ZipEntryReader ZipArchiveReader::OpenAt(int64_t index, std::string_view entryNam
         throw PackageError(PackageError::Reason::Corrupt, "Cannot open entry " + where);
     }
     // An entry whose compressed size is unknown is held to the largest size alone.
-    return ZipEntryReader(file, where, Stated(index).compressed.value_or(ZipEntryReader::MaxSize));
+    const StatedSizes stated = Stated(index);
+    return ZipEntryReader(file, where, stated.compressed.value_or(ZipEntryReader::MaxSize), stated.size);
 }
 
 ZipArchiveReader::StatedSizes ZipArchiveReader::Stated(int64_t index) const {

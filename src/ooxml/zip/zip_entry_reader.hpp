@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
 
 struct zip_file;
@@ -22,13 +23,18 @@ public:
     static constexpr std::size_t MaxExpansion = 100;
 
     // Takes over file; description names the entry in errors; compressedSize is what the entry
-    // takes in the file.
-    ZipEntryReader(zip_file* file, std::string description, std::size_t compressedSize);
+    // takes in the file, statedSize what its directory says it inflates to (checked at once,
+    // though only what is read counts).
+    ZipEntryReader(zip_file* file, std::string description, std::size_t compressedSize,
+                   std::optional<std::size_t> statedSize);
 
     // Fills buffer with up to size bytes and returns how many; 0 at the end of the entry.
     std::size_t Read(char* buffer, std::size_t size);
 
 private:
+    // Refuses an entry of that size: beyond MaxSize, or a bomb.
+    void CheckSize(std::size_t size) const;
+
     struct Closer {
         void operator()(zip_file* file) const;
     };

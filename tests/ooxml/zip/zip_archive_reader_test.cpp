@@ -7,6 +7,7 @@
 
 #include <fcntl.h>
 #include <unistd.h>
+#include <zip.h>
 
 #include <cstdint>
 #include <string>
@@ -82,6 +83,35 @@ TEST(ZipArchiveReader, AnEntryThatExpandsAHundredfoldPastTheGraceSizeIsRefused) 
             << error.what();
         EXPECT_NE(std::string(error.what()).find("taken for a zip bomb"), std::string::npos);
     }
+}
+
+// A file may state any size for an entry: what is inflated counts, whatever it said.
+TEST(ZipEntryReader, AnEntryWhoseStatedSizeHidesTheBombIsRefusedAsItInflates) {
+    ScratchFolder folder;
+    const std::string path = folder.File("bomb.zip");
+    WriteArchive(path, {{"xl/styles.xml", Repeated("<xf/>", ZipEntryReader::GraceSize + 1024)}});
+    int error = 0;
+    zip_t* archive = zip_open(path.c_str(), ZIP_RDONLY, &error);
+    ASSERT_NE(archive, nullptr);
+    zip_stat_t stat;
+    ASSERT_EQ(zip_stat_index(archive, 0, 0, &stat), 0);
+    {  // the entry is closed before its archive
+        ZipEntryReader entry(zip_fopen_index(archive, 0, 0), "xl/styles.xml", static_cast<std::size_t>(stat.comp_size),
+                             std::size_t{1000});
+        char buffer[1 << 16];
+        std::size_t read = 0;
+        try {
+            while (const std::size_t count = entry.Read(buffer, sizeof buffer)) {
+                read += count;
+            }
+            ADD_FAILURE() << "read whole";
+        } catch (const PackageError& refusal) {
+            EXPECT_NE(std::string(refusal.what()).find("taken for a zip bomb"), std::string::npos);
+            EXPECT_GT(read, ZipEntryReader::GraceSize - sizeof buffer);
+            EXPECT_LT(read, ZipEntryReader::GraceSize + sizeof buffer);
+        }
+    }
+    zip_discard(archive);
 }
 
 // Repetition alone is no bomb: a part under the grace size may deflate as well as it likes, and
