@@ -203,6 +203,11 @@ private:
                     ThrowCorrupt("The sheet \"" + entry.name + "\" refers to a part that is no sheet (" +
                                  relationship->target + ")");
                 }
+                // Kept whole, the part must say what it is, or it could not be written again.
+                if (contentTypes_.Of(relationship->target).empty()) {
+                    ThrowCorrupt("The sheet \"" + entry.name + "\" has a part of no content type (" +
+                                 relationship->target + ")");
+                }
                 const auto position = static_cast<uint32_t>(worksheetPositions.size());
                 carried_->sheets.push_back({entry.name, entry.state, position, *relationship});
                 worksheetPositions.emplace_back();

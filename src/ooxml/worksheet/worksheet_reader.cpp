@@ -2,6 +2,7 @@
 
 #include "ooxml/carried/carried_attributes.hpp"
 #include "ooxml/carried/carried_element_collector.hpp"
+#include "ooxml/package_error.hpp"
 #include "ooxml/reference/cell_reference_reader.hpp"
 #include "ooxml/worksheet/outline_level.hpp"
 #include "ooxml/worksheet/sheet_data_reader.hpp"
@@ -11,6 +12,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace ooxml {
 
@@ -19,8 +21,8 @@ namespace {
 constexpr double MaxColumnWidth = 255.0;
 
 // The elements around the cells that the reader takes settings from.
-constexpr std::string_view SettingElements[] = {"sheetViews", "sheetFormatPr", "cols",   "mergeCells",
-                                                "printOptions", "drawing",      "legacyDrawing"};
+constexpr std::string_view SettingElements[] = {"sheetViews",   "sheetFormatPr", "cols",         "mergeCells",
+                                                "printOptions", "drawing",       "legacyDrawing"};
 // Elements the writer makes anew from the cells.
 constexpr std::string_view DerivedElements[] = {"dimension"};
 
@@ -176,9 +178,15 @@ SheetDrawingReferences ReadWorksheet(const XmlByteSource& source, std::string_vi
     }
     carried.worksheet.rootAttributes = AttributesExcept(scanner.Attributes(), {"xmlns", "xmlns:r"});
     CarriedElementCollector elements(WorksheetElementOrder, carried.worksheet.elements);
+    bool sheetDataRead = false;
     while (scanner.NextChild(1)) {
         const std::string_view name = scanner.LocalName();
         if (name == "sheetData") {
+            // A second one would repeat rows, which no file may hold and Excel would repair.
+            if (std::exchange(sheetDataRead, true)) {
+                throw PackageError(PackageError::Reason::Corrupt,
+                                   "More than one sheetData in " + std::string(partName));
+            }
             elements.Pass(name);
             ReadSheetData(scanner, partName, context, sheet);
         } else if (Lists(SettingElements, name)) {

@@ -1,5 +1,6 @@
 #include "excel/embedded/document/workbook_file.hpp"
 
+#include "excel/embedded/document/opened_document_repair.hpp"
 #include "excel/embedded/document/workbook_document_conversion.hpp"
 #include "excel/embedded/engine_errors.hpp"
 
@@ -9,6 +10,8 @@
 
 #include <filesystem>
 #include <new>
+#include <optional>
+#include <string>
 #include <string_view>
 #include <system_error>
 
@@ -92,6 +95,9 @@ std::shared_ptr<WorkbookModel> OpenWorkbookFile(ApplicationModel& app, const std
             document = ooxml::ReadPackage(fullName);
         } catch (const ooxml::PackageError& failure) {
             Refuse(OpenRefusal(fullName, failure.reason()), failure);
+        }
+        if (const std::optional<std::string> refusal = RepairOpenedDocument(document)) {
+            ThrowRefused(OpenRefusal(fullName, Reason::Corrupt) + " (" + *refusal + ")");
         }
         return app.AddOpenedWorkbook(fullName, [&](WorkbookModel& book) { LoadDocument(book, document); });
     } catch (const std::bad_alloc&) {
