@@ -2,9 +2,16 @@
 // each is refused with the reason named, or opened and saved into a file Excel opens without repair.
 
 #include "embedded/document/save_open_fixture.hpp"
+#include "ooxml/child_process.hpp"
 #include "ooxml/reader_test_package.hpp"
 
 #include <gmock/gmock.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <cstddef>
+#include <fstream>
+#include <optional>
 
 #include <string>
 #include <utility>
@@ -16,6 +23,14 @@ using ooxml_test::RelationshipsPart;
 using ::testing::HasSubstr;
 
 namespace {
+
+// The address space the process holds, in bytes.
+std::size_t CurrentAddressSpace() {
+    std::ifstream status("/proc/self/statm");
+    std::size_t pages = 0;
+    status >> pages;
+    return pages * static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+}
 
 constexpr const char* kEmptySheet = "<sheetData/>";
 
@@ -230,6 +245,46 @@ TEST_F(HostilePackageSaveOpenTest, ASheetWithTwoSheetDataIsRefused) {
     EXPECT_THAT(Refusal(ooxml_test::MinimalPackage(
                     R"(<sheetData><row r="1"><c r="A1"><v>1</v></c></row></sheetData><sheetData/>)")),
                 HasSubstr("(More than one sheetData in xl/worksheets/sheet1.xml)"));
+}
+
+// Memory running out while opening is Excel's error, not an exception of another kind: the test
+// opens, in a child process limited to a little more address space than it holds, a workbook
+// whose 48 MB of tiny texts need several times that.
+TEST_F(HostilePackageSaveOpenTest, RunningOutOfMemoryWhileOpeningIsExcelsError) {
+#if defined(__SANITIZE_ADDRESS__)
+    GTEST_SKIP() << "AddressSanitizer reserves more address space than the limit leaves";
+#else
+    ooxml_test::PackageParts parts = ooxml_test::MinimalPackage(kEmptySheet);
+    parts["xl/_rels/workbook.xml.rels"] =
+        RelationshipsPart({Relationship("rId1", "worksheet", "worksheets/sheet1.xml"),
+                           Relationship("rId2", "sharedStrings", "sharedStrings.xml")});
+    std::string& strings = parts["xl/sharedStrings.xml"] =
+        R"(<sst xmlns="http://schemas.openxmlformats.org/spreadsheetml/2006/main">)";
+    for (int item = 0; item < 3'000'000; ++item) {
+        strings += "<si><t>a</t></si>";
+    }
+    strings += "</sst>";
+    const ooxml_test::TemporaryPackage package(parts);
+    parts.clear();
+    const std::optional<std::string> answer = ooxml_test::RunInChild(
+        [] {
+            rlimit limit{};
+            getrlimit(RLIMIT_AS, &limit);
+            limit.rlim_cur = static_cast<rlim_t>(CurrentAddressSpace() + (160u << 20));
+            return setrlimit(RLIMIT_AS, &limit) == 0;
+        },
+        [&]() -> std::string {
+            try {
+                app->Workbooks()->Open(package.Path());
+            } catch (const AutomationError& error) {
+                return error.what();
+            }
+            return "opened";
+        });
+    ASSERT_TRUE(answer.has_value());
+    EXPECT_THAT(*answer, HasSubstr("Excel cannot complete this task with available resources. Choose less data or "
+                                   "close other applications. (opening the file: out of memory)"));
+#endif
 }
 
 // Many sheets and names open and save in time proportional to them (the benchmark measures it);
