@@ -60,8 +60,8 @@ void WritePackage(const Workload& load, const std::string& path) {
                          R"(worksheet" Target="worksheets/sheet)" + number + R"(.xml"/>)";
     }
     for (int name = 0; name < load.names; ++name) {
-        names += R"(<definedName name="Name_)" + std::to_string(name) + R"(">S1!$A$)" + std::to_string(name % 1000 + 1) +
-                 "</definedName>";
+        names += R"(<definedName name="Name_)" + std::to_string(name) + R"(">S1!$A$)" +
+                 std::to_string(name % 1000 + 1) + "</definedName>";
     }
     if (!load.repeatedPart.empty()) {
         relationships += R"(<Relationship Id="rIdX" Type=")" + std::string(kRelationshipType) + load.repeatedPart +
