@@ -178,6 +178,15 @@ TEST_F(HostilePackageSaveOpenTest, SheetNamesExcelDoesNotAllowAreRefused) {
     EXPECT_EQ(app->Workbooks()->Count(), 1);
 }
 
+TEST_F(HostilePackageSaveOpenTest, ASheetNameOfMalformedUtf8OpensAsItWillBeSaved) {
+    const ooxml_test::TemporaryPackage package(SheetsPackage({{"Shee\xD1t1", "visible"}}, kEmptySheet));
+    auto workbook = Open(package);
+    EXPECT_EQ(workbook->Worksheets(1)->Name(), "Shee\xEF\xBF\xBDt1");
+    workbook->SaveAs(PathOf("named.xlsx"));
+    workbook->Close(false);
+    EXPECT_EQ(app->Workbooks()->Open(PathOf("named.xlsx"))->Worksheets(1)->Name(), "Shee\xEF\xBF\xBDt1");
+}
+
 TEST_F(HostilePackageSaveOpenTest, AWorkbookWhoseSheetsAreAllHiddenShowsItsFirst) {
     const ooxml_test::TemporaryPackage package(SheetsPackage({{"One", "hidden"}, {"Two", "veryHidden"}}, kEmptySheet));
     auto workbook = Open(package);

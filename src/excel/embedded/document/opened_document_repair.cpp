@@ -33,7 +33,7 @@ std::vector<std::string_view> SheetNames(const ooxml::WorkbookDocument& document
 std::optional<std::string> CheckSheetNames(const ooxml::WorkbookDocument& document) {
     std::unordered_set<std::u32string> seen;
     for (const std::string_view name : SheetNames(document)) {
-        if (!IsValidSheetName(name)) {
+        if (!IsValidSheetName(name) || WithMalformedBytesReplaced(name) != name) {
             return "The sheet name \"" + std::string(name) + "\" is not one Excel allows";
         }
         if (!seen.insert(FoldedCodePoints(name)).second) {
@@ -123,7 +123,20 @@ void DropInvalidNames(std::vector<ooxml::DefinedName>& names) {
 
 }  // namespace
 
+// A name that is no valid UTF-8 would be saved with U+FFFD in place of its stray bytes, and so
+// would no longer be the name the workbook's formulas use: the names are read as they will be
+// saved.
+void ReplaceMalformedBytes(ooxml::WorkbookDocument& document) {
+    for (ooxml::SheetDocument& sheet : document.sheets) {
+        sheet.name = WithMalformedBytesReplaced(sheet.name);
+    }
+    for (ooxml::DefinedName& name : document.names) {
+        name.name = WithMalformedBytesReplaced(name.name);
+    }
+}
+
 std::optional<std::string> RepairOpenedDocument(ooxml::WorkbookDocument& document) {
+    ReplaceMalformedBytes(document);
     if (std::optional<std::string> refusal = CheckSheetNames(document)) {
         return refusal;
     }

@@ -119,6 +119,20 @@ size_t Utf16Length(std::string_view text) {
     return units;
 }
 
+std::string WithMalformedBytesReplaced(std::string_view text) {
+    std::string replaced;
+    replaced.reserve(text.size());
+    for (size_t position = 0; position < text.size();) {
+        const size_t start = position;
+        if (NextCodePoint(text, position) == 0xFFFD) {
+            replaced += "\xEF\xBF\xBD";
+        } else {
+            replaced.append(text.substr(start, position - start));
+        }
+    }
+    return replaced;
+}
+
 std::u32string FoldedCodePoints(std::string_view text) {
     std::u32string folded;
     folded.reserve(text.size());

@@ -28,6 +28,9 @@ bool IsNameLetter(char32_t codePoint);
 // UTF-8 strings equal once case is folded.
 bool EqualsIgnoringCase(std::string_view a, std::string_view b);
 
+// The text with each malformed byte replaced by U+FFFD, as a saved file spells it.
+std::string WithMalformedBytesReplaced(std::string_view text);
+
 // The text's code points with case folded: equal for the texts EqualsIgnoringCase finds equal, so
 // it keys a hash lookup of names.
 std::u32string FoldedCodePoints(std::string_view text);
