@@ -8,7 +8,8 @@ namespace ooxml {
 
 pugi::xml_node ReadChartPartRoot(pugi::xml_document& document, std::string& text, std::string_view rootName,
                                  std::span<const NamespaceBinding> bindings) {
-    if (!document.load_buffer_inplace(text.data(), text.size(), XmlPartParseOptions, pugi::encoding_auto)) {
+    if (!HoldsNoNul(text) ||
+        !document.load_buffer_inplace(text.data(), text.size(), XmlPartParseOptions, pugi::encoding_auto)) {
         return {};
     }
     const pugi::xml_node root = document.document_element();

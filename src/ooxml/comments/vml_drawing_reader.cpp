@@ -192,7 +192,8 @@ void ReadShapes(pugi::xml_node parent, std::vector<CellComment>& comments) {
 void ReadVmlDrawing(std::string& xml, std::vector<CellComment>& comments, CarriedWorksheet& carried) {
     pugi::xml_document document;
     // Excel breaks long attributes (style) over lines; as in any XML, they read as spaces.
-    if (!document.load_buffer_inplace(xml.data(), xml.size(), XmlPartParseOptions | pugi::parse_wconv_attribute)) {
+    if (!HoldsNoNul(xml) ||
+        !document.load_buffer_inplace(xml.data(), xml.size(), XmlPartParseOptions | pugi::parse_wconv_attribute)) {
         return;
     }
     ReadShapes(document.document_element(), comments);

@@ -1,12 +1,14 @@
 #include "ooxml/opc/relationships_reader.hpp"
 
 #include "ooxml/opc/percent_decoder.hpp"
+#include "ooxml/package_error.hpp"
 #include "ooxml/xml/xml_node_access.hpp"
 #include "ooxml/xml/xml_part_parser.hpp"
 #include "ooxml/zip/zip_archive_reader.hpp"
 
 #include <algorithm>
 #include <optional>
+#include <unordered_set>
 
 namespace ooxml {
 
@@ -62,9 +64,19 @@ std::vector<Relationship> ReadRelationships(const ZipArchiveReader& archive, std
     pugi::xml_document document;
     ParseXmlPart(document, *xml, partName);
     std::vector<Relationship> relationships;
+    std::unordered_set<std::string> ids;
     ForEachChild(document.document_element(), "Relationship", [&](pugi::xml_node node) {
         Relationship relationship;
         relationship.id = AttributeText(node, "Id");
+        // Markup refers to a relationship by its id: one without, or one used twice, could only be
+        // written back into a part Excel would repair.
+        if (relationship.id.empty() || !ids.insert(relationship.id).second) {
+            throw PackageError(PackageError::Reason::Corrupt,
+                               "A relationship " +
+                                   (relationship.id.empty() ? std::string("without an Id")
+                                                            : "Id \"" + relationship.id + "\" used twice") +
+                                   " in " + partName);
+        }
         relationship.type = AttributeText(node, "Type");
         relationship.external = AttributeText(node, "TargetMode") == "External";
         const std::string_view target = AttributeText(node, "Target");

@@ -44,7 +44,7 @@ std::optional<uint32_t> SchemeColor(pugi::xml_node entry) {
 
 std::optional<std::array<uint32_t, 12>> ReadThemeColors(std::string_view xml) {
     pugi::xml_document document;
-    if (!document.load_buffer(xml.data(), xml.size(), XmlPartParseOptions)) {
+    if (!HoldsNoNul(xml) || !document.load_buffer(xml.data(), xml.size(), XmlPartParseOptions)) {
         return std::nullopt;
     }
     const pugi::xml_node theme = document.document_element();

@@ -7,6 +7,9 @@
 namespace ooxml {
 
 void ParseXmlPart(pugi::xml_document& document, std::string& text, std::string_view partName) {
+    if (!HoldsNoNul(text)) {
+        throw PackageError(PackageError::Reason::Corrupt, "A NUL character in " + std::string(partName));
+    }
     const pugi::xml_parse_result result =
         document.load_buffer_inplace(text.data(), text.size(), XmlPartParseOptions, pugi::encoding_auto);
     // Memory running out is no fault of the file, and is reported as such by whoever opens it.

@@ -128,7 +128,12 @@ bool XmlPullScanner::Fill() {
         sourceEnded_ = true;
         return false;
     }
-    end_ += std::min(count, buffer_.size() - end_);
+    const std::size_t added = std::min(count, buffer_.size() - end_);
+    if (std::memchr(buffer_.data() + end_, '\0', added) != nullptr) {
+        end_ += added;
+        ThrowCorrupt("a NUL character, which XML does not allow");
+    }
+    end_ += added;
     return true;
 }
 

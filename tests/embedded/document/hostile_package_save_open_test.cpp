@@ -168,6 +168,28 @@ TEST_F(HostilePackageSaveOpenTest, AChartSheetWhosePartHasNoContentTypeIsRefused
                 HasSubstr(R"((The sheet "Chart" has a part of no content type (xl/chartsheets/sheet1.bin)))"));
 }
 
+// XML allows no NUL character: a part holding one is refused whichever reader meets it, rather
+// than read up to the NUL by one and kept whole for another to fail on.
+TEST_F(HostilePackageSaveOpenTest, APartHoldingANulCharacterIsRefused) {
+    ooxml_test::PackageParts parts = ooxml_test::MinimalPackage(kEmptySheet);
+    parts["xl/workbook.xml"].insert(parts["xl/workbook.xml"].find("<sheets>"), std::string("\0", 1));
+    EXPECT_THAT(Refusal(parts), HasSubstr("(A NUL character in xl/workbook.xml)"));
+    const std::string sheet =
+        std::string("<sheetData><row r=\"1\"><c r=\"A1\"><v>1") + '\0' + "</v></c></row></sheetData>";
+    EXPECT_THAT(Refusal(ooxml_test::MinimalPackage(sheet)), HasSubstr("a NUL character, which XML does not allow"));
+}
+
+TEST_F(HostilePackageSaveOpenTest, RelationshipsWithoutAnIdOrWithOneUsedTwiceAreRefused) {
+    ooxml_test::PackageParts parts = ooxml_test::MinimalPackage(kEmptySheet);
+    parts["xl/worksheets/_rels/sheet1.xml.rels"] =
+        RelationshipsPart({R"(<Relationship Type="http://example.com/kept" Target="../kept.xml"/>)"});
+    EXPECT_THAT(Refusal(parts), HasSubstr("(A relationship without an Id in xl/worksheets/_rels/sheet1.xml.rels)"));
+    parts.erase("xl/worksheets/_rels/sheet1.xml.rels");
+    parts["xl/_rels/workbook.xml.rels"] = RelationshipsPart(
+        {Relationship("rId1", "worksheet", "worksheets/sheet1.xml"), Relationship("rId1", "styles", "styles.xml")});
+    EXPECT_THAT(Refusal(parts), HasSubstr(R"((A relationship Id "rId1" used twice in xl/_rels/workbook.xml.rels))"));
+}
+
 TEST_F(HostilePackageSaveOpenTest, SheetNamesExcelDoesNotAllowAreRefused) {
     EXPECT_THAT(Refusal(SheetsPackage({{"a/b", "visible"}}, kEmptySheet)),
                 HasSubstr(R"((The sheet name "a/b" is not one Excel allows))"));
