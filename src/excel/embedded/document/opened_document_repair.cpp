@@ -1,5 +1,6 @@
 #include "excel/embedded/document/opened_document_repair.hpp"
 
+#include "excel/embedded/model/cells/cell_limits.hpp"
 #include "excel/embedded/model/names/defined_name_rules.hpp"
 #include "excel/embedded/model/names/sheet_name_rules.hpp"
 #include "excel/embedded/text/utf8_text.hpp"
@@ -12,9 +13,6 @@
 namespace excel::embedded {
 
 namespace {
-
-constexpr size_t kMaxCellCharacters = 32767;
-constexpr size_t kMaxFormulaCharacters = 8192;
 
 // The names of the worksheets and of the sheets kept whole, in the workbook's order.
 std::vector<std::string_view> SheetNames(const ooxml::WorkbookDocument& document) {

@@ -1,6 +1,7 @@
 #include "excel/embedded/objects/range/cell_value.hpp"
 
 #include "excel/embedded/model/cells/cell_content.hpp"
+#include "excel/embedded/model/cells/cell_limits.hpp"
 #include "excel/embedded/model/date_system.hpp"
 #include "excel/embedded/text/general_format.hpp"
 #include "excel/embedded/text/text_entry.hpp"
@@ -44,9 +45,6 @@ void SetNumber(Cell& cell, double number) {
 // Excel's limits on what a cell holds: text of 32,767 characters, and a formula of 8,192 whose
 // parentheses, brackets, quoted texts and quoted sheet names all close. The formula rules apply to
 // every text that starts with "=", whatever the cell's number format.
-constexpr size_t kMaxCellCharacters = 32767;
-constexpr size_t kMaxFormulaCharacters = 8192;
-
 bool IsBalancedFormula(std::string_view formula) {
     int parentheses = 0;
     int brackets = 0;
