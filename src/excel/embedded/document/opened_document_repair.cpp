@@ -1,5 +1,7 @@
 #include "excel/embedded/document/opened_document_repair.hpp"
 
+#include "excel/embedded/document/format_document_conversion.hpp"
+#include "excel/embedded/format/format_table.hpp"
 #include "excel/embedded/model/cells/cell_limits.hpp"
 #include "excel/embedded/model/names/defined_name_rules.hpp"
 #include "excel/embedded/model/names/sheet_name_rules.hpp"
@@ -56,6 +58,23 @@ std::optional<std::string> CheckTexts(const ooxml::WorkbookDocument& document) {
         }
     }
     return std::nullopt;
+}
+
+// The engine keeps each distinct format once, so a file listing the same format many times opens;
+// more distinct formats than Excel allows could never be saved whole.
+std::optional<std::string> CheckCellFormats(const ooxml::WorkbookDocument& document) {
+    if (document.formats.size() <= kMaxCellFormats) {
+        return std::nullopt;
+    }
+    std::unordered_set<CellFormat, CellFormatHash> distinct;
+    for (const ooxml::CellFormat& format : document.formats) {
+        distinct.insert(CellFormatFromDocument(format));
+    }
+    if (distinct.size() <= kMaxCellFormats) {
+        return std::nullopt;
+    }
+    return "The workbook holds " + std::to_string(distinct.size()) + " different cell formats; Excel allows " +
+           std::to_string(kMaxCellFormats);
 }
 
 void ShowASheetWhenAllAreHidden(ooxml::WorkbookDocument& document) {
@@ -139,6 +158,9 @@ std::optional<std::string> RepairOpenedDocument(ooxml::WorkbookDocument& documen
         return refusal;
     }
     if (std::optional<std::string> refusal = CheckTexts(document)) {
+        return refusal;
+    }
+    if (std::optional<std::string> refusal = CheckCellFormats(document)) {
         return refusal;
     }
     ShowASheetWhenAllAreHidden(document);

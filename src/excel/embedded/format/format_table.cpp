@@ -1,5 +1,7 @@
 #include "excel/embedded/format/format_table.hpp"
 
+#include "excel/embedded/engine_errors.hpp"
+
 #include <functional>
 #include <string>
 
@@ -48,11 +50,16 @@ FormatTable::FormatTable() {
 }
 
 uint32_t FormatTable::Intern(const CellFormat& format) {
-    auto [it, inserted] = ids_.try_emplace(format, static_cast<uint32_t>(formats_.size()));
-    if (inserted) {
-        formats_.push_back(format);
+    if (const auto found = ids_.find(format); found != ids_.end()) {
+        return found->second;
     }
-    return it->second;
+    if (Room() == 0) {
+        ThrowRefused(kTooManyCellFormats);
+    }
+    const auto id = static_cast<uint32_t>(formats_.size());
+    formats_.push_back(format);
+    ids_.emplace(format, id);
+    return id;
 }
 
 }  // namespace excel::embedded

@@ -3,6 +3,7 @@
 #include "excel/embedded/engine_errors.hpp"
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace excel::embedded {
 
@@ -39,8 +40,28 @@ std::vector<uint32_t> RangeCells::DistinctFormats() const {
     return result;
 }
 
+// An edit makes at most one new format of each format it meets. Near Excel's limit those are
+// counted first, so that an edit passing it is refused before any cell changes.
+void RangeCells::checkRoomForEdit(const FormatTable& formats, const FormatChange::Edit& edit) const {
+    const std::vector<uint32_t> met = DistinctFormats();
+    if (met.size() <= formats.Room()) {
+        return;
+    }
+    std::unordered_set<CellFormat, CellFormatHash> added;
+    for (const uint32_t id : met) {
+        CellFormat format = formats.Get(id);
+        edit(format);
+        if (!formats.Holds(format) && added.insert(std::move(format)).second && added.size() > formats.Room()) {
+            ThrowRefused(kTooManyCellFormats);
+        }
+    }
+}
+
 void RangeCells::EditFormats(const FormatChange::Edit& edit) const {
     WorkbookModel& book = Book();
+    if (book.Formats().Room() < book.Formats().All().size()) {
+        checkRoomForEdit(book.Formats(), edit);
+    }
     FormatChange change(book.Formats(), edit);
     for (const CellBlock& area : Areas()) {
         sheet_->ApplyFormat(area, change);

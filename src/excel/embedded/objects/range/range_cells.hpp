@@ -39,6 +39,7 @@ public:
 
 private:
     void catchUp() const;
+    void checkRoomForEdit(const FormatTable& formats, const FormatChange::Edit& edit) const;
 
     std::shared_ptr<WorksheetModel> sheet_;
     // Brought up to date on reading, which does not change which cells are meant.
