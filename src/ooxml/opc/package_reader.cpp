@@ -14,6 +14,7 @@
 #include "ooxml/styles/styles_reader.hpp"
 #include "ooxml/theme/theme_reader.hpp"
 #include "ooxml/workbook/workbook_reader.hpp"
+#include "ooxml/worksheet/carried_worksheet_repair.hpp"
 #include "ooxml/worksheet/worksheet_element_order.hpp"
 #include "ooxml/worksheet/worksheet_reader.hpp"
 #include "ooxml/zip/zip_archive_reader.hpp"
@@ -158,6 +159,7 @@ private:
             document_.formats = std::move(styles.formats);
             document_.palette = std::move(styles.palette);
             carried_->styles = std::move(styles.carried);
+            differentialFormats_ = styles.differentialFormats;
             carriedParts_.Rewritten(stylesRelationship->target);
         }
         const Relationship* stringsRelationship = FindRelationshipOfType(workbookRelationships, "sharedStrings");
@@ -243,6 +245,7 @@ private:
                           sheet, *carried);
         carriedParts_.Rewritten(partName);
         ReadSheetDrawings(partName, drawings, sheet, *carried);
+        DropWhatExcelRepairs(*carried, differentialFormats_);
         sheet.carried = carried;
         carriedWorksheets_.push_back(std::move(carried));
     }
@@ -407,6 +410,7 @@ private:
     ContentTypeMap contentTypes_;
     WorkbookDocument document_;
     std::shared_ptr<CarriedWorkbook> carried_ = std::make_shared<CarriedWorkbook>();
+    std::size_t differentialFormats_ = 0;
     CarriedPartsReader carriedParts_;
     ChartPartsReader charts_;
     std::vector<Relationship> carriedSheetRelationships_;

@@ -189,6 +189,7 @@ StylesPart ReadStyles(std::string& xml, std::string_view partName) {
     styles.carried.numberFormats = xfs.NumberFormats();
     styles.palette = ReadIndexedColors(FirstChild(styleSheet, "colors"));
     styles.carried.listsIndexedColors = !styles.palette.empty();
+    ForEachChild(FirstChild(styleSheet, "dxfs"), "dxf", [&](pugi::xml_node) { ++styles.differentialFormats; });
     CarryStyles(styleSheet, styles.carried.markup);
     return styles;
 }

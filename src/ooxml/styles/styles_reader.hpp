@@ -2,6 +2,7 @@
 
 #include "ooxml/document/workbook_document.hpp"
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -16,6 +17,7 @@ struct StylesPart {
     // (of conditional formats and tables), table styles, colours and extensions, as the file
     // wrote them.
     CarriedStyles carried;
+    std::size_t differentialFormats = 0;  // the entries of dxfs, which conditional formats refer to
 };
 
 // Resolves every cellXfs entry of the styles part into a complete CellFormat, and keeps the rest. Throws
