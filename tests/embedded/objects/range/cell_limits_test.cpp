@@ -71,6 +71,25 @@ TEST_F(CellLimitsTest, UnbalancedFormulasAreRefused) {
     }
 }
 
+// A cell formatted as text keeps what is written as text, so what would be a formula Excel refuses
+// is stored there as written, and read back as text; a range with any other cell refuses it.
+TEST_F(CellLimitsTest, TextFormattedCellsKeepWhatWouldBeARefusedFormulaAsText) {
+    const std::string tooLong = "=" + std::string(8191, '1') + "+1";
+    At("A1:B1")->SetNumberFormat("@");
+    for (const std::string& text : {std::string("=SUM(1,2"), std::string("=\"open"), tooLong}) {
+        EXPECT_EQ(ErrorCodeOf([&] { At("A1")->SetValue(text); }), 0);
+        EXPECT_EQ(At("A1")->Value(), Variant(text));
+        EXPECT_EQ(At("A1")->Formula(), Variant(text));
+        EXPECT_EQ(ErrorCodeOf([&] { At("A1:B1")->SetFormula(text); }), 0);
+        EXPECT_EQ(At("B1")->Value(), Variant(text));
+    }
+    At("A1:C1")->SetValue("before");
+    EXPECT_EQ(ErrorCodeOf([&] { At("A1:C1")->SetValue("=SUM(1,2"); }), kRefused);
+    EXPECT_EQ(At("A1")->Value(), Variant("before"));
+    EXPECT_EQ(At("C1")->Value(), Variant("before"));
+    EXPECT_EQ(Written(std::string(32768, '=')), kRefused);  // text over 32,767 characters fits no cell
+}
+
 TEST_F(CellLimitsTest, NaNAndInfinitiesAreRefused) {
     EXPECT_EQ(Written(std::numeric_limits<double>::quiet_NaN()), kRefused);
     EXPECT_EQ(Written(std::numeric_limits<double>::infinity()), kRefused);

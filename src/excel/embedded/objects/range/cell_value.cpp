@@ -43,8 +43,7 @@ void SetNumber(Cell& cell, double number) {
 }
 
 // Excel's limits on what a cell holds: text of 32,767 characters, and a formula of 8,192 whose
-// parentheses, brackets, quoted texts and quoted sheet names all close. The formula rules apply to
-// every text that starts with "=", whatever the cell's number format.
+// parentheses, brackets, quoted texts and quoted sheet names all close.
 bool IsBalancedFormula(std::string_view formula) {
     int parentheses = 0;
     int brackets = 0;
@@ -66,12 +65,15 @@ bool IsBalancedFormula(std::string_view formula) {
     return quote == 0 && parentheses == 0 && brackets == 0;
 }
 
-bool IsStorableText(std::string_view text) {
+Storability TextStorability(std::string_view text) {
     const size_t length = Utf16Length(text);
     if (length > kMaxCellCharacters) {
-        return false;
+        return Storability::Unstorable;
     }
-    return !text.starts_with('=') || (length - 1 <= kMaxFormulaCharacters && IsBalancedFormula(text.substr(1)));
+    if (!text.starts_with('=') || (length - 1 <= kMaxFormulaCharacters && IsBalancedFormula(text.substr(1)))) {
+        return Storability::Storable;
+    }
+    return Storability::OnlyAsText;
 }
 
 }  // namespace
@@ -80,21 +82,22 @@ int32_t ErrorValueCode(int32_t errorNumber) {
     return static_cast<int32_t>(errorBase + static_cast<uint32_t>(errorNumber));
 }
 
-bool IsStorableValue(const Variant& value) {
+Storability StorabilityOf(const Variant& value) {
+    const auto storableIf = [](bool storable) { return storable ? Storability::Storable : Storability::Unstorable; };
     if (value.IsArray() || value.IsObject()) {
-        return false;
+        return Storability::Unstorable;
     }
     switch (value.Type()) {
         case VarType::Single:
         case VarType::Double:
         case VarType::Date:
-            return std::isfinite(value.ToDouble());
+            return storableIf(std::isfinite(value.ToDouble()));
         case VarType::String:
-            return IsStorableText(value.ToString());
+            return TextStorability(value.ToString());
         case VarType::Error:
-            return ErrorNumberOf(value).has_value();
+            return storableIf(ErrorNumberOf(value).has_value());
         default:
-            return true;
+            return Storability::Storable;
     }
 }
 

@@ -12,8 +12,12 @@
 namespace excel::embedded {
 
 // Whether Range.Value can store the value in a cell: no objects, arrays, unknown error codes,
-// NaN or infinities, nor texts or formulas beyond what Excel lets a cell hold.
-bool IsStorableValue(const Variant& value);
+// NaN or infinities, nor texts beyond what Excel lets a cell hold. A text starting with "=" that
+// Excel would refuse as a formula (too long, or not closed) is stored only by a cell formatted as
+// text, which keeps it as it is.
+// In growing strictness, so that the strictest of several values is their maximum.
+enum class Storability { Storable, OnlyAsText, Unstorable };
+Storability StorabilityOf(const Variant& value);
 
 // Stores values in cells as assigning Range.Value does: strings follow the text entry rules, and
 // dates and currency give a General cell their number format.

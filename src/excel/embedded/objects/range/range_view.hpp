@@ -1,5 +1,6 @@
 #pragma once
 
+#include "excel/embedded/objects/range/cell_value.hpp"
 #include "excel/embedded/objects/range/range_cells.hpp"
 
 #include <excel/range.hpp>
@@ -114,6 +115,7 @@ private:
     std::shared_ptr<RangeView> relative(int32_t top, int32_t left, int32_t bottom, int32_t right) const;
     Variant readValues(bool convertDates);
     void writeValues(const Variant& value, bool plain);
+    void refuseUnlessStorable(Storability storability) const;
     void clearValues();
     template <class Project>
     Variant readFormat(Project&& project);

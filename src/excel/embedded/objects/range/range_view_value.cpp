@@ -9,6 +9,7 @@
 #include <excel/constants.hpp>
 #include <excel/safe_array.hpp>
 
+#include <algorithm>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -91,6 +92,21 @@ Variant RangeView::readValues(bool convertDates) {
     return Variant(std::move(values));
 }
 
+// A text kept only by text-formatted cells is written only where every cell of the range is one.
+void RangeView::refuseUnlessStorable(Storability storability) const {
+    if (storability == Storability::Unstorable) {
+        RefuseUnstorable();
+    }
+    if (storability == Storability::OnlyAsText) {
+        const WorkbookModel& owner = cells_.Book();
+        for (const uint32_t format : cells_.DistinctFormats()) {
+            if (ClassifyNumberFormat(owner.Formats().Get(format).numberFormat) != NumberFormatKind::Text) {
+                RefuseUnstorable();
+            }
+        }
+    }
+}
+
 void RangeView::writeValues(const Variant& value, bool plain) {
     WorkbookModel& owner = book();
     if (value.IsArray()) {
@@ -98,18 +114,19 @@ void RangeView::writeValues(const Variant& value, bool plain) {
         if (array.Dimensions() != 1 && array.Dimensions() != 2) {
             RefuseUnstorable();
         }
+        Storability storability = Storability::Storable;
         for (const Variant& element : array.Elements()) {
-            if (!IsStorableValue(element)) {
-                RefuseUnstorable();
-            }
+            storability = std::max(storability, StorabilityOf(element));
         }
-    } else if (!IsStorableValue(value)) {
-        RefuseUnstorable();
-    } else if (value.IsEmpty()) {
-        // Writing Empty clears the values, touching only the cells that are stored; unlike
-        // ClearContents it may cut a merged block.
-        clearValues();
-        return;
+        refuseUnlessStorable(storability);
+    } else {
+        refuseUnlessStorable(StorabilityOf(value));
+        if (value.IsEmpty()) {
+            // Writing Empty clears the values, touching only the cells that are stored; unlike
+            // ClearContents it may cut a merged block.
+            clearValues();
+            return;
+        }
     }
     RefuseWritesBeyondMemory(cells_.Areas());
     CellValueWriter writer(owner);
@@ -187,10 +204,9 @@ Variant RangeView::Text() {
             if (differs) {
                 return;
             }
-            std::string text =
-                DisplayText(ContentOf(&cell, owner.Strings(), owner.OpenedFormulas()),
-                            owner.Formats().Get(cells_.Sheet()->ResolvedFormat(row, cell.column)).numberFormat,
-                            owner.Date1904());
+            std::string text = DisplayText(
+                ContentOf(&cell, owner.Strings(), owner.OpenedFormulas()),
+                owner.Formats().Get(cells_.Sheet()->ResolvedFormat(row, cell.column)).numberFormat, owner.Date1904());
             if (!common) {
                 common = std::move(text);
             } else if (*common != text) {
