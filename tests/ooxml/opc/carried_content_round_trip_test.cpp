@@ -31,7 +31,7 @@ std::string Relationships(const std::vector<std::string>& relationships) {
 
 // A workbook of two worksheets around a chart sheet, the first with a table, a picture beside a
 // text box, a hyperlink, printer settings, conditional formats and page set-up; links to another
-// workbook; the workbook's own theme.
+// workbook; the workbook's own theme, and styles holding the conditional format's formatting.
 PackageParts RichPackage() {
     PackageParts parts;
     parts["[Content_Types].xml"] = ooxml_test::ContentTypesPart(
@@ -44,7 +44,8 @@ PackageParts RichPackage() {
         R"(<Override PartName="/xl/tables/table1.xml" ContentType="application/vnd.openxmlformats-officedocument.spreadsheetml.table+xml"/>)"
         R"(<Override PartName="/xl/drawings/drawing1.xml" ContentType="application/vnd.openxmlformats-officedocument.drawing+xml"/>)"
         R"(<Override PartName="/xl/externalLinks/externalLink1.xml" ContentType="application/vnd.openxmlformats-officedocument.spreadsheetml.externalLink+xml"/>)"
-        R"(<Override PartName="/xl/theme/theme1.xml" ContentType="application/vnd.openxmlformats-officedocument.theme+xml"/>)");
+        R"(<Override PartName="/xl/theme/theme1.xml" ContentType="application/vnd.openxmlformats-officedocument.theme+xml"/>)"
+        R"(<Override PartName="/xl/styles.xml" ContentType="application/vnd.openxmlformats-officedocument.spreadsheetml.styles+xml"/>)");
     parts["_rels/.rels"] = Relationships({Relationship("rId1", "officeDocument", "xl/workbook.xml")});
     parts["xl/workbook.xml"] =
         std::string(Declaration) + "<workbook " + MainNamespaces +
@@ -64,7 +65,10 @@ PackageParts RichPackage() {
                        Relationship("rId2", "chartsheet", "chartsheets/sheet1.xml"),
                        Relationship("rId3", "worksheet", "worksheets/sheet2.xml"),
                        Relationship("rId4", "externalLink", "externalLinks/externalLink1.xml"),
-                       Relationship("rId5", "theme", "theme/theme1.xml")});
+                       Relationship("rId5", "theme", "theme/theme1.xml"),
+                       Relationship("rId6", "styles", "styles.xml")});
+    parts["xl/styles.xml"] = std::string(Declaration) + "<styleSheet " + MainNamespaces +
+                             R"(><dxfs count="1"><dxf><font><b/></font></dxf></dxfs></styleSheet>)";
     parts["xl/worksheets/sheet1.xml"] =
         std::string(Declaration) + "<worksheet " + MainNamespaces +
         R"( xmlns:x14ac="http://schemas.microsoft.com/office/spreadsheetml/2009/9/ac">)"
