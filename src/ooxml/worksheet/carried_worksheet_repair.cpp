@@ -93,8 +93,8 @@ bool AreRanges(std::string_view list, bool wholeLines) {
     return true;
 }
 
-// A list validation's values written in the rule itself ("a,b,c" in quotes) rather than taken
-// from cells.
+// A list validation whose values, written in the rule itself ("a,b,c" in quotes) rather than taken
+// from cells, pass the 255 characters Excel takes.
 bool ListsTooMuch(pugi::xml_node validation) {
     if (AttributeText(validation, "type") != "list") {
         return false;
