@@ -20,12 +20,8 @@ endif()
 include(ExternalProject)
 set(fuzz_dir ${CMAKE_BINARY_DIR}/fuzz-build)
 set(fuzz_targets open_fuzzer open_save_fuzzer fuzz_seed_corpus)
-# Under make the sub-build shares the jobs of the make that runs it.
-if(CMAKE_GENERATOR MATCHES "Makefiles")
-  set(fuzz_build_command $(MAKE) -C <BINARY_DIR> ${fuzz_targets})
-else()
-  set(fuzz_build_command ${CMAKE_COMMAND} --build <BINARY_DIR> --target ${fuzz_targets})
-endif()
+include(${PROJECT_SOURCE_DIR}/cmake/sub_build_command.cmake)
+vos_sub_build_command(fuzz_build_command ${fuzz_targets})
 ExternalProject_Add(fuzz_build
   SOURCE_DIR ${PROJECT_SOURCE_DIR}
   BINARY_DIR ${fuzz_dir}
